@@ -1,0 +1,153 @@
+#include "base/number_reader.h"
+
+#include "base/checked.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string>
+
+namespace base {
+
+namespace {
+
+constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr int kExactDigits = 15;
+constexpr int kMaxDigits = 400;
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
+int SingleByte(const std::string& separator) {
+    return separator.size() == 1 ? static_cast<unsigned char>(separator[0]) : -1;
+}
+
+/// Digits collected from a text: an integer mantissa while it is exact, and the digits themselves beyond that.
+class Mantissa {
+public:
+    void Add(char digit, bool fraction) {
+        if (fraction)
+            --exponent_;
+        if (count_ == 0 && digit == '0')
+            return;
+        if (count_ < kExactDigits)
+            value_ = value_ * 10 + static_cast<std::uint64_t>(digit - '0');
+        if (count_ < kMaxDigits)
+            digits_[static_cast<std::size_t>(count_)] = digit;
+        else
+            ++exponent_; // beyond any double's precision: only the magnitude counts
+        if (count_ < kMaxDigits)
+            ++count_;
+    }
+
+    double Value(int exponent) const {
+        if (count_ == 0)
+            return 0.0;
+        exponent += exponent_;
+        if (count_ <= kExactDigits && exponent >= -22 && exponent <= 22) {
+            const double exact = static_cast<double>(value_);
+            const double power = kPowersOfTen[static_cast<std::size_t>(exponent < 0 ? -exponent : exponent)];
+            return exponent < 0 ? exact / power : exact * power;
+        }
+        std::string text(digits_.data(), static_cast<std::size_t>(count_));
+        text += 'e';
+        text += std::to_string(exponent);
+        double value = 0;
+        const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+        if (result.ec == std::errc::result_out_of_range)
+            return exponent + count_ > 0 ? HUGE_VAL : 0.0;
+        return value;
+    }
+
+private:
+    std::uint64_t value_ = 0;
+    int count_ = 0;
+    int exponent_ = 0;
+    std::array<char, kMaxDigits> digits_; // NOLINT: only the first count_ are ever read
+};
+
+} // namespace
+
+NumberReader::NumberReader(const RegionalSettings& settings)
+    : settings_(settings), decimal_(SingleByte(settings.decimal)), thousands_(SingleByte(settings.thousands)) {}
+
+std::optional<double> NumberReader::TryPlain(std::string_view text) const {
+    const char* at = text.data();
+    const char* end = at + text.size();
+    while (at != end && IsBlank(*at))
+        ++at;
+    while (at != end && IsBlank(end[-1]))
+        --end;
+    const bool negative = at != end && *at == '-';
+    if (at != end && (*at == '-' || *at == '+'))
+        ++at;
+    if (at == end || !(IsDigit(*at) || static_cast<unsigned char>(*at) == decimal_))
+        return std::nullopt;
+
+    Mantissa mantissa;
+    bool any = false;
+    for (; at != end; ++at) {
+        if (IsDigit(*at)) {
+            mantissa.Add(*at, false);
+            any = true;
+        } else if (static_cast<unsigned char>(*at) != thousands_ || !any || thousands_ == decimal_) {
+            break;
+        }
+    }
+    if (at != end && static_cast<unsigned char>(*at) == decimal_) {
+        for (++at; at != end && IsDigit(*at); ++at) {
+            mantissa.Add(*at, true);
+            any = true;
+        }
+    }
+    if (!any)
+        return std::nullopt;
+    int exponent = 0;
+    if (at != end && (*at == 'e' || *at == 'E')) {
+        ++at;
+        const bool down = at != end && *at == '-';
+        if (at != end && (*at == '-' || *at == '+'))
+            ++at;
+        const char* const first = at;
+        for (; at != end && IsDigit(*at); ++at)
+            exponent = exponent < 10000 ? exponent * 10 + (*at - '0') : exponent;
+        if (at == first)
+            return std::nullopt;
+        exponent = down ? -exponent : exponent;
+    }
+    if (at != end)
+        return std::nullopt;
+    const double value = mantissa.Value(exponent);
+    return negative ? -value : value;
+}
+
+std::optional<double> NumberReader::Parse(std::string_view text) const {
+    const std::optional<double> plain = TryPlain(text);
+    if (plain || settings_.systemParse == nullptr)
+        return plain;
+    return settings_.systemParse(text);
+}
+
+std::optional<double> NumberReader::TryDecimal(std::string_view text) const {
+    const std::optional<double> value = Parse(text);
+    return value && std::isfinite(*value) ? value : std::nullopt;
+}
+
+double NumberReader::Decimal(std::string_view text) const {
+    const std::optional<double> value = Parse(text);
+    if (!value)
+        Raise(RunTimeError::TypeMismatch);
+    if (!std::isfinite(*value))
+        Raise(RunTimeError::Overflow);
+    return *value;
+}
+
+std::int32_t NumberReader::Hundredths(std::string_view text) const { return RoundToLong(Decimal(text) * 100.0); }
+
+std::int32_t NumberReader::Long(std::string_view text) const { return RoundToLong(Decimal(text)); }
+
+std::int16_t NumberReader::Integer(std::string_view text) const { return RoundToInteger(Decimal(text)); }
+
+} // namespace base

@@ -1,0 +1,35 @@
+#include "base/letter_case.h"
+
+#include <clocale>
+#include <cwctype>
+
+namespace base {
+
+namespace {
+
+/// A locale with Unicode letter tables; nullptr (then only ASCII letters change) where none is installed.
+locale_t UnicodeLocale() {
+    static const locale_t locale = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    return locale;
+}
+
+template <class Map>
+std::u16string Mapped(std::u16string_view text, Map map) {
+    std::u16string result(text);
+    for (char16_t& unit : result) {
+        if ((unit & 0xF800) == 0xD800)
+            continue;
+        const auto mapped = map(static_cast<wint_t>(unit), UnicodeLocale());
+        if (mapped < 0x10000)
+            unit = static_cast<char16_t>(mapped);
+    }
+    return result;
+}
+
+} // namespace
+
+std::u16string UpperCase(std::u16string_view text) { return Mapped(text, towupper_l); }
+
+std::u16string LowerCase(std::u16string_view text) { return Mapped(text, towlower_l); }
+
+} // namespace base

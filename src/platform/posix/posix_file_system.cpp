@@ -1,0 +1,154 @@
+#include "platform/posix/posix_file_system.h"
+
+#include "base/error.h"
+#include "platform/posix/utf8.h"
+
+#include <cerrno>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace platform {
+
+using base::RunTimeError;
+
+namespace {
+
+bool IsFolder(const std::string& path) {
+    struct stat info {};
+    return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+std::string ParentFolder(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    if (slash == std::string::npos)
+        return ".";
+    return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+[[noreturn]] void RaiseOpenFailure(int error, const std::string& path) {
+    switch (error) {
+    case ENOENT:
+        base::Raise(path.empty()                     ? RunTimeError::BadFileName
+                    : IsFolder(ParentFolder(path)) ? RunTimeError::FileNotFound
+                                                     : RunTimeError::PathNotFound);
+    case ENOTDIR: base::Raise(RunTimeError::PathNotFound);
+    case ENAMETOOLONG:
+    case EINVAL: base::Raise(RunTimeError::BadFileName);
+    case EISDIR: base::Raise(RunTimeError::PathFileAccess);
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case ETXTBSY: base::Raise(RunTimeError::PermissionDenied);
+    case ENOSPC:
+    case EDQUOT: base::Raise(RunTimeError::DiskFull);
+    case ENOMEM: base::Raise(RunTimeError::OutOfMemory);
+    default: base::Raise(RunTimeError::DeviceIo);
+    }
+}
+
+[[noreturn]] void RaiseTransferFailure(int error) {
+    base::Raise(error == ENOSPC || error == EDQUOT || error == EFBIG ? RunTimeError::DiskFull
+                                                                      : RunTimeError::DeviceIo);
+}
+
+int OpenFlags(base::OpenMode mode) {
+    switch (mode) {
+    case base::OpenMode::Read: return O_RDONLY;
+    case base::OpenMode::Replace: return O_WRONLY | O_CREAT | O_TRUNC;
+    case base::OpenMode::Overlay: return O_WRONLY | O_CREAT;
+    case base::OpenMode::Append: return O_WRONLY | O_CREAT | O_APPEND;
+    }
+    return O_RDONLY;
+}
+
+class PosixFile final : public base::File {
+public:
+    explicit PosixFile(int handle) : handle_(handle) {}
+    PosixFile(const PosixFile&) = delete;
+    PosixFile& operator=(const PosixFile&) = delete;
+    ~PosixFile() override {
+        if (handle_ >= 0)
+            close(handle_);
+    }
+
+    std::uint64_t Size() override {
+        struct stat info {};
+        if (fstat(handle_, &info) != 0)
+            RaiseTransferFailure(errno);
+        return static_cast<std::uint64_t>(info.st_size);
+    }
+
+    std::size_t Read(char* buffer, std::size_t count) override {
+        ssize_t got = -1;
+        do
+            got = read(handle_, buffer, count);
+        while (got < 0 && errno == EINTR);
+        if (got < 0)
+            RaiseTransferFailure(errno);
+        return static_cast<std::size_t>(got);
+    }
+
+    void Write(const char* bytes, std::size_t count) override {
+        while (count > 0) {
+            const ssize_t put = write(handle_, bytes, count);
+            if (put < 0 && errno == EINTR)
+                continue;
+            if (put < 0)
+                RaiseTransferFailure(errno);
+            bytes += put;
+            count -= static_cast<std::size_t>(put);
+        }
+    }
+
+    void Close() override {
+        const int handle = handle_;
+        handle_ = -1;
+        if (handle >= 0 && close(handle) != 0)
+            RaiseTransferFailure(errno);
+    }
+
+private:
+    int handle_;
+};
+
+} // namespace
+
+std::unique_ptr<base::File> PosixFileSystem::Open(const std::u16string& path, base::OpenMode mode) {
+    const std::string name = ToUtf8(path);
+    if (name.find('\0') != std::string::npos)
+        base::Raise(RunTimeError::BadFileName);
+    const int handle = open(name.c_str(), OpenFlags(mode) | O_CLOEXEC, 0666);
+    if (handle < 0)
+        RaiseOpenFailure(errno, name);
+    auto file = std::make_unique<PosixFile>(handle);
+    struct stat info {};
+    if (fstat(handle, &info) == 0 && S_ISDIR(info.st_mode))
+        base::Raise(RunTimeError::PathFileAccess);
+    return file;
+}
+
+bool PosixFileSystem::FileExists(const std::u16string& path) {
+    struct stat info {};
+    return stat(ToUtf8(path).c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
+}
+
+bool PosixFileSystem::FolderExists(const std::u16string& path) { return IsFolder(ToUtf8(path)); }
+
+std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& folder) {
+    const std::string name = ToUtf8(folder);
+    const std::unique_ptr<DIR, int (*)(DIR*)> handle(opendir(name.c_str()), closedir);
+    if (!handle)
+        base::Raise(RunTimeError::PathNotFound);
+    std::vector<base::FolderEntry> entries;
+    while (const dirent* entry = readdir(handle.get())) {
+        const std::string path = name + "/" + entry->d_name;
+        const bool folderEntry = entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK ? IsFolder(path) : entry->d_type == DT_DIR;
+        if (!folderEntry)
+            entries.push_back({FromUtf8(entry->d_name), FromUtf8(path)});
+    }
+    return entries;
+}
+
+} // namespace platform

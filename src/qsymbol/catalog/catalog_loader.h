@@ -1,0 +1,28 @@
+#pragma once
+
+#include "qsymbol/catalog/catalog_sink.h"
+#include "qsymbol/files/file_environment.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace qsymbol {
+
+/// Loads every binary symbol file of the folder. A folder that does not exist loads nothing.
+///
+/// A file that fails is shown to the user, who aborts, retries or ignores it; other errors are thrown.
+void ReadKatalog(std::u16string_view folder, CatalogSink& sink, const FileEnvironment& environment);
+
+/// The host's list of names: how many there are, and whether a name (upper case) is one of them.
+struct NameList {
+    std::int32_t count = 0;
+    std::function<bool(const std::u16string& name)> contains;
+};
+
+/// Loads the binary symbol files of the folder whose names are in the list.
+///
+/// False, with nothing loaded, when the list is longer than 0.8 times the number of files in the folder.
+bool ReadListe(std::u16string_view folder, const NameList& list, CatalogSink& sink, const FileEnvironment& environment);
+
+} // namespace qsymbol

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace qsymbol {
+
+/// Seam: message texts by number from the resource library.
+class ResourceStrings {
+public:
+    virtual ~ResourceStrings() = default;
+
+    /// "" when there is no such string, or no resource library at all. Never fails.
+    virtual std::u16string LoadResString(std::int32_t id) const = 0;
+};
+
+} // namespace qsymbol

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string_view>
+
+namespace qsymbol {
+
+enum class FailureChoice { Abort, Retry, Ignore };
+
+/// Seam: what the library says to the user and asks of him. A DLL answers with message boxes, a test from a script.
+class UserPrompt {
+public:
+    virtual ~UserPrompt() = default;
+
+    /// A notice with the critical-stop icon and an OK button; the title is the host application's.
+    virtual void ReportError(std::u16string_view text) = 0;
+    /// A notice with an OK button and no icon; the title is the host application's.
+    virtual void Notice(std::u16string_view text) = 0;
+    /// A notice with the information icon and an OK button; the title is the host application's.
+    virtual void Inform(std::u16string_view text) = 0;
+    /// Yes or No, no icon, with the given title. True for Yes.
+    virtual bool AskYesNo(std::u16string_view text, std::u16string_view title) = 0;
+    /// Abort, Retry or Ignore with the critical-stop icon; the title is the host application's.
+    virtual FailureChoice AskAbortRetryIgnore(std::u16string_view text) = 0;
+};
+
+} // namespace qsymbol
