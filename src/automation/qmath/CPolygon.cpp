@@ -1,0 +1,17 @@
+#include "automation/qmath/CPolygon.h"
+
+#include "automation/qmath/point_access.h"
+
+STDMETHODIMP CPolygon::SetPoints(_CPtList* list) {
+    return Do([&] { polygon_ = qmath::Polygon(GetPoints(list)); });
+}
+
+STDMETHODIMP CPolygon::PtInside(LONG x, LONG y, VARIANT_BOOL* value) {
+    return Return(value, [&] { return polygon_.PtInside({x, y}) ? VARIANT_TRUE : VARIANT_FALSE; });
+}
+
+STDMETHODIMP CPolygon::RectTouches(LONG left, LONG top, LONG right, LONG bottom, VARIANT_BOOL* value) {
+    return Return(value, [&] {
+        return polygon_.RectTouches({left, top, right, bottom}) ? VARIANT_TRUE : VARIANT_FALSE;
+    });
+}

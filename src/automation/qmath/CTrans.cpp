@@ -1,0 +1,51 @@
+#include "automation/qmath/CTrans.h"
+
+#include "automation/qmath/point_access.h"
+
+STDMETHODIMP CTrans::SetScale(double scale) {
+    return Do([&] { transform_.SetScale(scale); });
+}
+
+STDMETHODIMP CTrans::SetOffsetX(LONG value) {
+    return Do([&] { transform_.SetOffsetX(value); });
+}
+
+STDMETHODIMP CTrans::SetOffsetY(LONG value) {
+    return Do([&] { transform_.SetOffsetY(value); });
+}
+
+STDMETHODIMP CTrans::WorldToScreen(LONG* x, LONG* y) {
+    return Do([&] {
+        const qmath::Point pixel = transform_.WorldToScreen({com::Out(x), com::Out(y)});
+        *x = pixel.x;
+        *y = pixel.y;
+    });
+}
+
+STDMETHODIMP CTrans::PtWorldToScreen(_CPt** pt) {
+    return Do([&] { SetPoint(com::Out(pt), transform_.WorldToScreen(GetPoint(*pt))); });
+}
+
+STDMETHODIMP CTrans::LengthToScreen(LONG* length) {
+    return Do([&] { com::Out(length) = transform_.LengthToScreen(com::Out(length)); });
+}
+
+STDMETHODIMP CTrans::FontSizeToScreen(double factor, SHORT size, LONG* value) {
+    return Return(value, [&] { return transform_.FontSizeToScreen(factor, size); });
+}
+
+STDMETHODIMP CTrans::PtScreenToWorld(_CPt** pt) {
+    return Do([&] { SetPoint(com::Out(pt), transform_.ScreenToWorld(GetPoint(*pt))); });
+}
+
+STDMETHODIMP CTrans::get_Scale(double* value) {
+    return Return(value, [&] { return transform_.Scale(); });
+}
+
+STDMETHODIMP CTrans::get_OffsetX(LONG* value) {
+    return Return(value, [&] { return transform_.OffsetX(); });
+}
+
+STDMETHODIMP CTrans::get_OffsetY(LONG* value) {
+    return Return(value, [&] { return transform_.OffsetY(); });
+}

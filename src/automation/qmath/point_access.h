@@ -1,0 +1,16 @@
+#pragma once
+
+#include "com/com_ptr.h"
+#include "qmath/point.h"
+
+#include <QMath.h>
+
+#include <vector>
+
+/// The coordinates of any CPt, also of a foreign implementation. Error 91 for Nothing.
+qmath::Point GetPoint(_CPt* pt);
+
+void SetPoint(_CPt* pt, const qmath::Point& value);
+
+/// The coordinates of all points of any CPtList, in order. Error 91 for Nothing.
+std::vector<qmath::Point> GetPoints(_CPtList* list);

@@ -1,0 +1,95 @@
+#include "com/enumerator.h"
+
+#include "com/error_info.h"
+#include "com/module.h"
+
+#include <oleauto.h>
+
+#include <atomic>
+#include <utility>
+
+namespace com {
+
+namespace {
+
+class Enumerator final : public IEnumVARIANT {
+public:
+    Enumerator(ComPtr<IUnknown> collection, NextItem next, std::uint64_t cursor)
+        : collection_(std::move(collection)), next_(std::move(next)), cursor_(cursor) {
+        TheModule().Lock();
+    }
+    Enumerator(const Enumerator&) = delete;
+    Enumerator& operator=(const Enumerator&) = delete;
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        if (object == nullptr)
+            return E_POINTER;
+        *object = nullptr;
+        if (iid != IID_IUnknown && iid != IID_IEnumVARIANT)
+            return E_NOINTERFACE;
+        *object = static_cast<IEnumVARIANT*>(this);
+        AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+    STDMETHODIMP_(ULONG) Release() override {
+        const ULONG left = --references_;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+
+    STDMETHODIMP Next(ULONG count, VARIANT* items, ULONG* fetched) override {
+        ULONG got = 0;
+        if (fetched != nullptr)
+            *fetched = 0;
+        if (items == nullptr)
+            return E_POINTER;
+        const HRESULT status = Guard(IID_IEnumVARIANT, [&] {
+            ComPtr<IDispatch> item;
+            for (; got < count && next_(cursor_, item); ++got) {
+                VariantInit(&items[got]);
+                V_VT(&items[got]) = VT_DISPATCH;
+                V_DISPATCH(&items[got]) = item.Detach();
+            }
+        });
+        if (fetched != nullptr)
+            *fetched = got;
+        return FAILED(status) ? status : got == count ? S_OK : S_FALSE;
+    }
+    STDMETHODIMP Skip(ULONG count) override {
+        bool complete = true;
+        const HRESULT status = Guard(IID_IEnumVARIANT, [&] {
+            ComPtr<IDispatch> item;
+            for (ULONG i = 0; i < count && complete; ++i)
+                complete = next_(cursor_, item);
+        });
+        return FAILED(status) ? status : complete ? S_OK : S_FALSE;
+    }
+    STDMETHODIMP Reset() override {
+        cursor_ = 0;
+        return S_OK;
+    }
+    STDMETHODIMP Clone(IEnumVARIANT** copy) override {
+        if (copy == nullptr)
+            return E_POINTER;
+        *copy = nullptr;
+        return Guard(IID_IEnumVARIANT, [&] { *copy = NewEnumerator(collection_, next_, cursor_).Detach(); });
+    }
+
+private:
+    virtual ~Enumerator() { TheModule().Unlock(); }
+
+    ComPtr<IUnknown> collection_;
+    NextItem next_;
+    std::uint64_t cursor_;
+    std::atomic<ULONG> references_ = 1;
+};
+
+} // namespace
+
+ComPtr<IEnumVARIANT> NewEnumerator(ComPtr<IUnknown> collection, NextItem next, std::uint64_t cursor) {
+    return ComPtr<IEnumVARIANT>::Attach(new Enumerator(std::move(collection), std::move(next), cursor));
+}
+
+} // namespace com

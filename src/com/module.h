@@ -1,0 +1,57 @@
+#pragma once
+
+#include "com/class_entry.h"
+#include "com/com_ptr.h"
+
+#include <oaidl.h>
+
+#include <atomic>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace com {
+
+/// What one DLL is: its identity, its creatable classes, its type library, and how many of its objects live.
+class Module {
+public:
+    struct Identity {
+        std::u16string_view name; ///< the library's name, source of run-time errors
+        const GUID* typeLibrary;
+        WORD major;
+        WORD minor;
+        LCID locale;
+        std::span<const ClassEntry> classes;
+    };
+
+    void Start(HINSTANCE instance, const Identity& identity);
+    /// Lets the cached type library go; not called when the whole process ends.
+    void Stop();
+
+    HINSTANCE Instance() const { return instance_; }
+    std::u16string_view Name() const { return identity_.name; }
+    const Identity& GetIdentity() const { return identity_; }
+    /// Full path of the DLL; empty when the system does not tell.
+    std::wstring Path() const;
+    /// Folder of the DLL with a backslash at its end.
+    std::wstring Folder() const;
+
+    /// The type library from the DLL's own resource, loaded once.
+    ITypeLib& TypeLibrary();
+
+    void Lock() { ++locks_; }
+    void Unlock() { --locks_; }
+    /// True when no object lives and no lock is held.
+    bool CanUnload() const { return locks_ == 0; }
+
+private:
+    HINSTANCE instance_ = nullptr;
+    Identity identity_{};
+    ComPtr<ITypeLib> typeLibrary_;
+    std::atomic<long> locks_ = 0;
+};
+
+/// The module of the DLL that this code is linked into.
+Module& TheModule();
+
+} // namespace com

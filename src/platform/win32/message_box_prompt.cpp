@@ -1,0 +1,44 @@
+#include "platform/win32/message_box_prompt.h"
+
+#include "platform/win32/application_title.h"
+
+#include <windows.h>
+
+#include <string>
+
+namespace platform {
+
+namespace {
+
+int Show(std::u16string_view text, std::u16string_view title, UINT type) {
+    const std::u16string ownText(text);
+    const std::u16string ownTitle(title);
+    return MessageBoxW(GetActiveWindow(), reinterpret_cast<const wchar_t*>(ownText.c_str()),
+                       reinterpret_cast<const wchar_t*>(ownTitle.c_str()), type);
+}
+
+} // namespace
+
+void MessageBoxPrompt::ReportError(std::u16string_view text) {
+    Show(text, ApplicationTitle(), MB_OK | MB_ICONERROR);
+}
+
+void MessageBoxPrompt::Notice(std::u16string_view text) { Show(text, ApplicationTitle(), MB_OK); }
+
+void MessageBoxPrompt::Inform(std::u16string_view text) {
+    Show(text, ApplicationTitle(), MB_OK | MB_ICONINFORMATION);
+}
+
+bool MessageBoxPrompt::AskYesNo(std::u16string_view text, std::u16string_view title) {
+    return Show(text, title, MB_YESNO) == IDYES;
+}
+
+qsymbol::FailureChoice MessageBoxPrompt::AskAbortRetryIgnore(std::u16string_view text) {
+    switch (Show(text, ApplicationTitle(), MB_ABORTRETRYIGNORE | MB_ICONERROR)) {
+    case IDRETRY: return qsymbol::FailureChoice::Retry;
+    case IDIGNORE: return qsymbol::FailureChoice::Ignore;
+    default: return qsymbol::FailureChoice::Abort; // also when no box could be shown: never loop
+    }
+}
+
+} // namespace platform

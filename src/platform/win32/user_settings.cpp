@@ -1,0 +1,42 @@
+#include "platform/win32/user_settings.h"
+
+#include "platform/win32/ansi_code_page.h"
+
+#include <windows.h>
+
+#include <oleauto.h>
+
+#include <limits>
+
+namespace platform {
+
+namespace {
+
+std::string Separator(LCTYPE type) {
+    wchar_t text[8] = {};
+    const int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, 8);
+    if (length <= 1)
+        return {};
+    return AnsiCodePage().Encode({reinterpret_cast<const char16_t*>(text), static_cast<std::size_t>(length - 1)});
+}
+
+/// What the automation run-time makes of a text; infinity for a number out of range.
+std::optional<double> ParseAsAutomation(std::string_view text) {
+    const std::u16string wide = AnsiCodePage().Decode(text);
+    double value = 0;
+    const HRESULT status =
+        VarR8FromStr(reinterpret_cast<const wchar_t*>(wide.c_str()), LOCALE_USER_DEFAULT, 0, &value);
+    if (status == DISP_E_OVERFLOW)
+        return std::numeric_limits<double>::infinity();
+    return SUCCEEDED(status) ? std::optional<double>(value) : std::nullopt;
+}
+
+} // namespace
+
+base::RegionalSettings UserSettings() {
+    return {.decimal = Separator(LOCALE_SDECIMAL),
+            .thousands = Separator(LOCALE_STHOUSAND),
+            .systemParse = ParseAsAutomation};
+}
+
+} // namespace platform

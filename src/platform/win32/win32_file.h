@@ -1,0 +1,26 @@
+#pragma once
+
+#include "base/file.h"
+
+#include <windows.h>
+
+namespace platform {
+
+/// An open file of Windows; owns the handle.
+class Win32File final : public base::File {
+public:
+    explicit Win32File(HANDLE handle) : handle_(handle) {}
+    Win32File(const Win32File&) = delete;
+    Win32File& operator=(const Win32File&) = delete;
+    ~Win32File() override;
+
+    std::uint64_t Size() override;
+    std::size_t Read(char* buffer, std::size_t count) override;
+    void Write(const char* bytes, std::size_t count) override;
+    void Close() override;
+
+private:
+    HANDLE handle_;
+};
+
+} // namespace platform

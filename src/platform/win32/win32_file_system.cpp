@@ -1,0 +1,108 @@
+#include "platform/win32/win32_file_system.h"
+
+#include "base/error.h"
+#include "platform/win32/win32_file.h"
+
+namespace platform {
+
+using base::RunTimeError;
+
+namespace {
+
+const wchar_t* Wide(const std::u16string& text) { return reinterpret_cast<const wchar_t*>(text.c_str()); }
+
+DWORD Attributes(const std::u16string& path) {
+    return path.empty() || path.find(u'\0') != std::u16string::npos ? INVALID_FILE_ATTRIBUTES
+                                                                    : GetFileAttributesW(Wide(path));
+}
+
+bool IsFolder(DWORD attributes) {
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+[[noreturn]] void RaiseOpenFailure(DWORD error, const std::u16string& path) {
+    // The system answers "access denied" for a folder.
+    if (IsFolder(Attributes(path)))
+        base::Raise(RunTimeError::PathFileAccess);
+    switch (error) {
+    case ERROR_FILE_NOT_FOUND: base::Raise(RunTimeError::FileNotFound);
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_BAD_NETPATH:
+    case ERROR_BAD_NET_NAME:
+    case ERROR_INVALID_DRIVE:
+    case ERROR_DIRECTORY: base::Raise(RunTimeError::PathNotFound);
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+    case ERROR_WRITE_PROTECT: base::Raise(RunTimeError::PermissionDenied);
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_PATHNAME:
+    case ERROR_FILENAME_EXCED_RANGE:
+    case ERROR_BUFFER_OVERFLOW: base::Raise(RunTimeError::BadFileName);
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL: base::Raise(RunTimeError::DiskFull);
+    case ERROR_NOT_ENOUGH_MEMORY:
+    case ERROR_OUTOFMEMORY: base::Raise(RunTimeError::OutOfMemory);
+    default: base::Raise(RunTimeError::DeviceIo);
+    }
+}
+
+struct OpenFlags {
+    DWORD access;
+    DWORD share;
+    DWORD creation;
+};
+
+OpenFlags FlagsFor(base::OpenMode mode) {
+    switch (mode) {
+    case base::OpenMode::Read: return {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING};
+    case base::OpenMode::Replace: return {GENERIC_WRITE, 0, CREATE_ALWAYS};
+    case base::OpenMode::Overlay: return {GENERIC_WRITE, 0, OPEN_ALWAYS};
+    // Appending leaves the file open to the host, which goes on appending on its own.
+    case base::OpenMode::Append: return {FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE, OPEN_ALWAYS};
+    }
+    return {GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING};
+}
+
+} // namespace
+
+std::unique_ptr<base::File> Win32FileSystem::Open(const std::u16string& path, base::OpenMode mode) {
+    if (path.empty() || path.find(u'\0') != std::u16string::npos)
+        base::Raise(RunTimeError::BadFileName);
+    const OpenFlags flags = FlagsFor(mode);
+    const HANDLE handle =
+        CreateFileW(Wide(path), flags.access, flags.share, nullptr, flags.creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        RaiseOpenFailure(GetLastError(), path);
+    return std::make_unique<Win32File>(handle);
+}
+
+bool Win32FileSystem::FileExists(const std::u16string& path) {
+    const DWORD attributes = Attributes(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && !IsFolder(attributes);
+}
+
+bool Win32FileSystem::FolderExists(const std::u16string& path) { return IsFolder(Attributes(path)); }
+
+std::vector<base::FolderEntry> Win32FileSystem::ListFiles(const std::u16string& folder) {
+    const std::u16string prefix = !folder.empty() && (folder.back() == u'\\' || folder.back() == u'/') ? folder : folder + u"\\";
+    const std::u16string pattern = prefix + u"*";
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileExW(Wide(pattern), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0);
+    if (search == INVALID_HANDLE_VALUE) {
+        if (GetLastError() == ERROR_FILE_NOT_FOUND)
+            return {};
+        base::Raise(GetLastError() == ERROR_ACCESS_DENIED ? RunTimeError::PermissionDenied : RunTimeError::PathNotFound);
+    }
+    const std::unique_ptr<void, decltype(&FindClose)> owner(search, &FindClose);
+    std::vector<base::FolderEntry> entries;
+    do {
+        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+            continue;
+        const std::u16string name(reinterpret_cast<const char16_t*>(found.cFileName));
+        entries.push_back({name, prefix + name});
+    } while (FindNextFileW(search, &found) != FALSE);
+    return entries;
+}
+
+} // namespace platform

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "base/file_system.h"
+
+namespace platform {
+
+/// The file system of Windows.
+class Win32FileSystem final : public base::FileSystem {
+public:
+    std::unique_ptr<base::File> Open(const std::u16string& path, base::OpenMode mode) override;
+    bool FileExists(const std::u16string& path) override;
+    bool FolderExists(const std::u16string& path) override;
+    std::vector<base::FolderEntry> ListFiles(const std::u16string& folder) override;
+};
+
+} // namespace platform
