@@ -1,0 +1,148 @@
+#include "qsymbol/draw/element_painter.h"
+
+#include "base/checked.h"
+#include "qmath/math_util.h"
+#include "qsymbol/draw/screen_point_buffer.h"
+#include "qsymbol/draw/selected_font.h"
+#include "qsymbol/draw/surface_constants.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace qsymbol {
+
+namespace {
+
+/// World units to a millimetre, as font sizes take them.
+constexpr double kFontFactor = 100.0;
+/// A text record with the size flag keeps its font size in hundredths.
+constexpr double kFlaggedSizeDivisor = 100.0;
+
+std::size_t PointCount(ElementType type) {
+    return type == ElementType::Arc ? 3 : 1;
+}
+
+qmath::Rect SquareAround(qmath::Point centre, std::int32_t radius) {
+    return {base::CheckedSub(centre.x, radius), base::CheckedSub(centre.y, radius),
+            base::CheckedAdd(centre.x, radius), base::CheckedAdd(centre.y, radius)};
+}
+
+} // namespace
+
+void ElementPainter::Paint(const ElementRecord& element) {
+    if (!HasItsPoints(element))
+        return;
+    switch (element.type) {
+    case ElementType::Poly: return PaintPoly(element);
+    case ElementType::Circle:
+    case ElementType::Arc: return PaintRound(element);
+    case ElementType::Text: return PaintText(element);
+    case ElementType::Undefined: return;
+    }
+}
+
+bool ElementPainter::HasItsPoints(const ElementRecord& element) const {
+    const std::size_t count = element.points.size();
+    if (rules_.source == PaintSource::SymbolRecord)
+        return count >= PointCount(element.type);
+    switch (element.type) {
+    case ElementType::Poly: return count >= 2;
+    case ElementType::Text: return count >= 1;
+    default: return count == PointCount(element.type);
+    }
+}
+
+void ElementPainter::PaintPoly(const ElementRecord& element) {
+    pen_.ForeColor(Colour(element.mainColor));
+    PutPen(element, element.lineClosed && element.fillColor >= 0);
+
+    const ScreenPointBuffer::Lease buffer(ScreenPointBuffer::Shared(), element.points.size());
+    ToScreen(element.points, buffer.Points());
+    // An editor's element is output without its last point.
+    const std::size_t kept =
+        rules_.source == PaintSource::Element ? element.points.size() - 1 : element.points.size();
+    const std::span<const qmath::Point> output = buffer.Points().first(kept);
+    if (element.lineClosed)
+        surface_.Polygon(output);
+    else
+        surface_.Polyline(output);
+}
+
+void ElementPainter::PaintRound(const ElementRecord& element) {
+    const bool isCircle = element.type == ElementType::Circle;
+    pen_.ForeColor(Colour(element.mainColor));
+    PutPen(element, isCircle && element.fillColor >= 0);
+
+    const std::size_t count = PointCount(element.type);
+    const ScreenPointBuffer::Lease buffer(ScreenPointBuffer::Shared(), 4);
+    const std::span<qmath::Point> points = buffer.Points();
+    const std::span<const qmath::Point> own(element.points);
+    ToScreen(own.first(1), points.first(1));
+    const std::int32_t radius = transformation_.LengthToScreen(rules_.placement.MapLength(element.radius));
+    const qmath::Rect box = SquareAround(points[0], radius);
+    ToScreen(own.subspan(1, count - 1), points.subspan(2, count - 1));
+    points[0] = {box.left, box.top};
+    points[1] = {box.right, box.bottom};
+    if (isCircle)
+        surface_.Ellipse(box);
+    else
+        surface_.Arc(box, points[2], points[3]);
+}
+
+void ElementPainter::PaintText(const ElementRecord& element) {
+    pen_.ForeColor(Colour(element.mainColor));
+    surface_.SetTextAlign(element.textAlign);
+    surface_.SetBkMode(rules_.copyMode ? element.textBkMode : kBkModeTransparent);
+
+    std::optional<SelectedFont> font;
+    if (element.font)
+        font.emplace(surface_, FontFor(element));
+    const ScreenPointBuffer::Lease buffer(ScreenPointBuffer::Shared(), 1);
+    ToScreen(std::span(element.points).first(1), buffer.Points());
+    if (rules_.copyMode)
+        surface_.WriteText(buffer.Points()[0], element.text);
+    else
+        surface_.WriteTextAsPath(buffer.Points()[0], element.text);
+}
+
+void ElementPainter::PutPen(const ElementRecord& element, bool filled) {
+    pen_.DrawWidth(std::max(1, transformation_.LengthToScreen(element.lineWidth)));
+    if (filled) {
+        pen_.DrawStyle(element.lineWidth < 1 ? kDrawStyleInvisible : kDrawStyleInsideSolid);
+        pen_.FillColor(Colour(element.fillColor));
+        pen_.FillStyle(kFillStyleSolid);
+    } else {
+        pen_.DrawStyle(kDrawStyleSolid);
+        pen_.FillColor(kBlack);
+        pen_.FillStyle(kFillStyleTransparent);
+    }
+}
+
+FontRequest ElementPainter::FontFor(const ElementRecord& element) const {
+    FontRequest request;
+    request.escapement =
+        base::RoundToLong(qmath::RadToDeg(rules_.placement.Angle() + element.textAngle) * 10.0);
+    request.height = FontHeight(element);
+    request.bold = element.font->bold;
+    request.italic = element.font->italic;
+    request.underline = element.font->underline;
+    request.strikethrough = element.font->strikethrough;
+    request.name = element.font->name;
+    return request;
+}
+
+/// Divided and multiplied as a double and rounded once at the end; at least one pixel.
+std::int32_t ElementPainter::FontHeight(const ElementRecord& element) const {
+    const std::int16_t size = base::RoundToInteger(element.font->size);
+    double height = transformation_.FontSizeToScreen(kFontFactor, size);
+    if (rules_.source == PaintSource::SymbolRecord && element.lineClosed)
+        height /= kFlaggedSizeDivisor;
+    return std::max(1, base::RoundToLong(height * rules_.textFactor));
+}
+
+void ElementPainter::ToScreen(std::span<const qmath::Point> points, std::span<qmath::Point> screen) const {
+    rules_.placement.Map(points, screen.data());
+    transformation_.PointsToScreen(screen.first(points.size()));
+}
+
+} // namespace qsymbol

@@ -1,0 +1,21 @@
+#pragma once
+
+namespace qsymbol {
+
+/// The two scale factors of a draw call.
+struct DrawFactors {
+    double printer = 0; ///< for the printer and the print preview
+    double screen = 0;  ///< for the plan's main drawing area
+
+    friend bool operator==(const DrawFactors&, const DrawFactors&) = default;
+};
+
+/// The factors of the last symbol drawing of the process; bounds, hit tests, snapping and DXF follow them.
+DrawFactors& LastDrawFactors();
+
+/// A factor for which 0 means unscaled.
+constexpr double FactorOrOne(double factor) {
+    return factor != 0 ? factor : 1;
+}
+
+} // namespace qsymbol
