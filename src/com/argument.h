@@ -3,6 +3,8 @@
 #include "com/dispatch_member.h"
 #include "com/variant.h"
 
+#include <windows.h>
+
 #include <oleauto.h>
 
 namespace com {

@@ -3,6 +3,8 @@
 #include "com/com_ptr.h"
 #include "com/dispatch_member.h"
 
+#include <windows.h>
+
 #include <oaidl.h>
 
 #include <vector>

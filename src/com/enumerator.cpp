@@ -3,6 +3,8 @@
 #include "com/error_info.h"
 #include "com/module.h"
 
+#include <windows.h>
+
 #include <oleauto.h>
 
 #include <atomic>

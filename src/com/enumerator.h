@@ -2,6 +2,8 @@
 
 #include "com/com_ptr.h"
 
+#include <windows.h>
+
 #include <oaidl.h>
 
 #include <cstdint>

@@ -4,6 +4,8 @@
 #include "com/com_ptr.h"
 #include "com/module.h"
 
+#include <windows.h>
+
 #include <oleauto.h>
 
 #include <new>

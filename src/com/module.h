@@ -3,6 +3,8 @@
 #include "com/class_entry.h"
 #include "com/com_ptr.h"
 
+#include <windows.h>
+
 #include <oaidl.h>
 
 #include <atomic>

@@ -4,6 +4,8 @@
 #include "com/module.h"
 #include "com/registry_key.h"
 
+#include <windows.h>
+
 #include <oleauto.h>
 
 // The compiler's headers lack these two; the system has them since Windows Vista.

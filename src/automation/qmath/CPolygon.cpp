@@ -12,6 +12,6 @@ STDMETHODIMP CPolygon::PtInside(LONG x, LONG y, VARIANT_BOOL* value) {
 
 STDMETHODIMP CPolygon::RectTouches(LONG left, LONG top, LONG right, LONG bottom, VARIANT_BOOL* value) {
     return Return(value, [&] {
-        return polygon_.RectTouches({left, top, right, bottom}) ? VARIANT_TRUE : VARIANT_FALSE;
+        return polygon_.Meets({left, top, right, bottom}) ? VARIANT_TRUE : VARIANT_FALSE;
     });
 }

@@ -1,11 +1,10 @@
 #include "automation/qmath/CStrUtil.h"
 
-#include "base/checked.h"
 #include "com/bstr.h"
 #include "qmath/str_util.h"
 
 STDMETHODIMP CStrUtil::TokenCount(BSTR line, BSTR separator, LONG* value) {
-    return Return(value, [&] { return base::Narrow<LONG>(qmath::TokenCount(com::View(line), com::View(separator))); });
+    return Return(value, [&] { return qmath::TokenCount(com::View(line), com::View(separator)); });
 }
 
 STDMETHODIMP CStrUtil::GetToken(BSTR line, BSTR separator, LONG index, BSTR* value) {
@@ -17,11 +16,11 @@ STDMETHODIMP CStrUtil::GetExtension(BSTR path, BSTR* value) {
 }
 
 STDMETHODIMP CStrUtil::GetFileName(BSTR path, BSTR* value) {
-    return Return(value, [&] { return com::NewBstr(qmath::GetFileName(com::View(path))); });
+    return Return(value, [&] { return com::NewBstr(qmath::FileNamePart(com::View(path))); });
 }
 
 STDMETHODIMP CStrUtil::GetName(BSTR fileName, BSTR* value) {
-    return Return(value, [&] { return com::NewBstr(qmath::GetName(com::View(fileName))); });
+    return Return(value, [&] { return com::NewBstr(qmath::NameWithoutExtension(com::View(fileName))); });
 }
 
 STDMETHODIMP CStrUtil::GetField(BSTR text, BSTR separator, LONG number, BSTR* value) {

@@ -22,10 +22,10 @@ std::string Separator(LCTYPE type) {
 
 /// What the automation run-time makes of a text; infinity for a number out of range.
 std::optional<double> ParseAsAutomation(std::string_view text) {
-    const std::u16string wide = AnsiCodePage().Decode(text);
+    std::u16string wide = AnsiCodePage().Decode(text);
     double value = 0;
     const HRESULT status =
-        VarR8FromStr(reinterpret_cast<const wchar_t*>(wide.c_str()), LOCALE_USER_DEFAULT, 0, &value);
+        VarR8FromStr(reinterpret_cast<wchar_t*>(wide.data()), LOCALE_USER_DEFAULT, 0, &value);
     if (status == DISP_E_OVERFLOW)
         return std::numeric_limits<double>::infinity();
     return SUCCEEDED(status) ? std::optional<double>(value) : std::nullopt;
