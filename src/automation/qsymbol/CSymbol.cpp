@@ -1,0 +1,191 @@
+#include "automation/qsymbol/CSymbol.h"
+
+#include "automation/qsymbol/CSymElementColl.h"
+#include "automation/qsymbol/element_access.h"
+#include "automation/qsymbol/host_surface.h"
+#include "automation/qsymbol/host_transformation.h"
+#include "automation/qsymbol/library.h"
+#include "com/bstr.h"
+#include "qsymbol/draw/fitted_drawing.h"
+#include "qsymbol/draw/symbol_drawing.h"
+#include "qsymbol/files/symbol_file.h"
+
+#include <utility>
+
+namespace {
+
+/// All elements of a collection as records. Error 9 for an empty collection.
+qsymbol::ElementList ToRecords(_CSymElementColl& elements) {
+    LONG count = 0;
+    com::Check(elements.get_Count(&count));
+    if (count < 1)
+        base::Raise(base::RunTimeError::SubscriptOutOfRange);
+    qsymbol::ElementList records;
+    for (LONG i = 1; i <= count; ++i) {
+        com::ComPtr<_CSymElement> element;
+        com::Check(elements.get_ItemByPos(i, element.Put()));
+        records.push_back(ToRecord(com::Required(element.Get())));
+    }
+    return records;
+}
+
+} // namespace
+
+CSymbol::CSymbol() { library::EnsureResources(); }
+
+com::ComPtr<CSymbol> CSymbol::CreateFrom(qsymbol::Symbol&& symbol) {
+    com::ComPtr<CSymbol> object = Create();
+    *object->symbol_ = std::move(symbol);
+    return object;
+}
+
+qsymbol::Symbol& CSymbol::Edit() {
+    if (symbol_.use_count() > 1)
+        symbol_ = std::make_shared<qsymbol::Symbol>(*symbol_);
+    return *symbol_;
+}
+
+STDMETHODIMP CSymbol::get_FilePath(BSTR* value) {
+    return Return(value, [&] { return com::NewBstr(symbol_->filePath); });
+}
+
+STDMETHODIMP CSymbol::put_FilePath(BSTR value) {
+    return Do([&] { Edit().filePath = com::Text(value); });
+}
+
+STDMETHODIMP CSymbol::get_Name(BSTR* value) {
+    return Return(value, [&] { return com::NewBstr(qsymbol::Name(*symbol_)); });
+}
+
+STDMETHODIMP CSymbol::get_RefX(LONG* value) {
+    return Return(value, [&] { return symbol_->refX; });
+}
+
+STDMETHODIMP CSymbol::get_RefY(LONG* value) {
+    return Return(value, [&] { return symbol_->refY; });
+}
+
+STDMETHODIMP CSymbol::get_Width(LONG* value) {
+    return Return(value, [&] { return symbol_->width; });
+}
+
+STDMETHODIMP CSymbol::get_Height(LONG* value) {
+    return Return(value, [&] { return symbol_->height; });
+}
+
+STDMETHODIMP CSymbol::put_Width(LONG value) {
+    return Do([&] { Edit().width = value; });
+}
+
+STDMETHODIMP CSymbol::put_Height(LONG value) {
+    return Do([&] { Edit().height = value; });
+}
+
+STDMETHODIMP CSymbol::CreateNew(LONG lRefX, LONG lRefY, LONG lWidth, LONG lHeight, _CSymElementColl* SymElements) {
+    return Do([&] {
+        Edit().refX = lRefX;
+        Edit().refY = lRefY;
+        Edit().width = lWidth;
+        Edit().height = lHeight;
+        // The records are complete before the old ones go: the elements are objects of the host and may fail.
+        Edit().elements = SymElements == nullptr ? qsymbol::ElementList() : ToRecords(*SymElements);
+    });
+}
+
+STDMETHODIMP CSymbol::Draw(LONG lLogX, LONG lLogY, double dAngle, IDispatch* ctrl, _CTrans* Trans,
+                           double dSymPrinterFaktor, double dSymBSFaktor, LONG* lMarkColor) {
+    return Do([&] {
+        const qsymbol::DrawFactors factors{.printer = dSymPrinterFaktor, .screen = dSymBSFaktor};
+        qsymbol::LastDrawFactors() = factors;
+        if (ctrl == nullptr || Trans == nullptr)
+            return;
+        const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
+        HostSurface surface(*ctrl);
+        qsymbol::DrawSymbol(*symbol, {.at = {lLogX, lLogY}, .angle = dAngle}, surface, HostTransformation(*Trans),
+                            factors, lMarkColor == nullptr ? -1 : *lMarkColor);
+    });
+}
+
+STDMETHODIMP CSymbol::DxfExport(LONG /*lLogX*/, LONG /*lLogY*/, double /*dAngle*/, LONG* /*lMarkColor*/) {
+    return Do([] { library::NotImplemented(u"CSymbol.DxfExport"); });
+}
+
+STDMETHODIMP CSymbol::CatchPt(float* /*x*/, float* /*y*/, LONG* /*XKoord*/, LONG* /*YKoord*/, LONG /*lLogX*/,
+                              LONG /*lLogY*/, double /*dAngle*/, _CTrans* /*Trans*/, SHORT /*iFangbereich*/,
+                              VARIANT_BOOL* /*value*/) {
+    return Do([] { library::NotImplemented(u"CSymbol.CatchPt"); });
+}
+
+STDMETHODIMP CSymbol::Draw2PBox(IDispatch* PBox) {
+    library::ReportAndSwallow(u"CSymbol.Draw2PBox", [&] {
+        if (PBox == nullptr)
+            return;
+        const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
+        const double width = com::LateBoundMember(*PBox, L"ScaleWidth").GetDouble();
+        const double height = com::LateBoundMember(*PBox, L"ScaleHeight").GetDouble();
+        HostSurface surface(*PBox);
+        qsymbol::DrawFitted(*symbol, surface, width, height);
+    });
+    return S_OK;
+}
+
+STDMETHODIMP CSymbol::GetBoundingRect(LONG /*lLogX*/, LONG /*lLogY*/, double /*dAngle*/, _CRect** /*r*/) {
+    return Do([] { library::NotImplemented(u"CSymbol.GetBoundingRect"); });
+}
+
+STDMETHODIMP CSymbol::GetSymElements(_CSymElementColl** value) {
+    return Return(value, [&] {
+        const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
+        com::ComPtr<CSymElementColl> elements = CSymElementColl::Create();
+        for (const qsymbol::ElementRecord& record : symbol->elements) {
+            _CSymElement* element = NewElement(record).Detach();
+            com::Check(elements->AppendRef(&element));
+        }
+        return elements.Detach();
+    });
+}
+
+STDMETHODIMP CSymbol::ObjIdentByPt(LONG /*lLogObjX*/, LONG /*lLogObjY*/, double /*dAngle*/, _CTrans* /*Trans*/,
+                                   LONG /*lScreenIdentX*/, LONG /*lScreenIdentY*/, VARIANT_BOOL* /*value*/) {
+    return Do([] { library::NotImplemented(u"CSymbol.ObjIdentByPt"); });
+}
+
+STDMETHODIMP CSymbol::ObjIdentByRect(LONG /*lLogObjX*/, LONG /*lLogObjY*/, double /*dAngle*/, _CTrans* /*Trans*/,
+                                     _CRect* /*ScreenIdentRect*/, VARIANT_BOOL* /*value*/) {
+    return Do([] { library::NotImplemented(u"CSymbol.ObjIdentByRect"); });
+}
+
+STDMETHODIMP CSymbol::ReadFromFile() {
+    return Do([&] {
+        Edit();
+        const std::shared_ptr<qsymbol::Symbol> target = symbol_; // held: a notice lets the host's messages through
+        try {
+            qsymbol::ReadFromFile(*target, library::FileEnvironmentNow());
+        } catch (...) {
+            symbol_ = target;
+            throw;
+        }
+        symbol_ = target;
+    });
+}
+
+STDMETHODIMP CSymbol::Write2File() {
+    return Do([&] {
+        // Held, because the overwrite question lets the host's window messages through.
+        const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
+        qsymbol::Write2File(*symbol, library::FileEnvironmentNow());
+    });
+}
+
+STDMETHODIMP CSymbol::put_Etagenbreite(LONG value) {
+    library::ReportAndSwallow(u"CDrawGebObjColl.Etagenbreite", [&] { Edit().etagenbreite = value; });
+    return S_OK;
+}
+
+STDMETHODIMP CSymbol::DxfExportSym(LONG /*lLogX*/, LONG /*lLogY*/, double /*dAngle*/, BSTR /*stFilename*/) {
+    return Do([] { library::NotImplemented(u"CSymbol.DxfExportSym"); });
+}
+
+STDMETHODIMP CSymbol::GetColor2ColNr(SHORT /*iColNr*/, VARIANT_BOOL /*bSymEdit*/, LONG* /*value*/) {
+    return Do([] { library::NotImplemented(u"CSymbol.GetColor2ColNr"); });
+}

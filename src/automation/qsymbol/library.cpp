@@ -1,0 +1,64 @@
+#include "automation/qsymbol/library.h"
+
+#include "com/error_info.h"
+#include "com/module.h"
+#include "platform/win32/ansi_code_page.h"
+#include "platform/win32/message_box_prompt.h"
+#include "platform/win32/resource_library.h"
+#include "platform/win32/user_settings.h"
+#include "platform/win32/win32_file_system.h"
+
+#include <memory>
+#include <string>
+
+namespace library {
+
+namespace {
+
+/// Nothing until the first class that needs it initialises it; never released.
+platform::ResourceLibrary* g_resourceReader = nullptr;
+
+platform::ResourceLibrary& Resources() {
+    EnsureResources();
+    return *g_resourceReader;
+}
+
+} // namespace
+
+void EnsureResources() {
+    if (g_resourceReader != nullptr)
+        return;
+    auto reader = std::make_unique<platform::ResourceLibrary>();
+    reader->OpenResourceFile(com::TheModule().Folder(), L"QRes.dll");
+    g_resourceReader = reader.release();
+}
+
+qsymbol::UserPrompt& Prompt() {
+    static platform::MessageBoxPrompt prompt;
+    return prompt;
+}
+
+qsymbol::FileEnvironment FileEnvironmentNow() {
+    static platform::Win32FileSystem files;
+    static const platform::AnsiCodePage codePage;
+    return {.files = files,
+            .codePage = codePage,
+            .regional = platform::UserSettings(),
+            .strings = Resources(),
+            .prompt = Prompt()};
+}
+
+void ReportCurrentError(std::u16string_view source) noexcept {
+    try {
+        Prompt().ReportError(std::u16string(source) + u"\r\n" + com::CurrentError().Description());
+    } catch (...) {
+        return; // not even memory for the message: there is nothing left to tell it with
+    }
+}
+
+void NotImplemented(std::u16string_view member) {
+    throw base::Error::FromStatus(static_cast<std::uint32_t>(E_NOTIMPL), std::u16string(member),
+                                  std::u16string(member) + u" ist in dieser Version noch nicht verfügbar.");
+}
+
+} // namespace library

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "qsymbol/files/file_environment.h"
+
+#include <string_view>
+
+/// What all objects of QSymbol share: one of each in a process, made on first use.
+namespace library {
+
+/// Makes sure that the resource-string object exists; it opens "QRes.dll" once and lives as long as the process.
+void EnsureResources();
+
+/// The user seam of this DLL: message boxes.
+qsymbol::UserPrompt& Prompt();
+
+/// Everything a symbol file needs, with the user's number settings as they are now.
+qsymbol::FileEnvironment FileEnvironmentNow();
+
+/// Shows the exception being handled to the user: source, line break, description. Never throws.
+void ReportCurrentError(std::u16string_view source) noexcept;
+
+/// Runs the body of an operation that a user triggers; an error is shown under the source and goes no further.
+template <class Body>
+void ReportAndSwallow(std::u16string_view source, Body&& body) noexcept {
+    try {
+        body();
+    } catch (...) {
+        ReportCurrentError(source);
+    }
+}
+
+/// For members that this version does not have yet: E_NOTIMPL with a description.
+[[noreturn]] void NotImplemented(std::u16string_view member);
+
+} // namespace library

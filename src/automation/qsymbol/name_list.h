@@ -1,0 +1,13 @@
+#pragma once
+
+#include "qsymbol/catalog/catalog_loader.h"
+
+#include <windows.h>
+
+#include <oaidl.h>
+
+/// A host's collection as a list of names; used while the collection lives.
+///
+/// One with `Exists(key)`, as a scripting dictionary has it, is asked that and stays unchanged; any other is
+/// asked for `Item(key)`, where every error means that the key is not there.
+qsymbol::NameList NameListOf(IDispatch& collection);
