@@ -16,7 +16,7 @@ public:
 
     const std::filesystem::path& Path() const { return path_; }
     /// The path of a file in it, for the library.
-    std::u16string File(std::u16string_view name) const { return (path_ / name).u16string(); }
+    std::u16string File(const std::filesystem::path& name) const { return (path_ / name).u16string(); }
 
 private:
     std::filesystem::path path_;
