@@ -17,14 +17,19 @@ constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1
 constexpr int kExactDigits = 15;
 constexpr int kMaxDigits = 400;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
 
 int SingleByte(const std::string& separator) {
     return separator.size() == 1 ? static_cast<unsigned char>(separator[0]) : -1;
 }
 
-/// Digits collected from a text: an integer mantissa while it is exact, and the digits themselves beyond that.
+/// Digits collected from a text: an integer mantissa while it is exact, and the digits themselves beyond
+/// that.
 class Mantissa {
 public:
     void Add(char digit, bool fraction) {
@@ -71,7 +76,8 @@ private:
 } // namespace
 
 NumberReader::NumberReader(const RegionalSettings& settings)
-    : settings_(settings), decimal_(SingleByte(settings.decimal)), thousands_(SingleByte(settings.thousands)) {}
+    : settings_(settings), decimal_(SingleByte(settings.decimal)),
+      thousands_(SingleByte(settings.thousands)) {}
 
 std::optional<double> NumberReader::TryPlain(std::string_view text) const {
     const char* at = text.data();
@@ -123,7 +129,48 @@ std::optional<double> NumberReader::TryPlain(std::string_view text) const {
     return negative ? -value : value;
 }
 
+bool NumberReader::ScanFixed(std::string_view text, FixedPoint& number) const {
+    if (text.empty() || text.size() > kExactDigits)
+        return false;
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    number.negative = *at == '-';
+    at += number.negative ? 1 : 0;
+    std::int64_t digits = 0;
+    const char* const first = at;
+    for (; at != end && IsDigit(*at); ++at)
+        digits = digits * 10 + (*at - '0');
+    number.decimals = 0;
+    if (at != end) {
+        if (at == first || static_cast<unsigned char>(*at) != decimal_)
+            return false;
+        const char* const fraction = ++at;
+        for (; at != end && IsDigit(*at); ++at)
+            digits = digits * 10 + (*at - '0');
+        number.decimals = static_cast<int>(at - fraction);
+    }
+    number.digits = digits;
+    return at == end && at != first;
+}
+
+double NumberReader::ValueOf(const FixedPoint& number) {
+    const double value =
+        static_cast<double>(number.digits) / kPowersOfTen[static_cast<std::size_t>(number.decimals)];
+    return number.negative ? -value : value;
+}
+
+std::optional<std::int32_t> NumberReader::FewDecimals(const FixedPoint& number) {
+    constexpr std::array<std::int64_t, 3> kFactor = {100, 10, 1};
+    if (number.decimals > 2)
+        return std::nullopt;
+    const std::int64_t magnitude = number.digits * kFactor[static_cast<std::size_t>(number.decimals)];
+    return Narrow<std::int32_t>(number.negative ? -magnitude : magnitude);
+}
+
 std::optional<double> NumberReader::Parse(std::string_view text) const {
+    FixedPoint number;
+    if (ScanFixed(text, number))
+        return ValueOf(number);
     const std::optional<double> plain = TryPlain(text);
     if (plain || settings_.systemParse == nullptr)
         return plain;
@@ -144,10 +191,31 @@ double NumberReader::Decimal(std::string_view text) const {
     return *value;
 }
 
-std::int32_t NumberReader::Hundredths(std::string_view text) const { return RoundToLong(Decimal(text) * 100.0); }
+std::int32_t NumberReader::Hundredths(std::string_view text) const {
+    FixedPoint number;
+    if (ScanFixed(text, number))
+        if (const std::optional<std::int32_t> exact = FewDecimals(number))
+            return *exact;
+    return RoundToLong(Decimal(text) * 100.0);
+}
 
-std::int32_t NumberReader::Long(std::string_view text) const { return RoundToLong(Decimal(text)); }
+std::int32_t NumberReader::HundredthsOrZero(std::string_view text) const {
+    FixedPoint number;
+    if (ScanFixed(text, number))
+        if (const std::optional<std::int32_t> exact = FewDecimals(number))
+            return *exact;
+    return RoundToLong(TryDecimal(text).value_or(0.0) * 100.0);
+}
 
-std::int16_t NumberReader::Integer(std::string_view text) const { return RoundToInteger(Decimal(text)); }
+std::int32_t NumberReader::Long(std::string_view text) const {
+    FixedPoint number;
+    if (ScanFixed(text, number) && number.decimals == 0)
+        return Narrow<std::int32_t>(number.negative ? -number.digits : number.digits);
+    return RoundToLong(Decimal(text));
+}
+
+std::int16_t NumberReader::Integer(std::string_view text) const {
+    return RoundToInteger(Decimal(text));
+}
 
 } // namespace base

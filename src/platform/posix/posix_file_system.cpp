@@ -30,9 +30,9 @@ std::string ParentFolder(const std::string& path) {
 [[noreturn]] void RaiseOpenFailure(int error, const std::string& path) {
     switch (error) {
     case ENOENT:
-        base::Raise(path.empty()                     ? RunTimeError::BadFileName
+        base::Raise(path.empty()                   ? RunTimeError::BadFileName
                     : IsFolder(ParentFolder(path)) ? RunTimeError::FileNotFound
-                                                     : RunTimeError::PathNotFound);
+                                                   : RunTimeError::PathNotFound);
     case ENOTDIR: base::Raise(RunTimeError::PathNotFound);
     case ENAMETOOLONG:
     case EINVAL: base::Raise(RunTimeError::BadFileName);
@@ -50,7 +50,7 @@ std::string ParentFolder(const std::string& path) {
 
 [[noreturn]] void RaiseTransferFailure(int error) {
     base::Raise(error == ENOSPC || error == EDQUOT || error == EFBIG ? RunTimeError::DiskFull
-                                                                      : RunTimeError::DeviceIo);
+                                                                     : RunTimeError::DeviceIo);
 }
 
 int OpenFlags(base::OpenMode mode) {
@@ -65,7 +65,7 @@ int OpenFlags(base::OpenMode mode) {
 
 class PosixFile final : public base::File {
 public:
-    explicit PosixFile(int handle) : handle_(handle) {}
+    PosixFile(int handle, std::uint64_t size) : handle_(handle), size_(size) {}
     PosixFile(const PosixFile&) = delete;
     PosixFile& operator=(const PosixFile&) = delete;
     ~PosixFile() override {
@@ -73,7 +73,11 @@ public:
             close(handle_);
     }
 
+    /// The size that was seen on opening, so that a small file costs one question to the system; asked again
+    /// once something was written.
     std::uint64_t Size() override {
+        if (!written_)
+            return size_;
         struct stat info {};
         if (fstat(handle_, &info) != 0)
             RaiseTransferFailure(errno);
@@ -91,6 +95,7 @@ public:
     }
 
     void Write(const char* bytes, std::size_t count) override {
+        written_ = true;
         while (count > 0) {
             const ssize_t put = write(handle_, bytes, count);
             if (put < 0 && errno == EINTR)
@@ -111,6 +116,8 @@ public:
 
 private:
     int handle_;
+    std::uint64_t size_;
+    bool written_ = false;
 };
 
 } // namespace
@@ -122,9 +129,12 @@ std::unique_ptr<base::File> PosixFileSystem::Open(const std::u16string& path, ba
     const int handle = open(name.c_str(), OpenFlags(mode) | O_CLOEXEC, 0666);
     if (handle < 0)
         RaiseOpenFailure(errno, name);
-    auto file = std::make_unique<PosixFile>(handle);
     struct stat info {};
-    if (fstat(handle, &info) == 0 && S_ISDIR(info.st_mode))
+    const int failure = fstat(handle, &info) == 0 ? 0 : errno;
+    auto file = std::make_unique<PosixFile>(handle, static_cast<std::uint64_t>(info.st_size));
+    if (failure != 0)
+        RaiseTransferFailure(failure);
+    if (S_ISDIR(info.st_mode))
         base::Raise(RunTimeError::PathFileAccess);
     return file;
 }
@@ -134,7 +144,9 @@ bool PosixFileSystem::FileExists(const std::u16string& path) {
     return stat(ToUtf8(path).c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
 }
 
-bool PosixFileSystem::FolderExists(const std::u16string& path) { return IsFolder(ToUtf8(path)); }
+bool PosixFileSystem::FolderExists(const std::u16string& path) {
+    return IsFolder(ToUtf8(path));
+}
 
 std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& folder) {
     const std::string name = ToUtf8(folder);
@@ -144,7 +156,8 @@ std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& 
     std::vector<base::FolderEntry> entries;
     while (const dirent* entry = readdir(handle.get())) {
         const std::string path = name + "/" + entry->d_name;
-        const bool folderEntry = entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK ? IsFolder(path) : entry->d_type == DT_DIR;
+        const bool folderEntry =
+            entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK ? IsFolder(path) : entry->d_type == DT_DIR;
         if (!folderEntry)
             entries.push_back({FromUtf8(entry->d_name), FromUtf8(path)});
     }

@@ -63,6 +63,65 @@ TEST(NumberReader, LengthsRoundHalfToEven) {
     EXPECT_EQ(kGerman.Hundredths("-21474836,48"), -2147483647 - 1);
 }
 
+TEST(NumberReader, LengthsThatAreNoNumberMayCountAsZero) {
+    EXPECT_EQ(kGerman.HundredthsOrZero("2,005"), 200);
+    EXPECT_EQ(kGerman.HundredthsOrZero("-1,5"), -150);
+    for (const char* text : {"", " ", "abc", "-", "1e400"})
+        EXPECT_EQ(kGerman.HundredthsOrZero(text), 0) << text;
+    EXPECT_EQ(ErrorNumber([] { kGerman.HundredthsOrZero("21474836,48"); }), 6);
+    EXPECT_EQ(ErrorNumber([] { kGerman.HundredthsOrZero("1e300"); }), 6);
+}
+
+/// A blank in front keeps a number off the fast path.
+TEST(NumberReader, FastPathAndGeneralPathAgree) {
+    const auto outcome = [](auto read, const std::string& text) {
+        double value = 0;
+        const std::int32_t error = ErrorNumber([&] { value = static_cast<double>(read(text)); });
+        return error != 0 ? "error " + std::to_string(error) : std::to_string(value);
+    };
+    const auto decimal = [](const std::string& text) { return kGerman.Decimal(text); };
+    const auto length = [](const std::string& text) { return kGerman.Hundredths(text); };
+    const auto whole = [](const std::string& text) { return kGerman.Long(text); };
+    const auto agree = [&](const std::string& text) {
+        EXPECT_EQ(outcome(decimal, text), outcome(decimal, " " + text)) << text;
+        EXPECT_EQ(outcome(length, text), outcome(length, " " + text)) << text;
+        EXPECT_EQ(outcome(whole, text), outcome(whole, " " + text)) << text;
+    };
+    for (const char* text : {"0",
+                             "-0",
+                             "5,",
+                             ",5",
+                             "-,5",
+                             ",",
+                             "-",
+                             "1,2,3",
+                             "21474836,47",
+                             "21474836,48",
+                             "-21474836,48",
+                             "-21474836,49",
+                             "2147483647",
+                             "2147483648",
+                             "-2147483648",
+                             "-2147483649",
+                             "999999999999999",
+                             "99999999999999,9",
+                             "0,00000000000001",
+                             "0000000000001,5",
+                             "2147483647,5",
+                             "0,005",
+                             "0,015",
+                             "1,005"})
+        agree(text);
+    std::uint32_t seed = 12345;
+    for (int i = 0; i < 20000; ++i) {
+        seed = seed * 1664525U + 1013904223U;
+        std::string text = std::to_string(static_cast<std::int32_t>(seed) >> (seed % 23));
+        const std::size_t digits = text.size() - (text[0] == '-' ? 1 : 0);
+        text.insert(text.size() - (seed >> 8) % (digits + 1), seed % 3 == 0 ? "" : ",");
+        agree(text);
+    }
+}
+
 TEST(NumberReader, WholeNumbersFitTheirWidth) {
     EXPECT_EQ(kEnglish.Long("2.5"), 2);
     EXPECT_EQ(kEnglish.Long("3.5"), 4);

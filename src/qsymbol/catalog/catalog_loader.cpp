@@ -1,0 +1,55 @@
+#include "qsymbol/catalog/catalog_loader.h"
+
+#include "base/letter_case.h"
+#include "qmath/str_util.h"
+#include "qsymbol/catalog/load_symbol_file.h"
+
+namespace qsymbol {
+
+namespace {
+
+/// The folder's path without one separator at its end.
+std::u16string WithoutTrailingSeparator(std::u16string_view folder) {
+    if (folder.ends_with(u'\\') || (folder.size() > 1 && folder.ends_with(u'/')))
+        folder.remove_suffix(1);
+    return std::u16string(folder);
+}
+
+bool IsBinarySymbol(const base::FolderEntry& entry) {
+    const std::u16string_view extension = qmath::GetExtension(entry.name);
+    return extension.size() == 3 && base::LowerCase(extension) == u"syb";
+}
+
+/// The key under which a list would name this file: without dot and three-letter extension, upper case.
+std::u16string ListName(const base::FolderEntry& entry) {
+    return base::UpperCase(std::u16string_view(entry.name).substr(0, entry.name.size() - 4));
+}
+
+} // namespace
+
+void ReadKatalog(std::u16string_view folder, CatalogSink& sink, const FileEnvironment& environment) {
+    const std::u16string path = WithoutTrailingSeparator(folder);
+    if (!environment.files.FolderExists(path))
+        return;
+    for (const base::FolderEntry& entry : environment.files.ListFiles(path))
+        if (IsBinarySymbol(entry) && !LoadSymbolFile(entry.path, sink, environment))
+            return;
+}
+
+bool ReadListe(std::u16string_view folder, const NameList& list, CatalogSink& sink,
+               const FileEnvironment& environment) {
+    const std::u16string path = WithoutTrailingSeparator(folder);
+    if (!environment.files.FolderExists(path))
+        return true;
+    const std::vector<base::FolderEntry> entries = environment.files.ListFiles(path);
+    if (static_cast<double>(entries.size()) * 0.8 < list.count)
+        return false;
+    for (const base::FolderEntry& entry : entries) {
+        const bool wanted = IsBinarySymbol(entry) && list.contains(ListName(entry));
+        if (wanted && !LoadSymbolFile(entry.path, sink, environment))
+            break;
+    }
+    return true;
+}
+
+} // namespace qsymbol

@@ -1,0 +1,87 @@
+#include "qsymbol/files/text_element_fields.h"
+
+#include "base/error.h"
+#include "qsymbol/files/text_format.h"
+
+#include <numbers>
+
+namespace qsymbol {
+
+using text_format::Key;
+using text_format::Value;
+
+namespace {
+
+bool IsTrue(std::string_view value) {
+    return value == text_format::kTrue;
+}
+
+double DegToRad(double degrees) {
+    return degrees * (std::numbers::pi / 180.0);
+}
+
+} // namespace
+
+void TextElementFields::SizePoints(ElementRecord& element, std::int32_t count) const {
+    if (count <= 0)
+        base::Raise(base::RunTimeError::SubscriptOutOfRange);
+    if (!element.points.empty()) {
+        budget_.Release(element.points.size(), sizeof(qmath::Point));
+        element.points = std::vector<qmath::Point>(); // an empty list in braces would keep the memory
+    }
+    const auto size = static_cast<std::size_t>(count);
+    budget_.Charge(size, sizeof(qmath::Point));
+    element.points = std::vector<qmath::Point>(size);
+}
+
+void TextElementFields::SetPolyField(ElementRecord& element, std::string_view field) const {
+    const std::string_view value = Value(field);
+    switch (Key(field)) {
+    case Key("CNT"): SizePoints(element, numbers_.Long(value)); break;
+    case Key("COL"): element.mainColor = numbers_.Long(value); break;
+    case Key("WID"): element.lineWidth = numbers_.Hundredths(value); break;
+    case Key("CLS"): element.lineClosed = IsTrue(value); break;
+    case Key("FIL"): element.fillColor = numbers_.Long(value); break;
+    default: break;
+    }
+}
+
+void TextElementFields::SetCircleField(ElementRecord& element, std::string_view field) const {
+    if (Key(field) == Key("FIL"))
+        element.fillColor = numbers_.Long(Value(field));
+    else
+        SetArcField(element, field);
+}
+
+void TextElementFields::SetArcField(ElementRecord& element, std::string_view field) const {
+    const std::string_view value = Value(field);
+    switch (Key(field)) {
+    case Key("COL"): element.mainColor = numbers_.Long(value); break;
+    case Key("WID"): element.lineWidth = numbers_.Hundredths(value); break;
+    case Key("MPX"): element.points.front().x = numbers_.Hundredths(value); break;
+    case Key("MPY"): element.points.front().y = numbers_.Hundredths(value); break;
+    case Key("RAD"): element.radius = numbers_.Hundredths(value); break;
+    default: break;
+    }
+}
+
+void TextElementFields::SetTextField(ElementRecord& element, std::string_view field) const {
+    const std::string_view value = Value(field);
+    FontRecord& font = *element.font;
+    switch (Key(field)) {
+    case Key("COL"): element.mainColor = numbers_.Long(value); break;
+    case Key("ANG"): element.textAngle = DegToRad(numbers_.Decimal(value)); break;
+    case Key("NAM"): font.name = codePage_.Decode(value); break;
+    case Key("HEI"): font.size = numbers_.Integer(value); break;
+    case Key("BOL"): font.bold = IsTrue(value); break;
+    case Key("ITA"): font.italic = IsTrue(value); break;
+    case Key("UND"): font.underline = IsTrue(value); break;
+    case Key("STR"): font.strikethrough = IsTrue(value); break;
+    case Key("ALI"): element.textAlign = numbers_.Long(value); break;
+    case Key("BKM"): element.textBkMode = numbers_.Long(value); break;
+    case Key("FKT"): element.lineClosed = true; break;
+    default: break;
+    }
+}
+
+} // namespace qsymbol

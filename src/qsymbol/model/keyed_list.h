@@ -1,0 +1,138 @@
+#pragma once
+
+#include "base/error.h"
+#include "base/letter_case.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace qsymbol {
+
+/// The ordered list behind the collections: positions from 1, optional keys compared without regard to case.
+///
+/// Every entry carries a serial number larger than that of all entries before it, also of removed ones, so an
+/// enumerator that remembers the last serial it gave survives removals and additions. Entries never move in
+/// memory. The list stays whole when the destructor of an entry calls back into it.
+template <class T>
+class KeyedList {
+public:
+    /// What an enumerator sees of an entry.
+    struct Item {
+        std::uint64_t serial; ///< 1 or more
+        T value;
+    };
+
+    /// Number of entries.
+    std::int32_t Count() const { return static_cast<std::int32_t>(entries_.size()); }
+
+    /// Adds an entry without a key at the end.
+    void Append(T value) {
+        MakeRoom();
+        Push(std::move(value), nullptr);
+    }
+
+    /// Adds an entry at the end. Error 457 when the key is taken; nothing has changed then.
+    void Append(T value, std::u16string_view key) {
+        std::u16string folded = base::UpperCase(key);
+        MakeRoom();
+        const auto [at, added] = index_.try_emplace(std::move(folded), nullptr);
+        if (!added)
+            base::Raise(base::RunTimeError::DuplicateKey);
+        try {
+            at->second = Push(std::move(value), &at->first);
+        } catch (...) {
+            index_.erase(at);
+            throw;
+        }
+    }
+
+    /// The value at a position from 1; nullptr outside 1 to Count. Valid until that entry goes.
+    T* ItemByPos(std::int32_t position) {
+        return Holds(position) ? &entries_[static_cast<std::size_t>(position) - 1]->value : nullptr;
+    }
+    const T* ItemByPos(std::int32_t position) const {
+        return const_cast<KeyedList*>(this)->ItemByPos(position);
+    }
+
+    /// The value under a key; nullptr when there is none. Valid until that entry goes.
+    T* ItemByKey(std::u16string_view key) {
+        const auto at = index_.find(base::UpperCase(key));
+        return at == index_.end() ? nullptr : &at->second->value;
+    }
+    const T* ItemByKey(std::u16string_view key) const { return const_cast<KeyedList*>(this)->ItemByKey(key); }
+
+    /// Removes the entry at a position from 1. Error 5 when there is none.
+    void RemoveByPos(std::int32_t position) {
+        if (!Holds(position))
+            base::Raise(base::RunTimeError::InvalidCall);
+        Remove(entries_.begin() + (position - 1));
+    }
+
+    /// Removes the entry under a key. Error 5 when there is none.
+    void RemoveByKey(std::u16string_view key) {
+        const auto at = index_.find(base::UpperCase(key));
+        if (at == index_.end())
+            base::Raise(base::RunTimeError::InvalidCall);
+        Remove(FirstAfter(at->second->serial - 1));
+    }
+
+    /// Removes all entries.
+    void Clear() {
+        const Entries gone = std::exchange(entries_, {});
+        index_.clear();
+    }
+
+    /// The first entry with a larger serial number; nullptr at the end. 0 starts from the front. O(log n).
+    Item* NextAfter(std::uint64_t serial) {
+        const auto at = FirstAfter(serial);
+        return at == entries_.end() ? nullptr : at->get();
+    }
+    const Item* NextAfter(std::uint64_t serial) const {
+        return const_cast<KeyedList*>(this)->NextAfter(serial);
+    }
+
+private:
+    struct Entry : Item {
+        const std::u16string* key; ///< the folded key in the index, nullptr for none
+    };
+    using Entries = std::vector<std::unique_ptr<Entry>>;
+
+    bool Holds(std::int32_t position) const { return position >= 1 && position <= Count(); }
+
+    /// So that Push cannot fail after it made the entry.
+    void MakeRoom() {
+        if (entries_.size() == entries_.capacity())
+            entries_.reserve(std::max<std::size_t>(8, 2 * entries_.size()));
+    }
+
+    Entry* Push(T&& value, const std::u16string* key) {
+        entries_.push_back(std::unique_ptr<Entry>(new Entry{{lastSerial_ + 1, std::move(value)}, key}));
+        ++lastSerial_;
+        return entries_.back().get();
+    }
+
+    typename Entries::iterator FirstAfter(std::uint64_t serial) {
+        return std::upper_bound(
+            entries_.begin(), entries_.end(), serial,
+            [](std::uint64_t wanted, const std::unique_ptr<Entry>& entry) { return wanted < entry->serial; });
+    }
+
+    void Remove(typename Entries::iterator at) {
+        const std::unique_ptr<Entry> gone = std::move(*at);
+        entries_.erase(at);
+        if (gone->key != nullptr)
+            index_.erase(index_.find(*gone->key));
+    }
+
+    Entries entries_; ///< in the order of their serial numbers
+    std::unordered_map<std::u16string, Entry*> index_;
+    std::uint64_t lastSerial_ = 0;
+};
+
+} // namespace qsymbol

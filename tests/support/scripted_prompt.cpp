@@ -1,0 +1,33 @@
+#include "support/scripted_prompt.h"
+
+#include <gtest/gtest.h>
+
+namespace support {
+
+namespace {
+
+template <class Answer>
+Answer Next(std::deque<Answer>& answers, Answer otherwise) {
+    if (answers.empty()) {
+        ADD_FAILURE() << "a question without an answer in the script";
+        return otherwise;
+    }
+    const Answer answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+} // namespace
+
+bool ScriptedPrompt::AskYesNo(std::u16string_view text, std::u16string_view title) {
+    said.emplace_back(text);
+    titles.emplace_back(title);
+    return Next(yesNo, false);
+}
+
+qsymbol::FailureChoice ScriptedPrompt::AskAbortRetryIgnore(std::u16string_view text) {
+    said.emplace_back(text);
+    return Next(failures, qsymbol::FailureChoice::Abort);
+}
+
+} // namespace support

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/posix/fixed_regional_settings.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/posix/windows_1252.h"
+#include "qsymbol/files/file_environment.h"
+#include "support/memory_file_system.h"
+#include "support/scripted_prompt.h"
+#include "support/string_table.h"
+
+namespace support {
+
+/// Everything that reading and writing symbol files needs, on a file system in memory or on the real one.
+struct TestEnvironment {
+    MemoryFileSystem memory;
+    platform::PosixFileSystem disk;
+    platform::Windows1252 codePage;
+    base::RegionalSettings regional = platform::GermanSettings();
+    StringTable strings;
+    ScriptedPrompt prompt;
+
+    /// The files in memory; the folder "plan" exists there.
+    qsymbol::FileEnvironment InMemory() {
+        memory.folders.insert(u"plan");
+        return {memory, codePage, regional, strings, prompt};
+    }
+    qsymbol::FileEnvironment OnDisk() { return {disk, codePage, regional, strings, prompt}; }
+};
+
+} // namespace support

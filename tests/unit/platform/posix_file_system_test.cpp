@@ -1,0 +1,85 @@
+#include "platform/posix/posix_file_system.h"
+
+#include "support/caught.h"
+#include "support/temp_folder.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+namespace {
+
+using base::OpenMode;
+using base::RunTimeError;
+using support::CaughtFrom;
+using support::Expected;
+
+class PosixFiles : public testing::Test {
+protected:
+    support::TempFolder folder_;
+    platform::PosixFileSystem files_;
+
+    void Write(const char* name, OpenMode mode, std::string_view bytes) {
+        const auto file = files_.Open(folder_.File(name), mode);
+        file->Write(bytes.data(), bytes.size());
+        file->Close();
+    }
+};
+
+TEST_F(PosixFiles, WaysOfWriting) {
+    Write("a", OpenMode::Replace, "12345");
+    Write("a", OpenMode::Overlay, "ab");
+    EXPECT_EQ(support::BytesOf(folder_.Path() / "a"), "ab345");
+    Write("a", OpenMode::Append, "x");
+    EXPECT_EQ(support::BytesOf(folder_.Path() / "a"), "ab345x");
+    Write("a", OpenMode::Replace, "y");
+    EXPECT_EQ(support::BytesOf(folder_.Path() / "a"), "y");
+}
+
+TEST_F(PosixFiles, SizeFollowsWhatIsWritten) {
+    support::PutBytes(folder_.Path() / "a", "123");
+    const auto file = files_.Open(folder_.File("a"), OpenMode::Append);
+    EXPECT_EQ(file->Size(), 3U);
+    file->Write("45", 2);
+    EXPECT_EQ(file->Size(), 5U);
+}
+
+TEST_F(PosixFiles, WhatCannotBeOpened) {
+    std::filesystem::create_directory(folder_.Path() / "inner");
+    support::PutBytes(folder_.Path() / "a", "");
+    const auto open = [&](const std::u16string& path, OpenMode mode) {
+        return CaughtFrom([&] { files_.Open(path, mode); });
+    };
+    EXPECT_EQ(open(folder_.File("missing"), OpenMode::Read), Expected(RunTimeError::FileNotFound));
+    EXPECT_EQ(open(folder_.File("none/missing"), OpenMode::Read), Expected(RunTimeError::PathNotFound));
+    EXPECT_EQ(open(folder_.File("none/missing"), OpenMode::Replace), Expected(RunTimeError::PathNotFound));
+    EXPECT_EQ(open(folder_.File("a/b"), OpenMode::Read), Expected(RunTimeError::PathNotFound));
+    EXPECT_EQ(open(folder_.File("inner"), OpenMode::Read), Expected(RunTimeError::PathFileAccess));
+    EXPECT_EQ(open(folder_.File("inner"), OpenMode::Overlay), Expected(RunTimeError::PathFileAccess));
+    EXPECT_EQ(open(u"", OpenMode::Read), Expected(RunTimeError::BadFileName));
+    EXPECT_EQ(open(std::u16string(u"a\0b", 3), OpenMode::Read), Expected(RunTimeError::BadFileName));
+}
+
+TEST_F(PosixFiles, ListingGivesFilesOnly) {
+    std::filesystem::create_directory(folder_.Path() / "inner");
+    support::PutBytes(folder_.Path() / "Küche.syb", "");
+    std::vector<std::u16string> names;
+    for (const base::FolderEntry& entry : files_.ListFiles(folder_.Path().u16string())) {
+        names.push_back(entry.name);
+        EXPECT_EQ(entry.path, folder_.File("Küche.syb"));
+    }
+    EXPECT_THAT(names, testing::ElementsAre(u"Küche.syb"));
+    EXPECT_EQ(CaughtFrom([&] { files_.ListFiles(folder_.File("none")); }),
+              Expected(RunTimeError::PathNotFound));
+}
+
+TEST_F(PosixFiles, FilesAndFolders) {
+    support::PutBytes(folder_.Path() / "a", "");
+    EXPECT_TRUE(files_.FileExists(folder_.File("a")));
+    EXPECT_FALSE(files_.FolderExists(folder_.File("a")));
+    EXPECT_FALSE(files_.FileExists(folder_.Path().u16string()));
+    EXPECT_TRUE(files_.FolderExists(folder_.Path().u16string()));
+    EXPECT_FALSE(files_.FileExists(folder_.File("b")));
+}
+
+} // namespace

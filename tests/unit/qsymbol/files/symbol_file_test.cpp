@@ -1,0 +1,269 @@
+#include "qsymbol/files/symbol_file.h"
+
+#include "qsymbol/files/binary_writer.h"
+#include "qsymbol/files/text_writer.h"
+#include "support/caught.h"
+#include "support/sample_symbols.h"
+#include "support/temp_folder.h"
+#include "support/test_environment.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using base::RunTimeError;
+using qsymbol::Symbol;
+using support::Caught;
+using support::CaughtFrom;
+using support::Expected;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const std::u16string kQuestion = u"Datei plan/wc.syt existiert schon. Soll sie überschrieben werden ?";
+
+class SymbolFile : public testing::Test {
+protected:
+    support::TestEnvironment world_;
+    support::MemoryFileSystem& memory_ = world_.memory;
+
+    Caught Read(Symbol& symbol) {
+        return CaughtFrom([&] { ReadFromFile(symbol, world_.InMemory()); });
+    }
+    Caught Write(const Symbol& symbol) {
+        return CaughtFrom([&] { Write2File(symbol, world_.InMemory()); });
+    }
+    static Symbol At(const std::u16string& path, Symbol symbol = support::WashRoom()) {
+        symbol.filePath = path;
+        return symbol;
+    }
+};
+
+TEST_F(SymbolFile, TheExtensionChoosesTheFormat) {
+    memory_.files[u"plan/wc.SyT"] = support::WashRoomText();
+    memory_.files[u"plan/wc.SYB"] = ComposeBinary(support::WashRoom(), world_.InMemory());
+    Symbol text = At(u"plan/wc.SyT", {});
+    EXPECT_EQ(Read(text), Caught());
+    EXPECT_EQ(text, At(u"plan/wc.SyT"));
+    Symbol binary = At(u"plan/wc.SYB", {});
+    EXPECT_EQ(Read(binary), Caught());
+    EXPECT_EQ(binary.elements.size(), 3U);
+    EXPECT_EQ(binary.refY, 100);
+}
+
+TEST_F(SymbolFile, WritingAndReadingBack) {
+    for (const char16_t* path : {u"plan/neu.syt", u"plan/neu.syb", u"plan/NEU2.SYB"}) {
+        EXPECT_EQ(Write(At(path, support::WashRoom())), Caught());
+        Symbol back = At(path, {});
+        EXPECT_EQ(Read(back), Caught());
+        EXPECT_EQ(back.elements[2], support::WashRoom().elements[2]);
+        EXPECT_EQ(back.width, 300);
+    }
+    EXPECT_THAT(world_.prompt.said, IsEmpty());
+    EXPECT_EQ(memory_.files[u"plan/neu.syt"], support::WashRoomText());
+}
+
+TEST_F(SymbolFile, AnUnknownExtensionLeavesTheSymbolUntouched) {
+    const Caught refused{3501, u"CSymbol.ReadFromFile", u"Keine gültige Symboldatei."};
+    for (const char16_t* path :
+         {u"plan/wc", u"plan/wc.txt", u"plan.syb/wc", u"", u"plan/wc.syb2", u"plan/wc.syb."}) {
+        Symbol symbol = At(path);
+        EXPECT_EQ(Read(symbol), refused);
+        EXPECT_EQ(symbol, At(path));
+    }
+}
+
+TEST_F(SymbolFile, WritingAnUnknownExtension) {
+    const Caught refused{3503, u"CSymbol.Write2File", u"Keine gültige Extension für eine Symboldatei."};
+    for (const char16_t* path : {u"plan/wc", u"plan/wc.txt", u"plan/wc.wsc", u"plan/wc.WSC", u""})
+        EXPECT_EQ(Write(At(path)), refused);
+    EXPECT_THAT(memory_.files, IsEmpty());
+    EXPECT_EQ(memory_.opened, 0);
+}
+
+TEST_F(SymbolFile, ErrorsOfTheReadersKeepTheirSource) {
+    memory_.files[u"plan/a.syt"] = "X";
+    memory_.files[u"plan/a.syb"] = "X;;;;;";
+    Symbol symbol = At(u"plan/a.syt");
+    EXPECT_EQ(Read(symbol).source, u"CSymbol.ReadFromTxtFile");
+    EXPECT_EQ(symbol, At(u"plan/a.syt", {})) << "never the old content";
+    symbol = At(u"plan/a.syb");
+    EXPECT_EQ(Read(symbol).source, u"CSymbol.ReadFromBinFile");
+    EXPECT_EQ(symbol, At(u"plan/a.syb", {}));
+    EXPECT_EQ(memory_.openNow, 0);
+}
+
+TEST_F(SymbolFile, OverwritingAsksFirst) {
+    memory_.files[u"plan/wc.syt"] = "old";
+    world_.prompt.yesNo = {false};
+    EXPECT_EQ(Write(At(u"plan/wc.syt")), Caught());
+    EXPECT_EQ(memory_.files[u"plan/wc.syt"], "old");
+    EXPECT_EQ(memory_.opened, 0);
+    EXPECT_THAT(world_.prompt.said, ElementsAre(kQuestion));
+    EXPECT_THAT(world_.prompt.titles, ElementsAre(u"Symboleditor"));
+
+    world_.prompt.yesNo = {true};
+    EXPECT_EQ(Write(At(u"plan/wc.syt")), Caught());
+    EXPECT_EQ(memory_.files[u"plan/wc.syt"], support::WashRoomText());
+}
+
+TEST_F(SymbolFile, ABinaryFileKeepsItsOldTail) {
+    const std::string bytes = ComposeBinary(support::WashRoom(), world_.InMemory());
+    memory_.files[u"plan/wc.syb"] = std::string(bytes.size() + 5, '#');
+    world_.prompt.yesNo = {false, true};
+    EXPECT_EQ(Write(At(u"plan/wc.syb")), Caught());
+    EXPECT_EQ(memory_.files[u"plan/wc.syb"], std::string(bytes.size() + 5, '#'));
+    EXPECT_EQ(Write(At(u"plan/wc.syb")), Caught());
+    EXPECT_EQ(memory_.files[u"plan/wc.syb"], bytes + "#####");
+    Symbol back = At(u"plan/wc.syb", {});
+    EXPECT_EQ(Read(back), Caught());
+    EXPECT_EQ(back.elements.size(), 3U);
+}
+
+TEST_F(SymbolFile, WhatCannotBeComposedLeavesTheFileUntouched) {
+    Symbol circle = At(u"plan/wc.syt", {});
+    circle.elements.resize(1);
+    circle.elements[0].type = qsymbol::ElementType::Circle;
+    Symbol text = At(u"plan/wc.syb", {});
+    text.elements.resize(1);
+    text.elements[0].text = std::u16string(70000, u'x');
+    for (const auto& [symbol, error] :
+         {std::pair{circle, RunTimeError::SubscriptOutOfRange}, {text, RunTimeError::Overflow}}) {
+        memory_.files[symbol.filePath] = "old";
+        world_.prompt.yesNo = {true};
+        EXPECT_EQ(Write(symbol), Expected(error));
+        EXPECT_EQ(memory_.files[symbol.filePath], "old");
+        memory_.files.clear();
+        EXPECT_EQ(Write(symbol), Expected(error));
+        EXPECT_THAT(memory_.files, IsEmpty()) << "nor is one made";
+    }
+    EXPECT_EQ(memory_.opened, 0);
+}
+
+TEST_F(SymbolFile, TheImportFormatSaysThatItIsNotThereYet) {
+    Symbol symbol = At(u"plan/wc.wsc");
+    try {
+        ReadFromFile(symbol, world_.InMemory());
+        FAIL() << "no error";
+    } catch (const base::Error& error) {
+        EXPECT_EQ(error.Status(), 0x80004001U);
+        EXPECT_EQ(error.Source(), u"CSymbol.ReadFromWSCFile");
+        EXPECT_EQ(error.Description(), u"Das WSC-Format kann noch nicht gelesen werden.");
+    }
+}
+
+TEST_F(SymbolFile, OnDisk) {
+    const support::TempFolder folder;
+    const qsymbol::FileEnvironment disk = world_.OnDisk();
+    for (const char* name : {"Küche.syt", "Küche.syb"}) {
+        Symbol symbol = At(folder.File(name), support::WashRoom());
+        Write2File(symbol, disk);
+        Symbol back = At(folder.File(name), {});
+        ReadFromFile(back, disk);
+        EXPECT_EQ(back.elements[2], symbol.elements[2]);
+        world_.prompt.yesNo = {true};
+        symbol.elements.resize(1);
+        const std::string before = support::BytesOf(folder.Path() / name);
+        Write2File(symbol, disk);
+        ReadFromFile(back, disk);
+        EXPECT_EQ(back.elements.size(), 1U);
+        const std::string after = support::BytesOf(folder.Path() / name);
+        const bool binary = std::string_view(name).ends_with("syb");
+        EXPECT_EQ(after.size() == before.size(), binary) << "only the binary file keeps its tail";
+    }
+    EXPECT_EQ(
+        support::BytesOf(folder.Path() / "Küche.syt"),
+        support::WashRoomText().replace(4, 5, "CNT=1").substr(0, support::WashRoomText().find("CIRCLE")));
+}
+
+TEST_F(SymbolFile, OnDiskWhatCannotBeRead) {
+    const support::TempFolder folder;
+    std::filesystem::create_directory(folder.Path() / "inner.syb");
+    std::filesystem::create_directory(folder.Path() / "inner.syt");
+    for (const char* extension : {".syt", ".syb"}) {
+        const auto read = [&](const std::string& name) {
+            Symbol symbol = At(folder.File(name + extension));
+            const Caught caught = CaughtFrom([&] { ReadFromFile(symbol, world_.OnDisk()); });
+            EXPECT_EQ(symbol, At(symbol.filePath, {})) << "never the old content";
+            return caught;
+        };
+        EXPECT_EQ(read("missing"), Expected(RunTimeError::FileNotFound));
+        EXPECT_EQ(read("none/missing"), Expected(RunTimeError::PathNotFound));
+        EXPECT_EQ(read("inner"), Expected(RunTimeError::PathFileAccess));
+        const auto write = [&](const std::string& name) {
+            return CaughtFrom([&] { Write2File(At(folder.File(name + extension)), world_.OnDisk()); });
+        };
+        EXPECT_EQ(write("none/missing"), Expected(RunTimeError::PathNotFound));
+        EXPECT_EQ(write("inner"), Expected(RunTimeError::PathFileAccess));
+    }
+}
+
+TEST_F(SymbolFile, FailuresOfTheFileSystem) {
+    for (const char16_t* path : {u"plan/a.syt", u"plan/a.syb"}) {
+        for (const RunTimeError error : {RunTimeError::PermissionDenied, RunTimeError::DiskFull,
+                                         RunTimeError::DeviceIo, RunTimeError::BadFileName}) {
+            memory_.files.clear();
+            memory_.openError = error;
+            EXPECT_EQ(Write(At(path)), Expected(error));
+            EXPECT_THAT(memory_.files, IsEmpty());
+            Symbol symbol = At(path);
+            EXPECT_EQ(Read(symbol), Expected(error));
+            EXPECT_EQ(symbol, At(path, {}));
+            memory_.openError.reset();
+        }
+    }
+}
+
+TEST_F(SymbolFile, AFailingReadClosesTheFile) {
+    for (const char16_t* path : {u"plan/a.syt", u"plan/a.syb"}) {
+        memory_.files[path] = support::WashRoomText();
+        memory_.readError = RunTimeError::DeviceIo;
+        Symbol symbol = At(path);
+        EXPECT_EQ(Read(symbol), Expected(RunTimeError::DeviceIo));
+        EXPECT_EQ(symbol, At(path, {}));
+        memory_.readError.reset();
+        memory_.closeError = RunTimeError::DeviceIo;
+        EXPECT_EQ(Read(symbol), Expected(RunTimeError::DeviceIo));
+        memory_.closeError.reset();
+    }
+    EXPECT_EQ(memory_.opened, 4);
+    EXPECT_EQ(memory_.openNow, 0);
+}
+
+TEST_F(SymbolFile, AFailingWriteClosesTheFileAndLeavesTheSymbol) {
+    for (const char16_t* path : {u"plan/a.syt", u"plan/a.syb"}) {
+        const Symbol symbol = At(path);
+        memory_.writeError = RunTimeError::DiskFull;
+        memory_.writeBeforeError = 3;
+        EXPECT_EQ(Write(symbol), Expected(RunTimeError::DiskFull));
+        EXPECT_EQ(memory_.files[path].size(), 3U) << "what was written so far stays";
+        memory_.writeError.reset();
+        memory_.closeError = RunTimeError::DeviceIo;
+        world_.prompt.yesNo = {true};
+        EXPECT_EQ(Write(symbol), Expected(RunTimeError::DeviceIo));
+        memory_.closeError.reset();
+        EXPECT_EQ(symbol, At(path));
+    }
+    EXPECT_EQ(memory_.opened, 4);
+    EXPECT_EQ(memory_.openNow, 0);
+}
+
+TEST_F(SymbolFile, ReadsInPiecesAndFilesThatShrink) {
+    memory_.files[u"plan/wc.syt"] = support::WashRoomText();
+    memory_.readAtMost = 7;
+    Symbol symbol = At(u"plan/wc.syt", {});
+    EXPECT_EQ(Read(symbol), Caught());
+    EXPECT_EQ(symbol, At(u"plan/wc.syt"));
+    memory_.announcedSize = 100000;
+    EXPECT_EQ(Read(symbol), Caught());
+    EXPECT_EQ(symbol, At(u"plan/wc.syt"));
+}
+
+TEST_F(SymbolFile, ReadingAsksOnlyToOpen) {
+    memory_.files[u"plan/wc.syt"] = support::WashRoomText();
+    Symbol symbol = At(u"plan/wc.syt", {});
+    EXPECT_EQ(Read(symbol), Caught());
+    EXPECT_EQ(memory_.existsAsked, 0);
+    EXPECT_EQ(memory_.opened, 1);
+}
+
+} // namespace
