@@ -22,7 +22,7 @@ function(type_library name)
   add_custom_command(
     OUTPUT ${QSYMBOL_IDL_DIR}/${name}.tlb ${QSYMBOL_IDL_DIR}/${name}.h
     COMMAND ${widl} -t -o ${name}.tlb ${idl}
-    COMMAND ${widl} -h -o ${name}.h ${idl}
+    COMMAND ${widl} -DQSYMBOL_HEADER -h -o ${name}.h ${idl}
     DEPENDS ${idl} ${ARGN}
     WORKING_DIRECTORY ${QSYMBOL_IDL_DIR}
     COMMENT "Type library ${name}"
