@@ -1,0 +1,86 @@
+# Shared by the scripts of this folder: where things are, what must be installed, how Wine is started.
+# shellcheck shell=bash
+
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+ROOT=$PWD
+JOBS=$(nproc)
+
+export LC_ALL=C.UTF-8
+export WINEPREFIX=$ROOT/build/wine WINEARCH=win64 WINEDEBUG=-all
+
+say() { printf '\n== %s\n' "$*"; }
+
+# packages NAME…: installs the Debian packages that are missing, or names the command that would.
+packages() {
+    local missing=() name
+    for name in "$@"; do
+        dpkg-query -W -f '${Status}' "$name" 2>/dev/null | grep -q 'ok installed' || missing+=("$name")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    local root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "Missing packages. As root: apt-get install ${missing[*]}" >&2
+            exit 1
+        }
+        root=(sudo)
+    fi
+    say "Installing ${missing[*]}"
+    "${root[@]}" apt-get update -qq
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" \
+        >/dev/null || {
+        echo "Could not install. As root: apt-get install ${missing[*]}" >&2
+        exit 1
+    }
+}
+
+packages_native() { packages g++ cmake ninja-build ccache googletest; }
+packages_windows() {
+    packages g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix binutils-mingw-w64-x86-64 binutils-mingw-w64-i686 \
+        mingw-w64-tools libwine-dev cmake ninja-build ccache googletest
+}
+packages_wine() { packages wine wine64 fonts-liberation; }
+
+# build PRESET [TARGET…]: configures when needed and builds.
+build() {
+    local preset=$1 targets=()
+    shift
+    [ $# -gt 0 ] && targets=(--target "$@")
+    # A build tree from another place or a failed configuration is made anew.
+    if [ -f "build/$preset/CMakeCache.txt" ] &&
+        { ! grep -qx "CMAKE_HOME_DIRECTORY:INTERNAL=$ROOT" "build/$preset/CMakeCache.txt" ||
+            [ ! -f "build/$preset/build.ninja" ]; }; then
+        rm -rf "build/$preset"
+    fi
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+        cat "build-$preset.log" >&2
+        exit 1
+    }
+    rm -f "build-$preset.log"
+    cmake --build --preset "$preset" -j "$JOBS" "${targets[@]}" -- --quiet
+}
+
+# wine_prefix: makes the project's own prefix, once: no display needed, Arial present.
+wine_prefix() {
+    [ -f "$WINEPREFIX/.ready" ] && return
+    say "Making the Wine prefix"
+    mkdir -p "$WINEPREFIX"
+    wineboot -i >/dev/null 2>&1
+    wine_run reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null
+    wine_run reg add 'HKCU\Software\Wine\Fonts\Replacements' /v Arial /d 'Liberation Sans' /f >/dev/null
+    wine_run reg add 'HKCU\Software\Wine\Fonts\Replacements' /v 'Times New Roman' /d 'Liberation Serif' /f >/dev/null
+    wineserver -w
+    touch "$WINEPREFIX/.ready"
+}
+
+# wine_run PROGRAM ARGUMENT…: in the project's prefix; Wine's own advice about 32 bits is left out.
+wine_run() { wine "$@" 2> >(grep -vE 'wine32|multiarch|dpkg --add-arch|execute|^$' >&2); }
+
+# register FOLDER: enters both DLLs of a folder in the prefix.
+register() {
+    local name
+    for name in QMath QSymbol; do
+        wine_run regsvr32 /s "$(winepath -w "$1/$name.dll" 2>/dev/null)"
+    done
+}
