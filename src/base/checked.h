@@ -26,7 +26,8 @@ constexpr std::int32_t CheckedSub(std::int32_t a, std::int32_t b) {
 
 /// Nearest integer, exact halves to even; error 6 outside the 32-bit range and for what is not a number.
 inline std::int32_t RoundToLong(double value) {
-    // Adding and taking away 1.5 * 2^52 leaves the integer part, rounded in the processor's mode (half to even).
+    // Adding and taking away 1.5 * 2^52 leaves the integer part, rounded in the processor's mode (half to
+    // even).
     constexpr double kShift = 6755399441055744.0;
     if (!(value >= -2147483649.0 && value <= 2147483648.0))
         Raise(RunTimeError::Overflow);
@@ -37,6 +38,8 @@ inline std::int32_t RoundToLong(double value) {
 }
 
 /// RoundToLong into 16 bits.
-inline std::int16_t RoundToInteger(double value) { return Narrow<std::int16_t>(RoundToLong(value)); }
+inline std::int16_t RoundToInteger(double value) {
+    return Narrow<std::int16_t>(RoundToLong(value));
+}
 
 } // namespace base

@@ -21,8 +21,8 @@ struct Digits {
 
 Digits ToDigits(double magnitude) {
     std::array<char, 40> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::scientific,
-                                   kSignificant - 1)
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
+                                   std::chars_format::scientific, kSignificant - 1)
                          .ptr;
     Digits result;
     const char* at = text.data();
@@ -69,7 +69,8 @@ void AppendLong(std::string& out, std::int32_t value) {
 }
 
 void AppendHundredths(std::string& out, std::int32_t value, std::string_view decimal) {
-    const std::uint32_t magnitude = value < 0 ? 0U - static_cast<std::uint32_t>(value) : static_cast<std::uint32_t>(value);
+    const std::uint32_t magnitude =
+        value < 0 ? 0U - static_cast<std::uint32_t>(value) : static_cast<std::uint32_t>(value);
     if (value < 0)
         out += '-';
     std::array<char, 12> text{};
@@ -90,7 +91,9 @@ void AppendDecimals(std::string& out, double value, int decimals, std::string_vi
     if (value < 0 && !zero)
         out += '-';
     const auto digitAt = [&](int position) {
-        return position >= 0 && position < number.count && !zero ? number.digit[static_cast<std::size_t>(position)] : '0';
+        return position >= 0 && position < number.count && !zero
+                   ? number.digit[static_cast<std::size_t>(position)]
+                   : '0';
     };
     if (number.exponent <= 0 || zero)
         out += '0';

@@ -6,7 +6,9 @@ namespace com {
 
 namespace {
 
-bool IsObject(VARTYPE type) { return type == VT_DISPATCH || type == VT_UNKNOWN; }
+bool IsObject(VARTYPE type) {
+    return type == VT_DISPATCH || type == VT_UNKNOWN;
+}
 
 /// Follows variables that refer to variables; the last one is a value or a typed reference.
 VARIANTARG* Innermost(VARIANTARG* passed) {
@@ -127,7 +129,8 @@ HRESULT Argument::TakeDefault(const DispatchParameter& parameter) {
     if (IsObject(parameter.type)) {
         V_VT(local_.Put()) = parameter.type;
         V_UNKNOWN(local_.Get()) = nullptr;
-    } else if (const HRESULT status = VariantChangeType(local_.Put(), &value, 0, parameter.type); FAILED(status)) {
+    } else if (const HRESULT status = VariantChangeType(local_.Put(), &value, 0, parameter.type);
+               FAILED(status)) {
         return status;
     }
     Prepare(parameter);

@@ -11,10 +11,13 @@ namespace com {
 
 /// The text of a BSTR, embedded zeros included; a null BSTR is empty.
 inline std::u16string_view View(BSTR text) {
-    return text == nullptr ? std::u16string_view() : std::u16string_view(reinterpret_cast<const char16_t*>(text), SysStringLen(text));
+    return text == nullptr ? std::u16string_view()
+                           : std::u16string_view(reinterpret_cast<const char16_t*>(text), SysStringLen(text));
 }
 
-inline std::u16string Text(BSTR text) { return std::u16string(View(text)); }
+inline std::u16string Text(BSTR text) {
+    return std::u16string(View(text));
+}
 
 /// A new BSTR that the caller owns; throws std::bad_alloc.
 BSTR NewBstr(std::u16string_view text);
@@ -41,6 +44,8 @@ private:
 };
 
 /// The same UTF-16 text as the Windows API takes it.
-inline const wchar_t* Wide(const std::u16string& text) { return reinterpret_cast<const wchar_t*>(text.c_str()); }
+inline const wchar_t* Wide(const std::u16string& text) {
+    return reinterpret_cast<const wchar_t*>(text.c_str());
+}
 
 } // namespace com

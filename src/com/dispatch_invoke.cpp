@@ -12,8 +12,8 @@ namespace {
 constexpr UINT kNone = static_cast<UINT>(-1);
 
 /// For each parameter the index into the caller's argument array, kNone for an omitted one.
-HRESULT MapArguments(const DispatchMember& member, WORD flags, const DISPPARAMS& passed, std::vector<UINT>& map,
-                     UINT* argumentError) {
+HRESULT MapArguments(const DispatchMember& member, WORD flags, const DISPPARAMS& passed,
+                     std::vector<UINT>& map, UINT* argumentError) {
     const UINT count = static_cast<UINT>(member.parameters.size());
     map.assign(count, kNone);
     const UINT positional = passed.cArgs - passed.cNamedArgs;

@@ -6,8 +6,9 @@ namespace com {
 
 /// IDispatch::Invoke for a dual interface.
 ///
-/// Maps positional and named arguments to parameters, fills omitted optional ones with their defaults, accepts
-/// any convertible by-reference argument (script hosts pass variables without a type) and hands results back.
+/// Maps positional and named arguments to parameters, fills omitted optional ones with their defaults,
+/// accepts any convertible by-reference argument (script hosts pass variables without a type) and hands
+/// results back.
 HRESULT InvokeMember(const DispatchTable& table, IDispatch* object, DISPID id, LCID locale, WORD flags,
                      DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* exception, UINT* argumentError);
 

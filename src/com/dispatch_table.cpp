@@ -52,7 +52,8 @@ DispatchParameter Describe(ITypeInfo* info, const ELEMDESC& element) {
     if ((flags & PARAMFLAG_FHASDEFAULT) != 0 && element.paramdesc.pparamdescex != nullptr) {
         VARIANT value;
         VariantInit(&value);
-        if (SUCCEEDED(VariantChangeType(&value, &element.paramdesc.pparamdescex->varDefaultValue, 0, VT_I4))) {
+        if (SUCCEEDED(
+                VariantChangeType(&value, &element.paramdesc.pparamdescex->varDefaultValue, 0, VT_I4))) {
             parameter.hasDefault = true;
             parameter.defaultValue = V_I4(&value);
         }

@@ -75,16 +75,16 @@ public:
     }
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
         HRESULT status = E_FAIL;
-        const HRESULT guarded =
-            Guard(__uuidof(Interface), [&] { status = Table().TypeInfo()->GetIDsOfNames(names, count, ids); });
+        const HRESULT guarded = Guard(__uuidof(Interface),
+                                      [&] { status = Table().TypeInfo()->GetIDsOfNames(names, count, ids); });
         return FAILED(guarded) ? guarded : status;
     }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                         EXCEPINFO* exception, UINT* argumentError) override {
         HRESULT status = E_FAIL;
         const HRESULT guarded = Guard(__uuidof(Interface), [&] {
-            status = InvokeMember(Table(), static_cast<Interface*>(this), id, locale, flags, arguments, result,
-                                  exception, argumentError);
+            status = InvokeMember(Table(), static_cast<Interface*>(this), id, locale, flags, arguments,
+                                  result, exception, argumentError);
         });
         return FAILED(guarded) ? guarded : status;
     }

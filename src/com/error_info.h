@@ -14,7 +14,8 @@ HRESULT ReportCurrentException(REFIID iid) noexcept;
 /// The exception being handled as an error; std::bad_alloc is 7, any other foreign exception E_UNEXPECTED.
 base::Error CurrentError();
 
-/// Throws what a failed call on an object left behind: its own number, source and description where it gave them.
+/// Throws what a failed call on an object left behind: its own number, source and description where it gave
+/// them.
 [[noreturn]] void ThrowPendingError(HRESULT status);
 
 /// Goes on with a successful status, throws the pending error otherwise.
@@ -41,7 +42,8 @@ HRESULT Guard(REFIID iid, Body&& body) noexcept {
 template <class T>
 T& Out(T* place) {
     if (place == nullptr)
-        throw base::Error::FromStatus(static_cast<std::uint32_t>(E_POINTER), {}, u"Ein Zeiger für das Ergebnis fehlt");
+        throw base::Error::FromStatus(static_cast<std::uint32_t>(E_POINTER), {},
+                                      u"Ein Zeiger für das Ergebnis fehlt");
     return *place;
 }
 

@@ -14,8 +14,8 @@ constexpr HRESULT kArgumentNotOptional = static_cast<HRESULT>(kNumberedStatus + 
 constexpr HRESULT kWrongArgumentCount = static_cast<HRESULT>(kNumberedStatus + 450U);
 
 bool IsRefusal(HRESULT status) {
-    return status == DISP_E_BADPARAMCOUNT || status == DISP_E_PARAMNOTOPTIONAL || status == kArgumentNotOptional ||
-           status == kWrongArgumentCount;
+    return status == DISP_E_BADPARAMCOUNT || status == DISP_E_PARAMNOTOPTIONAL ||
+           status == kArgumentNotOptional || status == kWrongArgumentCount;
 }
 
 void FreeTexts(EXCEPINFO& exception) {
@@ -49,7 +49,8 @@ bool LateBoundMember::Exists() {
     if (id_ != DISPID_UNKNOWN)
         return true;
     auto* name = const_cast<wchar_t*>(name_); // the method takes it without const but does not write
-    return SUCCEEDED(object_.GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id_)) && id_ != DISPID_UNKNOWN;
+    return SUCCEEDED(object_.GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id_)) &&
+           id_ != DISPID_UNKNOWN;
 }
 
 DISPID LateBoundMember::Id() {
@@ -60,7 +61,8 @@ DISPID LateBoundMember::Id() {
 
 HRESULT LateBoundMember::Invoke(WORD flags, DISPPARAMS& arguments, VARIANT* result, EXCEPINFO& exception) {
     ::SetErrorInfo(0, nullptr);
-    return object_.Invoke(Id(), IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments, result, &exception, nullptr);
+    return object_.Invoke(Id(), IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments, result, &exception,
+                          nullptr);
 }
 
 void LateBoundMember::InvokeOrThrow(WORD flags, DISPPARAMS& arguments, VARIANT* result) {

@@ -14,7 +14,9 @@ void Module::Start(HINSTANCE instance, const Identity& identity) {
     identity_ = identity;
 }
 
-void Module::Stop() { typeLibrary_.Reset(); }
+void Module::Stop() {
+    typeLibrary_.Reset();
+}
 
 std::wstring Module::Path() const {
     std::wstring path(MAX_PATH, L'\0');

@@ -24,9 +24,13 @@ std::wstring GuidText(const GUID& guid) {
     return text;
 }
 
-HKEY Root(RegistrationScope scope) { return scope == RegistrationScope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
+HKEY Root(RegistrationScope scope) {
+    return scope == RegistrationScope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
+}
 
-std::wstring ClassPath(const std::wstring& name) { return L"Software\\Classes\\" + name; }
+std::wstring ClassPath(const std::wstring& name) {
+    return L"Software\\Classes\\" + name;
+}
 
 std::wstring ProgId(const ClassEntry& entry) {
     const std::u16string_view library = TheModule().Name();
@@ -80,7 +84,8 @@ void Unregister(RegistrationScope scope) {
     }
     constexpr SYSKIND kSystem = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
     const auto remove = scope == RegistrationScope::Machine ? UnRegisterTypeLib : UnRegisterTypeLibForUser;
-    const HRESULT status = remove(*identity.typeLibrary, identity.major, identity.minor, identity.locale, kSystem);
+    const HRESULT status =
+        remove(*identity.typeLibrary, identity.major, identity.minor, identity.locale, kSystem);
     if (status != TYPE_E_REGISTRYACCESS)
         Check(status);
 }

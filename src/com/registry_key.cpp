@@ -6,7 +6,9 @@ namespace com {
 
 namespace {
 
-void CheckRegistry(LSTATUS status) { Check(HRESULT_FROM_WIN32(static_cast<unsigned long>(status))); }
+void CheckRegistry(LSTATUS status) {
+    Check(HRESULT_FROM_WIN32(static_cast<unsigned long>(status)));
+}
 
 } // namespace
 

@@ -20,9 +20,13 @@ BOOL ServerMain(HINSTANCE instance, DWORD reason, void* reserved, const Module::
 
 } // namespace com
 
-STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** object) { return com::GetClassObject(clsid, iid, object); }
+STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** object) {
+    return com::GetClassObject(clsid, iid, object);
+}
 
-STDAPI DllCanUnloadNow() { return com::TheModule().CanUnload() ? S_OK : S_FALSE; }
+STDAPI DllCanUnloadNow() {
+    return com::TheModule().CanUnload() ? S_OK : S_FALSE;
+}
 
 STDAPI DllRegisterServer() {
     return com::Guard(IID_IUnknown, [] { com::Register(com::AllowedScope()); });

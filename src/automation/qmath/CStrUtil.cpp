@@ -8,7 +8,8 @@ STDMETHODIMP CStrUtil::TokenCount(BSTR line, BSTR separator, LONG* value) {
 }
 
 STDMETHODIMP CStrUtil::GetToken(BSTR line, BSTR separator, LONG index, BSTR* value) {
-    return Return(value, [&] { return com::NewBstr(qmath::GetToken(com::View(line), com::View(separator), index)); });
+    return Return(
+        value, [&] { return com::NewBstr(qmath::GetToken(com::View(line), com::View(separator), index)); });
 }
 
 STDMETHODIMP CStrUtil::GetExtension(BSTR path, BSTR* value) {
@@ -24,5 +25,6 @@ STDMETHODIMP CStrUtil::GetName(BSTR fileName, BSTR* value) {
 }
 
 STDMETHODIMP CStrUtil::GetField(BSTR text, BSTR separator, LONG number, BSTR* value) {
-    return Return(value, [&] { return com::NewBstr(qmath::GetToken(com::View(text), com::View(separator), number)); });
+    return Return(
+        value, [&] { return com::NewBstr(qmath::GetToken(com::View(text), com::View(separator), number)); });
 }

@@ -7,7 +7,9 @@
 
 #include <utility>
 
-CSymElement::CSymElement() { library::EnsureResources(); }
+CSymElement::CSymElement() {
+    library::EnsureResources();
+}
 
 STDMETHODIMP CSymElement::get_Text(BSTR* value) {
     return Return(value, [&] { return com::NewBstr(values_.text); });
@@ -132,14 +134,17 @@ STDMETHODIMP CSymElement::DrawTracker(IDispatch* /*ctrl*/, _CTrans* /*Trans*/) {
     return Do([] { library::NotImplemented(u"CSymElement.DrawTracker"); });
 }
 
-STDMETHODIMP CSymElement::ObjIdentByPt(_CTrans* /*Trans*/, LONG /*lScreenX*/, LONG /*lScreenY*/, VARIANT_BOOL* /*value*/) {
+STDMETHODIMP CSymElement::ObjIdentByPt(_CTrans* /*Trans*/, LONG /*lScreenX*/, LONG /*lScreenY*/,
+                                       VARIANT_BOOL* /*value*/) {
     return Do([] { library::NotImplemented(u"CSymElement.ObjIdentByPt"); });
 }
 
-STDMETHODIMP CSymElement::ObjIdentByRect(_CTrans* /*Trans*/, _CRect** /*ScreenIdentRect*/, VARIANT_BOOL* /*value*/) {
+STDMETHODIMP CSymElement::ObjIdentByRect(_CTrans* /*Trans*/, _CRect** /*ScreenIdentRect*/,
+                                         VARIANT_BOOL* /*value*/) {
     return Do([] { library::NotImplemented(u"CSymElement.ObjIdentByRect"); });
 }
 
-STDMETHODIMP CSymElement::PtIdent(_CTrans* /*Trans*/, LONG /*lScreenX*/, LONG /*lScreenY*/, _CPt** /*value*/) {
+STDMETHODIMP CSymElement::PtIdent(_CTrans* /*Trans*/, LONG /*lScreenX*/, LONG /*lScreenY*/,
+                                  _CPt** /*value*/) {
     return Do([] { library::NotImplemented(u"CSymElement.PtIdent"); });
 }

@@ -12,7 +12,8 @@ STDMETHODIMP CSymElementColl::get_ItemByPos(LONG lPos, _CSymElement** value) {
 }
 
 STDMETHODIMP CSymElementColl::get_NewEnum(IUnknown** value) {
-    return Return(value, [&] { return object_list::NewEnum(static_cast<_CSymElementColl*>(this), elements_); });
+    return Return(value,
+                  [&] { return object_list::NewEnum(static_cast<_CSymElementColl*>(this), elements_); });
 }
 
 STDMETHODIMP CSymElementColl::Clear() {

@@ -10,7 +10,8 @@ STDMETHODIMP CSymTool::get_SymRefCount(LONG* /*result*/) {
     return Do([] { library::NotImplemented(u"CSymTool.SymRefCount"); });
 }
 
-STDMETHODIMP CSymTool::AddSymref(LONG /*lObjId*/, LONG /*lDeltaX*/, LONG /*lDeltaY*/, double /*dAngle*/, _CSymbol* /*Sym*/) {
+STDMETHODIMP CSymTool::AddSymref(LONG /*lObjId*/, LONG /*lDeltaX*/, LONG /*lDeltaY*/, double /*dAngle*/,
+                                 _CSymbol* /*Sym*/) {
     return Do([] { library::NotImplemented(u"CSymTool.AddSymref"); });
 }
 
@@ -26,7 +27,8 @@ STDMETHODIMP CSymTool::GetSymrefDataById(LONG /*lObjId*/, LONG* /*lX*/, LONG* /*
     return Do([] { library::NotImplemented(u"CSymTool.GetSymrefDataById"); });
 }
 
-STDMETHODIMP CSymTool::GetSymrefDataByPos(LONG /*lPos*/, LONG* /*lObjId*/, LONG* /*lX*/, LONG* /*lY*/, double* /*dAngle*/) {
+STDMETHODIMP CSymTool::GetSymrefDataByPos(LONG /*lPos*/, LONG* /*lObjId*/, LONG* /*lX*/, LONG* /*lY*/,
+                                          double* /*dAngle*/) {
     return Do([] { library::NotImplemented(u"CSymTool.GetSymrefDataByPos"); });
 }
 
@@ -38,11 +40,13 @@ STDMETHODIMP CSymTool::MouseDown(float /*sX*/, float /*sY*/, IDispatch* /*pb*/, 
     return Do([] { library::NotImplemented(u"CSymTool.MouseDown"); });
 }
 
-STDMETHODIMP CSymTool::MouseDownReal(LONG /*lX*/, LONG /*lY*/, IDispatch* /*pb*/, _CTrans* /*Trans*/, VARIANT_BOOL* /*bSymRelativ*/) {
+STDMETHODIMP CSymTool::MouseDownReal(LONG /*lX*/, LONG /*lY*/, IDispatch* /*pb*/, _CTrans* /*Trans*/,
+                                     VARIANT_BOOL* /*bSymRelativ*/) {
     return Do([] { library::NotImplemented(u"CSymTool.MouseDownReal"); });
 }
 
-STDMETHODIMP CSymTool::MouseMove(float /*sScreenX*/, float /*sScreenY*/, IDispatch* /*pb*/, _CTrans* /*Trans*/) {
+STDMETHODIMP CSymTool::MouseMove(float /*sScreenX*/, float /*sScreenY*/, IDispatch* /*pb*/,
+                                 _CTrans* /*Trans*/) {
     return Do([] { library::NotImplemented(u"CSymTool.MouseMove"); });
 }
 

@@ -16,7 +16,8 @@ public:
     STDMETHODIMP GetSymrefDataByPos(LONG lPos, LONG* lObjId, LONG* lX, LONG* lY, double* dAngle) override;
     STDMETHODIMP KeyUp(SHORT iKeyCode, SHORT iShift, IDispatch* pb, _CTrans* Trans) override;
     STDMETHODIMP MouseDown(float sX, float sY, IDispatch* pb, _CTrans* Trans) override;
-    STDMETHODIMP MouseDownReal(LONG lX, LONG lY, IDispatch* pb, _CTrans* Trans, VARIANT_BOOL* bSymRelativ) override;
+    STDMETHODIMP MouseDownReal(LONG lX, LONG lY, IDispatch* pb, _CTrans* Trans,
+                               VARIANT_BOOL* bSymRelativ) override;
     STDMETHODIMP MouseMove(float sScreenX, float sScreenY, IDispatch* pb, _CTrans* Trans) override;
     STDMETHODIMP SetMoveStartPos(LONG lX, LONG lY) override;
 };

@@ -31,7 +31,9 @@ qsymbol::ElementList ToRecords(_CSymElementColl& elements) {
 
 } // namespace
 
-CSymbol::CSymbol() { library::EnsureResources(); }
+CSymbol::CSymbol() {
+    library::EnsureResources();
+}
 
 com::ComPtr<CSymbol> CSymbol::CreateFrom(qsymbol::Symbol&& symbol) {
     com::ComPtr<CSymbol> object = Create();
@@ -81,7 +83,8 @@ STDMETHODIMP CSymbol::put_Height(LONG value) {
     return Do([&] { Edit().height = value; });
 }
 
-STDMETHODIMP CSymbol::CreateNew(LONG lRefX, LONG lRefY, LONG lWidth, LONG lHeight, _CSymElementColl* SymElements) {
+STDMETHODIMP CSymbol::CreateNew(LONG lRefX, LONG lRefY, LONG lWidth, LONG lHeight,
+                                _CSymElementColl* SymElements) {
     return Do([&] {
         Edit().refX = lRefX;
         Edit().refY = lRefY;
@@ -101,8 +104,8 @@ STDMETHODIMP CSymbol::Draw(LONG lLogX, LONG lLogY, double dAngle, IDispatch* ctr
             return;
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
         HostSurface surface(*ctrl);
-        qsymbol::DrawSymbol(*symbol, {.at = {lLogX, lLogY}, .angle = dAngle}, surface, HostTransformation(*Trans),
-                            factors, lMarkColor == nullptr ? -1 : *lMarkColor);
+        qsymbol::DrawSymbol(*symbol, {.at = {lLogX, lLogY}, .angle = dAngle}, surface,
+                            HostTransformation(*Trans), factors, lMarkColor == nullptr ? -1 : *lMarkColor);
     });
 }
 
@@ -145,20 +148,23 @@ STDMETHODIMP CSymbol::GetSymElements(_CSymElementColl** value) {
     });
 }
 
-STDMETHODIMP CSymbol::ObjIdentByPt(LONG /*lLogObjX*/, LONG /*lLogObjY*/, double /*dAngle*/, _CTrans* /*Trans*/,
-                                   LONG /*lScreenIdentX*/, LONG /*lScreenIdentY*/, VARIANT_BOOL* /*value*/) {
+STDMETHODIMP CSymbol::ObjIdentByPt(LONG /*lLogObjX*/, LONG /*lLogObjY*/, double /*dAngle*/,
+                                   _CTrans* /*Trans*/, LONG /*lScreenIdentX*/, LONG /*lScreenIdentY*/,
+                                   VARIANT_BOOL* /*value*/) {
     return Do([] { library::NotImplemented(u"CSymbol.ObjIdentByPt"); });
 }
 
-STDMETHODIMP CSymbol::ObjIdentByRect(LONG /*lLogObjX*/, LONG /*lLogObjY*/, double /*dAngle*/, _CTrans* /*Trans*/,
-                                     _CRect* /*ScreenIdentRect*/, VARIANT_BOOL* /*value*/) {
+STDMETHODIMP CSymbol::ObjIdentByRect(LONG /*lLogObjX*/, LONG /*lLogObjY*/, double /*dAngle*/,
+                                     _CTrans* /*Trans*/, _CRect* /*ScreenIdentRect*/,
+                                     VARIANT_BOOL* /*value*/) {
     return Do([] { library::NotImplemented(u"CSymbol.ObjIdentByRect"); });
 }
 
 STDMETHODIMP CSymbol::ReadFromFile() {
     return Do([&] {
         Edit();
-        const std::shared_ptr<qsymbol::Symbol> target = symbol_; // held: a notice lets the host's messages through
+        const std::shared_ptr<qsymbol::Symbol> target =
+            symbol_; // held: a notice lets the host's messages through
         try {
             qsymbol::ReadFromFile(*target, library::FileEnvironmentNow());
         } catch (...) {

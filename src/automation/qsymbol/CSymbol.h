@@ -26,19 +26,20 @@ public:
     STDMETHODIMP get_Height(LONG* value) override;
     STDMETHODIMP put_Width(LONG value) override;
     STDMETHODIMP put_Height(LONG value) override;
-    STDMETHODIMP CreateNew(LONG lRefX, LONG lRefY, LONG lWidth, LONG lHeight, _CSymElementColl* SymElements) override;
+    STDMETHODIMP CreateNew(LONG lRefX, LONG lRefY, LONG lWidth, LONG lHeight,
+                           _CSymElementColl* SymElements) override;
     STDMETHODIMP Draw(LONG lLogX, LONG lLogY, double dAngle, IDispatch* ctrl, _CTrans* Trans,
                       double dSymPrinterFaktor, double dSymBSFaktor, LONG* lMarkColor) override;
     STDMETHODIMP DxfExport(LONG lLogX, LONG lLogY, double dAngle, LONG* lMarkColor) override;
-    STDMETHODIMP CatchPt(float* x, float* y, LONG* XKoord, LONG* YKoord, LONG lLogX, LONG lLogY, double dAngle,
-                         _CTrans* Trans, SHORT iFangbereich, VARIANT_BOOL* value) override;
+    STDMETHODIMP CatchPt(float* x, float* y, LONG* XKoord, LONG* YKoord, LONG lLogX, LONG lLogY,
+                         double dAngle, _CTrans* Trans, SHORT iFangbereich, VARIANT_BOOL* value) override;
     STDMETHODIMP Draw2PBox(IDispatch* PBox) override;
     STDMETHODIMP GetBoundingRect(LONG lLogX, LONG lLogY, double dAngle, _CRect** r) override;
     STDMETHODIMP GetSymElements(_CSymElementColl** value) override;
     STDMETHODIMP ObjIdentByPt(LONG lLogObjX, LONG lLogObjY, double dAngle, _CTrans* Trans, LONG lScreenIdentX,
                               LONG lScreenIdentY, VARIANT_BOOL* value) override;
-    STDMETHODIMP ObjIdentByRect(LONG lLogObjX, LONG lLogObjY, double dAngle, _CTrans* Trans, _CRect* ScreenIdentRect,
-                                VARIANT_BOOL* value) override;
+    STDMETHODIMP ObjIdentByRect(LONG lLogObjX, LONG lLogObjY, double dAngle, _CTrans* Trans,
+                                _CRect* ScreenIdentRect, VARIANT_BOOL* value) override;
     STDMETHODIMP ReadFromFile() override;
     STDMETHODIMP Write2File() override;
     STDMETHODIMP put_Etagenbreite(LONG value) override;

@@ -10,13 +10,19 @@
 
 namespace {
 
-std::u16string Key(std::u16string_view name) { return std::u16string(name) + u"$"; }
+std::u16string Key(std::u16string_view name) {
+    return std::u16string(name) + u"$";
+}
 
 } // namespace
 
-CSymbolColl::CSymbolColl() { library::EnsureResources(); }
+CSymbolColl::CSymbolColl() {
+    library::EnsureResources();
+}
 
-const com::ComPtr<_CSymbol>* CSymbolColl::Find(BSTR name) const { return symbols_.ItemByKey(Key(com::View(name))); }
+const com::ComPtr<_CSymbol>* CSymbolColl::Find(BSTR name) const {
+    return symbols_.ItemByKey(Key(com::View(name)));
+}
 
 void CSymbolColl::AppendKeyed(com::ComPtr<_CSymbol> symbol) {
     com::Bstr name;
@@ -76,8 +82,8 @@ STDMETHODIMP CSymbolColl::RemoveOnIndex(BSTR stName) {
 
 STDMETHODIMP CSymbolColl::ReadListe(BSTR stFolderPath, IDispatch* collSym, VARIANT_BOOL* value) {
     return Return(value, [&] {
-        const bool loaded = qsymbol::ReadListe(com::View(stFolderPath), NameListOf(com::Required(collSym)), *this,
-                                               library::FileEnvironmentNow());
+        const bool loaded = qsymbol::ReadListe(com::View(stFolderPath), NameListOf(com::Required(collSym)),
+                                               *this, library::FileEnvironmentNow());
         return loaded ? VARIANT_TRUE : VARIANT_FALSE;
     });
 }

@@ -15,7 +15,8 @@ const com::ClassEntry kClasses[] = {
     {&__uuidof(CSymbol), L"CSymbol", L"QSymbol.CSymbol", CSymbol::CreateInstance},
     {&__uuidof(CSymbolColl), L"CSymbolColl", L"QSymbol.CSymbolColl", CSymbolColl::CreateInstance},
     {&__uuidof(CSymElement), L"CSymElement", L"QSymbol.CSymElement", CSymElement::CreateInstance},
-    {&__uuidof(CSymElementColl), L"CSymElementColl", L"QSymbol.CSymElementColl", CSymElementColl::CreateInstance},
+    {&__uuidof(CSymElementColl), L"CSymElementColl", L"QSymbol.CSymElementColl",
+     CSymElementColl::CreateInstance},
     {&__uuidof(CSymTool), L"CSymTool", L"QSymbol.CSymTool", CSymTool::CreateInstance},
 };
 

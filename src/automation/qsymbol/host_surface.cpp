@@ -10,7 +10,9 @@ namespace {
 
 static_assert(sizeof(qmath::Point) == sizeof(POINT) && alignof(qmath::Point) == alignof(POINT));
 
-const POINT* Gdi(std::span<const qmath::Point> points) { return reinterpret_cast<const POINT*>(points.data()); }
+const POINT* Gdi(std::span<const qmath::Point> points) {
+    return reinterpret_cast<const POINT*>(points.data());
+}
 
 VARIANTARG Single(std::int32_t value) {
     VARIANTARG argument;
@@ -22,9 +24,9 @@ VARIANTARG Single(std::int32_t value) {
 } // namespace
 
 HostSurface::HostSurface(IDispatch& control)
-    : control_(control), hDC_(control, L"hDC"), drawMode_(control, L"DrawMode"), drawWidth_(control, L"DrawWidth"),
-      drawStyle_(control, L"DrawStyle"), foreColor_(control, L"ForeColor"), fillColor_(control, L"FillColor"),
-      fillStyle_(control, L"FillStyle"), context_(ReadContext()) {}
+    : control_(control), hDC_(control, L"hDC"), drawMode_(control, L"DrawMode"),
+      drawWidth_(control, L"DrawWidth"), drawStyle_(control, L"DrawStyle"), foreColor_(control, L"ForeColor"),
+      fillColor_(control, L"FillColor"), fillStyle_(control, L"FillStyle"), context_(ReadContext()) {}
 
 HDC HostSurface::ReadContext() {
     com::Variant value;
@@ -36,7 +38,9 @@ qsymbol::SurfaceKind HostSurface::Kind() {
     return IsPrinter(control_) ? qsymbol::SurfaceKind::Printer : qsymbol::SurfaceKind::PictureBox;
 }
 
-std::u16string HostSurface::Name() { return com::LateBoundMember(control_, L"Name").GetText(); }
+std::u16string HostSurface::Name() {
+    return com::LateBoundMember(control_, L"Name").GetText();
+}
 
 void HostSurface::Line(qmath::Point from, qmath::Point to) {
     com::LateBoundMember line(control_, L"Line");
@@ -60,7 +64,9 @@ void HostSurface::Polyline(std::span<const qmath::Point> points) {
     ::Polyline(context_, Gdi(points), static_cast<int>(points.size()));
 }
 
-void HostSurface::Ellipse(const qmath::Rect& box) { ::Ellipse(context_, box.left, box.top, box.right, box.bottom); }
+void HostSurface::Ellipse(const qmath::Rect& box) {
+    ::Ellipse(context_, box.left, box.top, box.right, box.bottom);
+}
 
 void HostSurface::Arc(const qmath::Rect& box, qmath::Point start, qmath::Point end) {
     ::Arc(context_, box.left, box.top, box.right, box.bottom, start.x, start.y, end.x, end.y);
@@ -70,9 +76,13 @@ void HostSurface::Invert(qmath::Point leftTop, std::int32_t width, std::int32_t 
     ::PatBlt(ReadContext(), leftTop.x, leftTop.y, width, height, DSTINVERT);
 }
 
-void HostSurface::SetTextAlign(std::int32_t flags) { ::SetTextAlign(context_, static_cast<UINT>(flags)); }
+void HostSurface::SetTextAlign(std::int32_t flags) {
+    ::SetTextAlign(context_, static_cast<UINT>(flags));
+}
 
-void HostSurface::SetBkMode(std::int32_t mode) { ::SetBkMode(context_, mode); }
+void HostSurface::SetBkMode(std::int32_t mode) {
+    ::SetBkMode(context_, mode);
+}
 
 void HostSurface::WriteText(qmath::Point anchor, std::u16string_view text) {
     const std::string bytes = codePage_.Encode(text);
@@ -100,4 +110,6 @@ void HostSurface::SelectFont(const qsymbol::FontRequest& request) {
                             .name = request.name});
 }
 
-void HostSurface::ReleaseFont() noexcept { font_.Release(); }
+void HostSurface::ReleaseFont() noexcept {
+    font_.Release();
+}

@@ -7,7 +7,8 @@
 /// What all objects of QSymbol share: one of each in a process, made on first use.
 namespace library {
 
-/// Makes sure that the resource-string object exists; it opens "QRes.dll" once and lives as long as the process.
+/// Makes sure that the resource-string object exists; it opens "QRes.dll" once and lives as long as the
+/// process.
 void EnsureResources();
 
 /// The user seam of this DLL: message boxes.
@@ -19,7 +20,8 @@ qsymbol::FileEnvironment FileEnvironmentNow();
 /// Shows the exception being handled to the user: source, line break, description. Never throws.
 void ReportCurrentError(std::u16string_view source) noexcept;
 
-/// Runs the body of an operation that a user triggers; an error is shown under the source and goes no further.
+/// Runs the body of an operation that a user triggers; an error is shown under the source and goes no
+/// further.
 template <class Body>
 void ReportAndSwallow(std::u16string_view source, Body&& body) noexcept {
     try {

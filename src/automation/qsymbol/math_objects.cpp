@@ -26,7 +26,8 @@ com::ComPtr<IClassFactory> SiblingFactory(REFCLSID clsid) {
 
 com::ComPtr<IClassFactory> Factory(REFCLSID clsid) {
     com::ComPtr<IClassFactory> factory;
-    const HRESULT status = CoGetClassObject(clsid, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, factory.PutVoid());
+    const HRESULT status =
+        CoGetClassObject(clsid, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, factory.PutVoid());
     if (SUCCEEDED(status))
         return factory;
     factory = SiblingFactory(clsid);
@@ -63,6 +64,8 @@ com::ComPtr<_CPtList> NewPointList(std::span<const qmath::Point> points) {
     return list;
 }
 
-com::ComPtr<_CRect> NewRect() { return New<_CRect>(*Factory(__uuidof(CRect)).Get()); }
+com::ComPtr<_CRect> NewRect() {
+    return New<_CRect>(*Factory(__uuidof(CRect)).Get());
+}
 
 } // namespace math_objects

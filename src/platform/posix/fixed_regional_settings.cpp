@@ -2,8 +2,12 @@
 
 namespace platform {
 
-base::RegionalSettings GermanSettings() { return {.decimal = ",", .thousands = ".", .systemParse = nullptr}; }
+base::RegionalSettings GermanSettings() {
+    return {.decimal = ",", .thousands = ".", .systemParse = nullptr};
+}
 
-base::RegionalSettings EnglishSettings() { return {.decimal = ".", .thousands = ",", .systemParse = nullptr}; }
+base::RegionalSettings EnglishSettings() {
+    return {.decimal = ".", .thousands = ",", .systemParse = nullptr};
+}
 
 } // namespace platform

@@ -28,8 +28,12 @@ std::u16string Mapped(std::u16string_view text, Map map) {
 
 } // namespace
 
-std::u16string UpperCase(std::u16string_view text) { return Mapped(text, towupper_l); }
+std::u16string UpperCase(std::u16string_view text) {
+    return Mapped(text, towupper_l);
+}
 
-std::u16string LowerCase(std::u16string_view text) { return Mapped(text, towlower_l); }
+std::u16string LowerCase(std::u16string_view text) {
+    return Mapped(text, towlower_l);
+}
 
 } // namespace base

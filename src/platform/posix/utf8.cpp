@@ -32,7 +32,10 @@ char32_t NextCharacter(std::string_view bytes, std::size_t& at) {
     const auto lead = static_cast<unsigned char>(bytes[at++]);
     if (lead < 0x80)
         return lead;
-    const std::size_t more = lead >= 0xF0 && lead < 0xF5 ? 3 : lead >= 0xE0 && lead < 0xF0 ? 2 : lead >= 0xC2 && lead < 0xE0 ? 1 : 0;
+    const std::size_t more = lead >= 0xF0 && lead < 0xF5   ? 3
+                             : lead >= 0xE0 && lead < 0xF0 ? 2
+                             : lead >= 0xC2 && lead < 0xE0 ? 1
+                                                           : 0;
     if (more == 0 || at + more > bytes.size())
         return kReplacement;
     char32_t value = lead & (0x3FU >> more);

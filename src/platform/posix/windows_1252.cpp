@@ -27,7 +27,8 @@ std::string Windows1252::Encode(std::u16string_view text) const {
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool pair = (text[i] & 0xFC00) == 0xD800 && i + 1 < text.size() && (text[i + 1] & 0xFC00) == 0xDC00;
+        const bool pair =
+            (text[i] & 0xFC00) == 0xD800 && i + 1 < text.size() && (text[i + 1] & 0xFC00) == 0xDC00;
         bytes += EncodeOne(text[i]);
         i += pair ? 1 : 0;
     }

@@ -31,12 +31,13 @@ std::wstring FileDescription(const std::wstring& path) {
     };
     Translation* translation = nullptr;
     UINT length = 0;
-    if (VerQueryValueW(block.data(), L"\\VarFileInfo\\Translation", reinterpret_cast<void**>(&translation), &length) ==
-            FALSE ||
+    if (VerQueryValueW(block.data(), L"\\VarFileInfo\\Translation", reinterpret_cast<void**>(&translation),
+                       &length) == FALSE ||
         length < sizeof(Translation))
         return {};
     wchar_t key[64];
-    wsprintfW(key, L"\\StringFileInfo\\%04x%04x\\FileDescription", translation->language, translation->codePage);
+    wsprintfW(key, L"\\StringFileInfo\\%04x%04x\\FileDescription", translation->language,
+              translation->codePage);
     wchar_t* text = nullptr;
     if (VerQueryValueW(block.data(), key, reinterpret_cast<void**>(&text), &length) == FALSE || length == 0)
         return {};

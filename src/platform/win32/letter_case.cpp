@@ -19,8 +19,12 @@ std::u16string Mapped(std::u16string_view text, DWORD flags) {
 
 } // namespace
 
-std::u16string UpperCase(std::u16string_view text) { return Mapped(text, LCMAP_UPPERCASE); }
+std::u16string UpperCase(std::u16string_view text) {
+    return Mapped(text, LCMAP_UPPERCASE);
+}
 
-std::u16string LowerCase(std::u16string_view text) { return Mapped(text, LCMAP_LOWERCASE); }
+std::u16string LowerCase(std::u16string_view text) {
+    return Mapped(text, LCMAP_LOWERCASE);
+}
 
 } // namespace base

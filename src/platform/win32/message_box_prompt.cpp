@@ -23,7 +23,9 @@ void MessageBoxPrompt::ReportError(std::u16string_view text) {
     Show(text, ApplicationTitle(), MB_OK | MB_ICONERROR);
 }
 
-void MessageBoxPrompt::Notice(std::u16string_view text) { Show(text, ApplicationTitle(), MB_OK); }
+void MessageBoxPrompt::Notice(std::u16string_view text) {
+    Show(text, ApplicationTitle(), MB_OK);
+}
 
 void MessageBoxPrompt::Inform(std::u16string_view text) {
     Show(text, ApplicationTitle(), MB_OK | MB_ICONINFORMATION);

@@ -7,7 +7,9 @@
 namespace platform {
 
 /// A device context from a 32-bit handle value; handles are sign-extended.
-inline HDC DeviceContext(LONG_PTR handle) { return reinterpret_cast<HDC>(handle); }
+inline HDC DeviceContext(LONG_PTR handle) {
+    return reinterpret_cast<HDC>(handle);
+}
 
 /// A GDI font that is created and selected; releasing selects the previous one back and deletes it.
 class SelectedFont {

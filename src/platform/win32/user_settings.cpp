@@ -17,7 +17,8 @@ std::string Separator(LCTYPE type) {
     const int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, 8);
     if (length <= 1)
         return {};
-    return AnsiCodePage().Encode({reinterpret_cast<const char16_t*>(text), static_cast<std::size_t>(length - 1)});
+    return AnsiCodePage().Encode(
+        {reinterpret_cast<const char16_t*>(text), static_cast<std::size_t>(length - 1)});
 }
 
 /// What the automation run-time makes of a text; infinity for a number out of range.

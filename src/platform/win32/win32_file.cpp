@@ -37,7 +37,8 @@ std::uint64_t Win32File::Size() {
 
 std::size_t Win32File::Read(char* buffer, std::size_t count) {
     DWORD got = 0;
-    if (ReadFile(handle_, buffer, static_cast<DWORD>(std::min(count, kLargestTransfer)), &got, nullptr) == FALSE)
+    if (ReadFile(handle_, buffer, static_cast<DWORD>(std::min(count, kLargestTransfer)), &got, nullptr) ==
+        FALSE)
         RaiseTransferFailure(GetLastError());
     return got;
 }
@@ -45,7 +46,8 @@ std::size_t Win32File::Read(char* buffer, std::size_t count) {
 void Win32File::Write(const char* bytes, std::size_t count) {
     while (count > 0) {
         DWORD put = 0;
-        if (WriteFile(handle_, bytes, static_cast<DWORD>(std::min(count, kLargestTransfer)), &put, nullptr) == FALSE)
+        if (WriteFile(handle_, bytes, static_cast<DWORD>(std::min(count, kLargestTransfer)), &put, nullptr) ==
+            FALSE)
             RaiseTransferFailure(GetLastError());
         if (put == 0)
             RaiseTransferFailure(ERROR_DISK_FULL);

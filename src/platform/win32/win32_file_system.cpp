@@ -9,7 +9,9 @@ using base::RunTimeError;
 
 namespace {
 
-const wchar_t* Wide(const std::u16string& text) { return reinterpret_cast<const wchar_t*>(text.c_str()); }
+const wchar_t* Wide(const std::u16string& text) {
+    return reinterpret_cast<const wchar_t*>(text.c_str());
+}
 
 DWORD Attributes(const std::u16string& path) {
     return path.empty() || path.find(u'\0') != std::u16string::npos ? INVALID_FILE_ATTRIBUTES
@@ -70,8 +72,8 @@ std::unique_ptr<base::File> Win32FileSystem::Open(const std::u16string& path, ba
     if (path.empty() || path.find(u'\0') != std::u16string::npos)
         base::Raise(RunTimeError::BadFileName);
     const OpenFlags flags = FlagsFor(mode);
-    const HANDLE handle =
-        CreateFileW(Wide(path), flags.access, flags.share, nullptr, flags.creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE handle = CreateFileW(Wide(path), flags.access, flags.share, nullptr, flags.creation,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         RaiseOpenFailure(GetLastError(), path);
     return std::make_unique<Win32File>(handle);
@@ -82,17 +84,22 @@ bool Win32FileSystem::FileExists(const std::u16string& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && !IsFolder(attributes);
 }
 
-bool Win32FileSystem::FolderExists(const std::u16string& path) { return IsFolder(Attributes(path)); }
+bool Win32FileSystem::FolderExists(const std::u16string& path) {
+    return IsFolder(Attributes(path));
+}
 
 std::vector<base::FolderEntry> Win32FileSystem::ListFiles(const std::u16string& folder) {
-    const std::u16string prefix = !folder.empty() && (folder.back() == u'\\' || folder.back() == u'/') ? folder : folder + u"\\";
+    const std::u16string prefix =
+        !folder.empty() && (folder.back() == u'\\' || folder.back() == u'/') ? folder : folder + u"\\";
     const std::u16string pattern = prefix + u"*";
     WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileExW(Wide(pattern), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0);
+    const HANDLE search =
+        FindFirstFileExW(Wide(pattern), FindExInfoBasic, &found, FindExSearchNameMatch, nullptr, 0);
     if (search == INVALID_HANDLE_VALUE) {
         if (GetLastError() == ERROR_FILE_NOT_FOUND)
             return {};
-        base::Raise(GetLastError() == ERROR_ACCESS_DENIED ? RunTimeError::PermissionDenied : RunTimeError::PathNotFound);
+        base::Raise(GetLastError() == ERROR_ACCESS_DENIED ? RunTimeError::PermissionDenied
+                                                          : RunTimeError::PathNotFound);
     }
     const std::unique_ptr<void, decltype(&FindClose)> owner(search, &FindClose);
     std::vector<base::FolderEntry> entries;

@@ -23,6 +23,7 @@ struct NameList {
 /// Loads the binary symbol files of the folder whose names are in the list.
 ///
 /// False, with nothing loaded, when the list is longer than 0.8 times the number of files in the folder.
-bool ReadListe(std::u16string_view folder, const NameList& list, CatalogSink& sink, const FileEnvironment& environment);
+bool ReadListe(std::u16string_view folder, const NameList& list, CatalogSink& sink,
+               const FileEnvironment& environment);
 
 } // namespace qsymbol

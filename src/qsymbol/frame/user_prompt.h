@@ -6,7 +6,8 @@ namespace qsymbol {
 
 enum class FailureChoice { Abort, Retry, Ignore };
 
-/// Seam: what the library says to the user and asks of him. A DLL answers with message boxes, a test from a script.
+/// Seam: what the library says to the user and asks of him. A DLL answers with message boxes, a test from a
+/// script.
 class UserPrompt {
 public:
     virtual ~UserPrompt() = default;

@@ -18,11 +18,11 @@ struct ElementRecord {
     ElementType type = ElementType::Undefined;
     bool lineClosed = false; ///< polyline is closed; of a text: its font size is in hundredths
     std::int32_t lineWidth = 0;
-    std::int32_t textAlign = 0; ///< the GDI's text alignment flags
+    std::int32_t textAlign = 0;  ///< the GDI's text alignment flags
     std::int32_t textBkMode = 1; ///< the GDI's background mode: 1 transparent, 2 opaque
-    double textAngle = 0; ///< radians, counter-clockwise
+    double textAngle = 0;        ///< radians, counter-clockwise
     std::int32_t radius = 0;
-    std::int32_t mainColor = 0; ///< packed RGB
+    std::int32_t mainColor = 0;  ///< packed RGB
     std::int32_t fillColor = -1; ///< packed RGB, negative: not filled
     std::u16string text;
     std::vector<qmath::Point> points;
