@@ -30,3 +30,16 @@ std::vector<qmath::Point> GetPoints(_CPtList* list) {
     }
     return points;
 }
+
+qmath::Rect GetRect(_CRect* rect) {
+    _CRect& source = com::Required(rect);
+    LONG left = 0;
+    LONG top = 0;
+    LONG right = 0;
+    LONG bottom = 0;
+    com::Check(source.get_Left(&left));
+    com::Check(source.get_Top(&top));
+    com::Check(source.get_Right(&right));
+    com::Check(source.get_Bottom(&bottom));
+    return {left, top, right, bottom};
+}

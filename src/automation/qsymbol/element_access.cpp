@@ -50,6 +50,15 @@ com::ComPtr<IFontDisp> ElementFont(_CSymElement& element) {
     return font;
 }
 
+qsymbol::ElementRecord ToDrawing(_CSymElement& element) {
+    qsymbol::ElementRecord record = GetElementValues(element);
+    if (const com::ComPtr<_CPtList> points = ElementPoints(element))
+        record.points = GetPoints(points.Get());
+    if (const com::ComPtr<IFontDisp> font = ElementFont(element))
+        record.font = GetFont(font.Get());
+    return record;
+}
+
 qsymbol::ElementRecord ToRecord(_CSymElement& element) {
     qsymbol::ElementRecord record = GetElementValues(element);
     if (record.type == ElementType::Undefined)
