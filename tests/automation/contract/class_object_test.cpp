@@ -15,6 +15,11 @@ struct PublicClass {
     const IID* iid;
 };
 
+void PrintTo(const PublicClass& tested, std::ostream* out) {
+    const std::wstring name = tested.progId;
+    *out << std::string(name.begin(), name.end());
+}
+
 /// Every class that a client may create.
 const PublicClass kClasses[] = {
     {L"QSymbol.CSymbol", &CLSID_CSymbol, &IID__CSymbol},
