@@ -1,11 +1,11 @@
 #include "automation/qsymbol/CSymElement.h"
 
-#include "automation/qmath/point_access.h"
 #include "automation/qsymbol/element_access.h"
 #include "automation/qsymbol/font_access.h"
 #include "automation/qsymbol/host_surface.h"
 #include "automation/qsymbol/host_transformation.h"
 #include "automation/qsymbol/library.h"
+#include "automation/shared/point_access.h"
 #include "com/bstr.h"
 #include "qsymbol/draw/element_drawing.h"
 
@@ -165,7 +165,8 @@ STDMETHODIMP CSymElement::ObjIdentByPt(_CTrans* /*Trans*/, LONG /*lScreenX*/, LO
     });
 }
 
-STDMETHODIMP CSymElement::ObjIdentByRect(_CTrans* /*Trans*/, _CRect** /*ScreenIdentRect*/, VARIANT_BOOL* value) {
+STDMETHODIMP CSymElement::ObjIdentByRect(_CTrans* /*Trans*/, _CRect** /*ScreenIdentRect*/,
+                                         VARIANT_BOOL* value) {
     return Return(value, [] {
         SayNotImplemented();
         return VARIANT_FALSE;

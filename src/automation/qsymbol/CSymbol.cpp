@@ -1,12 +1,12 @@
 #include "automation/qsymbol/CSymbol.h"
 
-#include "automation/qmath/point_access.h"
 #include "automation/qsymbol/CSymElementColl.h"
 #include "automation/qsymbol/element_access.h"
 #include "automation/qsymbol/host_surface.h"
 #include "automation/qsymbol/host_transformation.h"
 #include "automation/qsymbol/library.h"
 #include "automation/qsymbol/math_objects.h"
+#include "automation/shared/point_access.h"
 #include "com/bstr.h"
 #include "qsymbol/draw/bounds.h"
 #include "qsymbol/draw/fitted_drawing.h"
@@ -187,9 +187,9 @@ STDMETHODIMP CSymbol::ObjIdentByPt(LONG lLogObjX, LONG lLogObjY, double dAngle, 
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
         if (symbol->elements.empty())
             return VARIANT_FALSE;
-        const bool hit = qsymbol::ObjIdentByPt(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle},
-                                               ScreenFactor(), HostTransformation(com::Required(Trans)),
-                                               {lScreenIdentX, lScreenIdentY});
+        const bool hit =
+            qsymbol::ObjIdentByPt(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle}, ScreenFactor(),
+                                  HostTransformation(com::Required(Trans)), {lScreenIdentX, lScreenIdentY});
         return hit ? VARIANT_TRUE : VARIANT_FALSE;
     });
 }
@@ -200,9 +200,9 @@ STDMETHODIMP CSymbol::ObjIdentByRect(LONG lLogObjX, LONG lLogObjY, double dAngle
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
         if (symbol->elements.empty())
             return VARIANT_FALSE;
-        const bool hit = qsymbol::ObjIdentByRect(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle},
-                                                 ScreenFactor(), HostTransformation(com::Required(Trans)),
-                                                 GetRect(ScreenIdentRect));
+        const bool hit =
+            qsymbol::ObjIdentByRect(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle}, ScreenFactor(),
+                                    HostTransformation(com::Required(Trans)), GetRect(ScreenIdentRect));
         return hit ? VARIANT_TRUE : VARIANT_FALSE;
     });
 }

@@ -1,9 +1,9 @@
 #include "automation/qsymbol/element_access.h"
 
-#include "automation/qmath/point_access.h"
 #include "automation/qsymbol/CSymElement.h"
 #include "automation/qsymbol/font_access.h"
 #include "automation/qsymbol/math_objects.h"
+#include "automation/shared/point_access.h"
 #include "base/error.h"
 #include "com/bstr.h"
 

@@ -1,6 +1,6 @@
 #include "automation/qsymbol/math_objects.h"
 
-#include "automation/qmath/point_access.h"
+#include "automation/shared/point_access.h"
 #include "com/error_info.h"
 #include "com/module.h"
 

@@ -1,4 +1,4 @@
-#include "automation/qmath/point_access.h"
+#include "automation/shared/point_access.h"
 
 #include "base/checked.h"
 #include "com/error_info.h"
