@@ -13,7 +13,8 @@ namespace {
 constexpr int kColumns = 10;
 constexpr int kCellWidth = 200;
 constexpr int kCellHeight = 216;
-constexpr int kGap = 8;       // between frame and symbol, and between cells
+constexpr int kGap = 8;       // between cells, and between a cell's frame and its symbol
+constexpr int kBorder = 6;    // round the picture box
 constexpr int kBoxSide = 168; // the largest picture box; two lines of text stay below it
 constexpr COLORREF kPaper = RGB(238, 239, 242);
 constexpr COLORREF kFrame = RGB(190, 192, 198);
@@ -60,12 +61,12 @@ SIZE BoxSize(const Entry& entry) {
 void DrawSymbol(const Entry& entry, HDC sheet, int left, int top) {
     const SIZE size = BoxSize(entry);
     // A border round the box takes the outer halves of lines that run along the symbol's edge.
-    const Bitmap bitmap(size.cx + 2 * kGap, size.cy + 2 * kGap);
-    SetViewportOrgEx(bitmap.Dc(), kGap, kGap, nullptr);
+    const Bitmap bitmap(size.cx + 2 * kBorder, size.cy + 2 * kBorder);
+    SetViewportOrgEx(bitmap.Dc(), kBorder, kBorder, nullptr);
     const Ptr<PictureBox> box = PictureBox::Create(bitmap.Dc(), size.cx, size.cy, L"SymbolBox");
     Check(entry.symbol->Draw2PBox(box.Get()), entry.name);
-    BitBlt(sheet, left + (kBoxSide - size.cx) / 2 - kGap, top + (kBoxSide - size.cy) / 2 - kGap,
-           bitmap.Width(), bitmap.Height(), bitmap.Dc(), -kGap, -kGap, SRCCOPY);
+    BitBlt(sheet, left + (kBoxSide - size.cx) / 2 - kBorder, top + (kBoxSide - size.cy) / 2 - kBorder,
+           bitmap.Width(), bitmap.Height(), bitmap.Dc(), -kBorder, -kBorder, SRCCOPY);
 }
 
 void DrawFrame(HDC dc, const RECT& cell) {

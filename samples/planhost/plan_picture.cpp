@@ -12,8 +12,11 @@
 namespace {
 
 constexpr COLORREF kWallColour = RGB(74, 74, 78);
-constexpr COLORREF kLabelColour = RGB(40, 40, 44);
-constexpr int kLabelHeight = 230; // millimetres in the plan
+constexpr COLORREF kTextColour = RGB(40, 40, 44);
+// Millimetres in the plan.
+constexpr int kLabelHeight = 230;
+constexpr int kTitleHeight = 340;
+constexpr int kTitleMargin = 700;
 
 /// The sheet in world units and its picture; the libraries and the host share the transformation.
 struct Sheet {
@@ -98,23 +101,30 @@ void DrawSymbols(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols, co
     }
 }
 
-void DrawLabels(const Plan& plan, const Sheet& sheet) {
+void WriteText(const Sheet& sheet, const std::wstring& text, POINT at, int height, UINT align) {
     const HDC dc = sheet.bitmap.Dc();
     const int state = SaveDC(dc);
-    LONG height = kLabelHeight * kUnitsPerMillimetre;
-    Check(sheet.transformation->LengthToScreen(&height));
-    const HFONT font = CreateFontW(-height, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
+    LONG pixels = height * kUnitsPerMillimetre;
+    Check(sheet.transformation->LengthToScreen(&pixels));
+    const HFONT font = CreateFontW(-pixels, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
                                    ANTIALIASED_QUALITY, 0, L"Arial");
     SelectObject(dc, font);
-    SetTextColor(dc, kLabelColour);
+    SetTextColor(dc, kTextColour);
     SetBkMode(dc, TRANSPARENT);
-    SetTextAlign(dc, TA_CENTER | TA_BASELINE);
-    for (const Room& room : plan.rooms) {
-        const POINT middle = sheet.ToPixel(room.middle.x, room.middle.y);
-        TextOutW(dc, middle.x, middle.y + height / 3, room.name.c_str(), static_cast<int>(room.name.size()));
-    }
+    SetTextAlign(dc, align | TA_BASELINE);
+    const POINT anchor = sheet.ToPixel(at.x, at.y);
+    TextOutW(dc, anchor.x, anchor.y, text.c_str(), static_cast<int>(text.size()));
     RestoreDC(dc, state);
     DeleteObject(font);
+}
+
+void WriteTitleAndLabels(const Plan& plan, const Sheet& sheet) {
+    WriteText(sheet, plan.title, {kTitleMargin, kTitleMargin - kTitleHeight / 2}, kTitleHeight, TA_LEFT);
+    for (const Room& room : plan.rooms) {
+        // Capitals are about two thirds of the height: this puts them round the middle.
+        const POINT baseline{room.middle.x, room.middle.y + kLabelHeight / 3};
+        WriteText(sheet, room.name, baseline, kLabelHeight, TA_CENTER);
+    }
 }
 
 } // namespace
@@ -126,6 +136,6 @@ void DrawPlan(const Plan& plan, _CSymbolColl& catalogue, int pixelWidth,
     DrawFloors(plan, sheet);
     DrawWalls(plan, sheet);
     DrawSymbols(plan, symbols, sheet);
-    DrawLabels(plan, sheet);
+    WriteTitleAndLabels(plan, sheet);
     sheet.bitmap.SavePng(picture.wstring());
 }
