@@ -25,7 +25,7 @@ constexpr std::int32_t CheckedSub(std::int32_t a, std::int32_t b) {
 }
 
 /// Nearest integer, exact halves to even; error 6 outside the 32-bit range and for what is not a number.
-inline std::int32_t RoundToLong(double value) {
+constexpr std::int32_t RoundToLong(double value) {
     // Adding and taking away 1.5 * 2^52 leaves the integer part, rounded in the processor's mode (half to
     // even).
     constexpr double kShift = 6755399441055744.0;
