@@ -27,7 +27,7 @@ constexpr std::int32_t CheckedSub(std::int32_t a, std::int32_t b) {
 
 /// The nearest whole number, exact halves to even, as a 64-bit integer; for a value outside the 32-bit range
 /// and for what is not a number, some integer outside that range.
-inline std::uint64_t RoundedBits(double value) {
+constexpr std::uint64_t RoundedBits(double value) {
     // Adding 1.5 * 2^52 rounds in the processor's mode (half to even) and leaves the whole number in the low
     // bits. The bits of doubles are ordered like their values, so what lies outside gives a difference
     // outside.
@@ -36,7 +36,7 @@ inline std::uint64_t RoundedBits(double value) {
 }
 
 /// Nearest integer, exact halves to even; error 6 outside the 32-bit range and for what is not a number.
-inline std::int32_t RoundToLong(double value) {
+constexpr std::int32_t RoundToLong(double value) {
     const std::uint64_t rounded = RoundedBits(value);
     if (rounded + 0x80000000U > 0xFFFFFFFFU)
         Raise(RunTimeError::Overflow);

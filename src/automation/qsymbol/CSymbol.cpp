@@ -13,6 +13,8 @@
 #include "qsymbol/draw/hit_test.h"
 #include "qsymbol/draw/snapping.h"
 #include "qsymbol/draw/symbol_drawing.h"
+#include "qsymbol/export/colour_table.h"
+#include "qsymbol/export/dxf_export.h"
 #include "qsymbol/files/symbol_file.h"
 
 #include <utility>
@@ -120,7 +122,7 @@ STDMETHODIMP CSymbol::Draw(LONG lLogX, LONG lLogY, double dAngle, IDispatch* ctr
 }
 
 STDMETHODIMP CSymbol::DxfExport(LONG /*lLogX*/, LONG /*lLogY*/, double /*dAngle*/, LONG* /*lMarkColor*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.DxfExport"); });
+    return S_OK; // reserved
 }
 
 STDMETHODIMP CSymbol::CatchPt(float* x, float* y, LONG* XKoord, LONG* YKoord, LONG lLogX, LONG lLogY,
@@ -235,10 +237,17 @@ STDMETHODIMP CSymbol::put_Etagenbreite(LONG value) {
     return S_OK;
 }
 
-STDMETHODIMP CSymbol::DxfExportSym(LONG /*lLogX*/, LONG /*lLogY*/, double /*dAngle*/, BSTR /*stFilename*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.DxfExportSym"); });
+STDMETHODIMP CSymbol::DxfExportSym(LONG lLogX, LONG lLogY, double dAngle, BSTR stFilename) {
+    return Do([&] {
+        openDxfFile_.reset();
+        openDxfFile_ = qsymbol::AppendToDxfFile(*symbol_, {.at = {lLogX, lLogY}, .angle = dAngle},
+                                                com::Text(stFilename), library::Files(), library::CodePage());
+    });
 }
 
-STDMETHODIMP CSymbol::GetColor2ColNr(SHORT /*iColNr*/, VARIANT_BOOL /*bSymEdit*/, LONG* /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.GetColor2ColNr"); });
+STDMETHODIMP CSymbol::GetColor2ColNr(SHORT iColNr, VARIANT_BOOL bSymEdit, LONG* value) {
+    return Return(value, [&] {
+        return qsymbol::ColourOfNumber(iColNr, bSymEdit != VARIANT_FALSE ? qsymbol::ColourUse::SymbolEditor
+                                                                         : qsymbol::ColourUse::Plan);
+    });
 }
