@@ -1,4 +1,4 @@
-#include "automation/qmath/point_access.h"
+#include "automation/shared/point_access.h"
 
 #include "base/checked.h"
 #include "com/error_info.h"
@@ -29,4 +29,17 @@ std::vector<qmath::Point> GetPoints(_CPtList* list) {
         points.push_back(GetPoint(pt.Get()));
     }
     return points;
+}
+
+qmath::Rect GetRect(_CRect* rect) {
+    _CRect& source = com::Required(rect);
+    LONG left = 0;
+    LONG top = 0;
+    LONG right = 0;
+    LONG bottom = 0;
+    com::Check(source.get_Left(&left));
+    com::Check(source.get_Top(&top));
+    com::Check(source.get_Right(&right));
+    com::Check(source.get_Bottom(&bottom));
+    return {left, top, right, bottom};
 }
