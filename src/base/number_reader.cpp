@@ -129,48 +129,7 @@ std::optional<double> NumberReader::TryPlain(std::string_view text) const {
     return negative ? -value : value;
 }
 
-bool NumberReader::ScanFixed(std::string_view text, FixedPoint& number) const {
-    if (text.empty() || text.size() > kExactDigits)
-        return false;
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    number.negative = *at == '-';
-    at += number.negative ? 1 : 0;
-    std::int64_t digits = 0;
-    const char* const first = at;
-    for (; at != end && IsDigit(*at); ++at)
-        digits = digits * 10 + (*at - '0');
-    number.decimals = 0;
-    if (at != end) {
-        if (at == first || static_cast<unsigned char>(*at) != decimal_)
-            return false;
-        const char* const fraction = ++at;
-        for (; at != end && IsDigit(*at); ++at)
-            digits = digits * 10 + (*at - '0');
-        number.decimals = static_cast<int>(at - fraction);
-    }
-    number.digits = digits;
-    return at == end && at != first;
-}
-
-double NumberReader::ValueOf(const FixedPoint& number) {
-    const double value =
-        static_cast<double>(number.digits) / kPowersOfTen[static_cast<std::size_t>(number.decimals)];
-    return number.negative ? -value : value;
-}
-
-std::optional<std::int32_t> NumberReader::FewDecimals(const FixedPoint& number) {
-    constexpr std::array<std::int64_t, 3> kFactor = {100, 10, 1};
-    if (number.decimals > 2)
-        return std::nullopt;
-    const std::int64_t magnitude = number.digits * kFactor[static_cast<std::size_t>(number.decimals)];
-    return Narrow<std::int32_t>(number.negative ? -magnitude : magnitude);
-}
-
 std::optional<double> NumberReader::Parse(std::string_view text) const {
-    FixedPoint number;
-    if (ScanFixed(text, number))
-        return ValueOf(number);
     const std::optional<double> plain = TryPlain(text);
     if (plain || settings_.systemParse == nullptr)
         return plain;
@@ -191,27 +150,17 @@ double NumberReader::Decimal(std::string_view text) const {
     return *value;
 }
 
-std::int32_t NumberReader::Hundredths(std::string_view text) const {
-    FixedPoint number;
-    if (ScanFixed(text, number))
-        if (const std::optional<std::int32_t> exact = FewDecimals(number))
-            return *exact;
+std::int32_t NumberReader::AnyHundredths(std::string_view text) const {
     return RoundToLong(Decimal(text) * 100.0);
 }
 
-std::int32_t NumberReader::HundredthsOrZero(std::string_view text) const {
-    FixedPoint number;
-    if (ScanFixed(text, number))
-        if (const std::optional<std::int32_t> exact = FewDecimals(number))
-            return *exact;
+std::int32_t NumberReader::AnyHundredthsOrZero(std::string_view text) const {
     return RoundToLong(TryDecimal(text).value_or(0.0) * 100.0);
 }
 
 std::int32_t NumberReader::Long(std::string_view text) const {
-    FixedPoint number;
-    if (ScanFixed(text, number) && number.decimals == 0)
-        return Narrow<std::int32_t>(number.negative ? -number.digits : number.digits);
-    return RoundToLong(Decimal(text));
+    const std::int64_t digits = DigitsValue(text.data(), text.size());
+    return digits >= 0 ? static_cast<std::int32_t>(digits) : RoundToLong(Decimal(text));
 }
 
 std::int16_t NumberReader::Integer(std::string_view text) const {

@@ -54,7 +54,8 @@ STDMETHODIMP CSymElementColl::DrawTracker(IDispatch* ctrl, _CTrans* Trans) {
     });
 }
 
-STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* Trans, LONG lScreenX, LONG lScreenY, _CSymElement** value) {
+STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* Trans, LONG lScreenX, LONG lScreenY,
+                                           _CSymElement** value) {
     return Return(value, [&]() -> _CSymElement* {
         Elements elements = Snapshot();
         for (auto element = elements.rbegin(); element != elements.rend(); ++element) {
@@ -67,7 +68,8 @@ STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* Trans, LONG lScreenX, LONG l
     });
 }
 
-STDMETHODIMP CSymElementColl::ObjIdentByRect(_CTrans* Trans, _CRect** ScreenIdentRect, _CSymElementColl** value) {
+STDMETHODIMP CSymElementColl::ObjIdentByRect(_CTrans* Trans, _CRect** ScreenIdentRect,
+                                             _CSymElementColl** value) {
     return Return(value, [&]() -> _CSymElementColl* {
         com::ComPtr<CSymElementColl> found;
         for (const com::ComPtr<_CSymElement>& element : Snapshot()) {

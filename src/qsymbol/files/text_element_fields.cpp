@@ -1,9 +1,8 @@
 #include "qsymbol/files/text_element_fields.h"
 
 #include "base/error.h"
+#include "qmath/math_util.h"
 #include "qsymbol/files/text_format.h"
-
-#include <numbers>
 
 namespace qsymbol {
 
@@ -14,10 +13,6 @@ namespace {
 
 bool IsTrue(std::string_view value) {
     return value == text_format::kTrue;
-}
-
-double DegToRad(double degrees) {
-    return degrees * (std::numbers::pi / 180.0);
 }
 
 } // namespace
@@ -70,7 +65,7 @@ void TextElementFields::SetTextField(ElementRecord& element, std::string_view fi
     FontRecord& font = *element.font;
     switch (Key(field)) {
     case Key("COL"): element.mainColor = numbers_.Long(value); break;
-    case Key("ANG"): element.textAngle = DegToRad(numbers_.Decimal(value)); break;
+    case Key("ANG"): element.textAngle = qmath::DegToRad(numbers_.Decimal(value)); break;
     case Key("NAM"): font.name = codePage_.Decode(value); break;
     case Key("HEI"): font.size = numbers_.Integer(value); break;
     case Key("BOL"): font.bold = IsTrue(value); break;

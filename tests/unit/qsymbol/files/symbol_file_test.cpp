@@ -247,15 +247,26 @@ TEST_F(SymbolFile, AFailingWriteClosesTheFileAndLeavesTheSymbol) {
     EXPECT_EQ(memory_.openNow, 0);
 }
 
-TEST_F(SymbolFile, ReadsInPiecesAndFilesThatShrink) {
+TEST_F(SymbolFile, ReadsInPieces) {
     memory_.files[u"plan/wc.syt"] = support::WashRoomText();
     memory_.readAtMost = 7;
     Symbol symbol = At(u"plan/wc.syt", {});
     EXPECT_EQ(Read(symbol), Caught());
     EXPECT_EQ(symbol, At(u"plan/wc.syt"));
-    memory_.announcedSize = 100000;
-    EXPECT_EQ(Read(symbol), Caught());
-    EXPECT_EQ(symbol, At(u"plan/wc.syt"));
+}
+
+TEST_F(SymbolFile, LargeFilesAndSizesThatChangeMeanwhile) {
+    for (const std::size_t blanks : {0U, 1U, 3000U, 4095U, 4096U, 4097U, 100000U}) {
+        const std::string text = std::string(blanks, '\n') + support::WashRoomText();
+        memory_.files[u"plan/wc.syt"] = text;
+        Symbol symbol = At(u"plan/wc.syt", {});
+        EXPECT_EQ(Read(symbol), Caught());
+        EXPECT_EQ(symbol, At(u"plan/wc.syt")) << blanks;
+        memory_.announcedSize = text.size() + 5000; // it shrank since
+        EXPECT_EQ(Read(symbol), Caught());
+        EXPECT_EQ(symbol, At(u"plan/wc.syt")) << blanks;
+        memory_.announcedSize.reset();
+    }
 }
 
 TEST_F(SymbolFile, ReadingAsksOnlyToOpen) {
