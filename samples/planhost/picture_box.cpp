@@ -72,8 +72,10 @@ STDMETHODIMP PictureBox::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
 }
 
 STDMETHODIMP PictureBox::GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) {
-    const auto* found = std::find_if(std::begin(kNames), std::end(kNames),
-                                     [names](const wchar_t* name) { return lstrcmpiW(name, names[0]) == 0; });
+    const auto isAsked = [names](const wchar_t* name) {
+        return CompareStringOrdinal(name, -1, names[0], -1, TRUE) == CSTR_EQUAL; // whatever the case
+    };
+    const auto* found = std::find_if(std::begin(kNames), std::end(kNames), isAsked);
     std::fill_n(ids, count, DISPID_UNKNOWN);
     if (found == std::end(kNames) || count != 1) // the properties have no named arguments
         return DISP_E_UNKNOWNNAME;

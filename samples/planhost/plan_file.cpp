@@ -77,6 +77,8 @@ void TakeWall(Record& record, Plan& plan) {
     record.RequireFields(5);
     const POINT from = record.Point();
     const POINT to = record.Point();
+    if (from.x == to.x && from.y == to.y)
+        record.Fail(L"Die Wand hat keine Länge.");
     plan.walls.push_back({from, to, record.Length()});
 }
 

@@ -13,6 +13,7 @@ namespace {
 
 constexpr COLORREF kWallColour = RGB(74, 74, 78);
 constexpr COLORREF kTextColour = RGB(40, 40, 44);
+constexpr int kLargestPixelHeight = 20000;
 // Millimetres in the plan.
 constexpr int kLabelHeight = 230;
 constexpr int kTitleHeight = 340;
@@ -34,8 +35,10 @@ Sheet MakeSheet(const Plan& plan, int pixelWidth) {
     const double unitsPerPixel = static_cast<double>(plan.width) * kUnitsPerMillimetre / pixelWidth;
     Ptr<_CTrans> transformation = Create<_CTrans>(__uuidof(CTrans));
     Check(transformation->SetScale(unitsPerPixel));
-    const int pixelHeight = static_cast<int>(std::lround(plan.height * kUnitsPerMillimetre / unitsPerPixel));
-    return {Bitmap(pixelWidth, pixelHeight), std::move(transformation)};
+    const double pixelHeight = std::round(plan.height * kUnitsPerMillimetre / unitsPerPixel);
+    if (pixelHeight < 1 || pixelHeight > kLargestPixelHeight)
+        throw Failure{L"Das Blatt ist für ein Bild dieser Breite zu flach oder zu hoch."};
+    return {Bitmap(pixelWidth, static_cast<int>(pixelHeight)), std::move(transformation)};
 }
 
 /// Every symbol that the plan names, in the plan's order; none may be missing.

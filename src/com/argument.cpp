@@ -112,8 +112,10 @@ HRESULT Argument::Take(const DispatchParameter& parameter, VARIANTARG* passed, L
         if (SUCCEEDED(status))
             status = VariantChangeTypeEx(local_.Put(), plain.Get(), locale, 0, parameter.type);
     }
+    // Whatever else the system says about an object or an array where a plain value belongs, it is the wrong
+    // type.
     if (FAILED(status))
-        return status;
+        return status == DISP_E_OVERFLOW || status == E_OUTOFMEMORY ? status : DISP_E_TYPEMISMATCH;
     const bool isVariable = value != passed || (type & VT_BYREF) != 0;
     caller_ = parameter.byReference && isVariable ? value : nullptr;
     Prepare(parameter);

@@ -35,6 +35,21 @@ HRESULT MapArguments(const DispatchMember& member, WORD flags, const DISPPARAMS&
     return S_OK;
 }
 
+/// Hands every changed by-reference value back; the first failure, with the argument that it concerns.
+HRESULT GiveBack(std::deque<Argument>& taken, const std::vector<UINT>& map, LCID locale,
+                 UINT* argumentError) {
+    HRESULT first = S_OK;
+    for (std::size_t i = 0; i < taken.size(); ++i) {
+        const HRESULT status = taken[i].GiveBack(locale);
+        if (SUCCEEDED(status) || FAILED(first))
+            continue;
+        first = status;
+        if (argumentError != nullptr)
+            *argumentError = map[i];
+    }
+    return first;
+}
+
 void FillException(EXCEPINFO* exception, HRESULT status) {
     std::memset(exception, 0, sizeof *exception);
     exception->scode = status;
@@ -100,17 +115,15 @@ HRESULT InvokeMember(const DispatchTable& table, IDispatch* object, DISPID id, L
     status = V_ERROR(&callStatus);
 
     // Also after a failure: AppendRef empties the caller's variable in any case.
-    for (Argument& argument : taken) {
-        const HRESULT given = argument.GiveBack(locale);
-        if (SUCCEEDED(status) && FAILED(given))
-            status = given;
-    }
+    const HRESULT given = GiveBack(taken, map, locale, argumentError);
     if (FAILED(status)) {
         if (exception == nullptr)
             return status;
         FillException(exception, status);
         return DISP_E_EXCEPTION;
     }
+    if (FAILED(given))
+        return given;
     if (result != nullptr) {
         *result = *returned.Get();
         V_VT(returned.Get()) = VT_EMPTY;

@@ -21,6 +21,14 @@ void RegistryKey::Set(const wchar_t* name, const std::wstring& text) const {
                                  static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))));
 }
 
+bool RegistryKey::Exists(HKEY parent, const std::wstring& path) {
+    HKEY key = nullptr;
+    if (RegOpenKeyExW(parent, path.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS)
+        return false;
+    RegCloseKey(key);
+    return true;
+}
+
 void RegistryKey::RemoveTree(HKEY parent, const std::wstring& path) {
     const LSTATUS status = RegDeleteTreeW(parent, path.c_str());
     if (status != ERROR_FILE_NOT_FOUND && status != ERROR_PATH_NOT_FOUND)

@@ -18,6 +18,8 @@ public:
     /// Sets a text value; nullptr names the key's default value.
     void Set(const wchar_t* name, const std::wstring& text) const;
 
+    static bool Exists(HKEY parent, const std::wstring& path);
+
     /// Removes the key with everything below it; absence is no failure.
     static void RemoveTree(HKEY parent, const std::wstring& path);
 

@@ -4,11 +4,12 @@
 
 namespace support {
 
-void AutomationTest::SetUp() {
+AutomationTest::AutomationTest() {
     TakeErrorInfo();
 }
 
-void AutomationTest::TearDown() {
+AutomationTest::~AutomationTest() {
+    TakeErrorInfo();
     EXPECT_EQ(QSymbolServer().CanUnloadNow(), S_OK) << "an object of QSymbol still lives";
     EXPECT_EQ(QMathServer().CanUnloadNow(), S_OK) << "an object of QMath still lives";
 }

@@ -14,8 +14,9 @@ namespace support {
 /// A test with registered classes. After it no object of either library may live.
 class AutomationTest : public testing::Test {
 protected:
-    void SetUp() override;
-    void TearDown() override;
+    AutomationTest();
+    /// Checks when the objects that a fixture holds are gone as well.
+    ~AutomationTest() override;
 };
 
 /// A new object of a registered class, held by its default interface.

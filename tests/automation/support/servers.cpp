@@ -11,6 +11,10 @@ Function* As(FARPROC entry) {
 
 } // namespace
 
+bool RunsUnderWine() {
+    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
+}
+
 std::wstring ProgramFolder() {
     wchar_t path[MAX_PATH];
     const std::wstring full(path, GetModuleFileNameW(nullptr, path, MAX_PATH));

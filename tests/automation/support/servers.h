@@ -37,6 +37,9 @@ private:
 Server& QMathServer();
 Server& QSymbolServer();
 
+/// True under Wine, where some services of the system are thinner.
+bool RunsUnderWine();
+
 /// Folder of the running program with a backslash at its end.
 std::wstring ProgramFolder();
 
