@@ -22,7 +22,7 @@ int ListedFolder::OpenToRead(const std::u16string& path) const {
     const std::u16string_view name = std::u16string_view(path).substr(size);
     if (name.find_first_of(std::u16string_view(u"/\0", 2)) != std::u16string_view::npos)
         return -1;
-    return openat(dirfd(folder_.get()), ToUtf8(name).c_str(), O_RDONLY | O_CLOEXEC);
+    return openat(dirfd(folder_.get()), ToUtf8(name).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
 }
 
 } // namespace platform

@@ -127,7 +127,8 @@ std::unique_ptr<base::File> PosixFileSystem::Open(const std::u16string& path, ba
     const std::string name = ToUtf8(path);
     if (name.find('\0') != std::string::npos)
         base::Raise(RunTimeError::BadFileName);
-    const int handle = open(name.c_str(), OpenFlags(mode) | O_CLOEXEC, 0666);
+    // A pipe under that name must not hold the program until somebody opens its other end.
+    const int handle = open(name.c_str(), OpenFlags(mode) | O_CLOEXEC | O_NONBLOCK, 0666);
     if (handle < 0)
         RaiseOpenFailure(errno, name);
     return std::make_unique<PosixFile>(handle);

@@ -139,18 +139,6 @@ TEST_F(SymbolFile, WhatCannotBeComposedLeavesTheFileUntouched) {
     EXPECT_EQ(memory_.opened, 0);
 }
 
-TEST_F(SymbolFile, TheImportFormatSaysThatItIsNotThereYet) {
-    Symbol symbol = At(u"plan/wc.wsc");
-    try {
-        ReadFromFile(symbol, world_.InMemory());
-        FAIL() << "no error";
-    } catch (const base::Error& error) {
-        EXPECT_EQ(error.Status(), 0x80004001U);
-        EXPECT_EQ(error.Source(), u"CSymbol.ReadFromWSCFile");
-        EXPECT_EQ(error.Description(), u"Das WSC-Format kann noch nicht gelesen werden.");
-    }
-}
-
 TEST_F(SymbolFile, OnDisk) {
     const support::TempFolder folder;
     const qsymbol::FileEnvironment disk = world_.OnDisk();
