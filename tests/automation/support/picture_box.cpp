@@ -63,9 +63,10 @@ void PictureBox::Set(const std::wstring& member, const Value& value) {
 }
 
 LONG PictureBox::Number(const std::wstring& member) const {
-    Value number;
-    const Member* const found = const_cast<PictureBox*>(this)->Find(member);
-    VariantChangeType(number.Raw(), const_cast<VARIANT*>(found->value.Raw()), 0, VT_I4);
+    Value number = 0;
+    for (const Member& candidate : members_) // also one that was taken away: the control itself still has it
+        if (_wcsicmp(candidate.name.c_str(), member.c_str()) == 0)
+            VariantChangeType(number.Raw(), const_cast<VARIANT*>(candidate.value.Raw()), 0, VT_I4);
     return number.Long();
 }
 
