@@ -84,3 +84,20 @@ register() {
         wine_run regsvr32 /s "$(winepath -w "$1/$name.dll" 2>/dev/null)"
     done
 }
+
+# benchmark_source: Google Benchmark's source from Debian, for the compilers that Debian has no library for.
+benchmark_source() {
+    local folder=$ROOT/build/sources
+    [ -d "$folder/benchmark" ] && return
+    packages dpkg-dev ca-certificates
+    say "Fetching the source of Google Benchmark"
+    rm -rf "$folder"
+    mkdir -p "$folder/lists/partial" "$folder/cache/archives/partial"
+    echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] http://deb.debian.org/debian bookworm main" \
+        >"$folder/sources.list"
+    local apt=(apt-get -qq -o "Dir::Etc::SourceList=$folder/sources.list" -o Dir::Etc::SourceParts=/dev/null
+        -o "Dir::State::Lists=$folder/lists" -o "Dir::Cache=$folder/cache")
+    "${apt[@]}" update
+    (cd "$folder" && "${apt[@]}" source benchmark 2>/dev/null)
+    mv "$folder"/benchmark-*/ "$folder/benchmark"
+}

@@ -8,8 +8,6 @@ import sys
 WINDOWS_FLOORS = ("com", "automation", "platform/win32")
 WINDOWS_HEADERS = re.compile(
     r'#include\s+[<"](windows|windef|winnt|wtypes|unknwn|objbase|oaidl|ocidl|ole2|oleauto|olectl|gdiplus|QMath|QSymbol)\.h[>"]')
-# In a library of its own there is no face: these two belong to both DLLs.
-SHARED_FACES = {"automation/qsymbol": {"automation/qmath/point_access.h"}}
 
 
 def read_floors(path):
@@ -45,8 +43,7 @@ def main():
             if not match:
                 continue
             target = floor_of(match.group(1), floors)
-            allowed = match.group(1) in SHARED_FACES.get(floor, ())
-            if not allowed and target not in floors[floor]:
+            if target not in floors[floor]:
                 problems.append(f"{name}:{number}: {floor} must not include {match.group(1)}")
         if name.endswith(".h") and not text.startswith("#pragma once"):
             problems.append(f"{name}:1: no #pragma once")

@@ -2,53 +2,58 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <utility>
 
 namespace qmath {
 
 namespace {
 
-/// The distance of two 32-bit values, below 2^32; the product of two such distances fits 64 bits unsigned.
-std::uint64_t Span(std::int32_t a, std::int32_t b) {
-    const std::int64_t difference = std::int64_t{a} - b;
-    return static_cast<std::uint64_t>(difference < 0 ? -difference : difference);
+/// The way from one point to another: up to 32 bits and a sign.
+struct Way {
+    std::int64_t x;
+    std::int64_t y;
+};
+
+Way Between(Point from, Point to) {
+    return {std::int64_t{to.x} - from.x, std::int64_t{to.y} - from.y};
 }
 
-int Sign(std::int32_t a, std::int32_t b) {
-    return a < b ? -1 : a > b;
+/// True when the way fits 31 bits and a sign; the cross product of two such ways fits 64 bits.
+bool IsShort(Way way) {
+    constexpr std::uint64_t kReach = 0x80000000U;
+    const std::uint64_t x = static_cast<std::uint64_t>(way.x) + kReach;
+    const std::uint64_t y = static_cast<std::uint64_t>(way.y) + kReach;
+    return (x | y) >> 32 == 0;
 }
 
-enum class Crossing { None, Right, OnEdge };
-
-/// How the ray from p to the right meets the edge a-b; the edge's upper end does not count as met.
-Crossing CrossEdge(Point a, Point b, Point p) {
-    if (a.y > b.y)
-        std::swap(a, b);
-    if (p.y < a.y || p.y > b.y || p.x > std::max(a.x, b.x))
-        return Crossing::None;
-    const bool belowEnd = p.y < b.y;
-    if (p.x < std::min(a.x, b.x))
-        return belowEnd ? Crossing::Right : Crossing::None;
-    // p lies in the edge's box: compare how far p and the edge have moved away from a.x at p's height.
-    const std::uint64_t edge = Span(b.x, a.x) * Span(p.y, a.y);
-    const std::uint64_t point = Span(p.x, a.x) * Span(b.y, a.y);
-    if (edge == point)
-        return Crossing::OnEdge;
-    const bool edgeIsRight = (b.x > a.x) == (edge > point);
-    return belowEnd && edgeIsRight ? Crossing::Right : Crossing::None;
+int Sign(std::int64_t value) {
+    return (value > 0) - (value < 0);
 }
 
-/// On which side of the line a-b the point lies: -1, 0 (on it) or 1.
-int Side(Point a, Point b, Point p) {
-    const int sign1 = Sign(b.x, a.x) * Sign(p.y, a.y);
-    const int sign2 = Sign(b.y, a.y) * Sign(p.x, a.x);
+std::uint64_t Magnitude(std::int64_t value) {
+    return static_cast<std::uint64_t>(value < 0 ? -value : value);
+}
+
+/// Sign of a.x * b.y − a.y * b.x for ways whose products need 64 bits and a sign: compares the parts.
+int CrossSign(Way a, Way b) {
+    const int sign1 = Sign(a.x) * Sign(b.y);
+    const int sign2 = Sign(a.y) * Sign(b.x);
     if (sign1 != sign2)
         return sign1 < sign2 ? -1 : 1;
-    const std::uint64_t product1 = Span(b.x, a.x) * Span(p.y, a.y);
-    const std::uint64_t product2 = Span(b.y, a.y) * Span(p.x, a.x);
+    const std::uint64_t product1 = Magnitude(a.x) * Magnitude(b.y);
+    const std::uint64_t product2 = Magnitude(a.y) * Magnitude(b.x);
     if (product1 == product2)
         return 0;
-    return (product1 < product2) == (sign1 > 0) ? -1 : 1;
+    return (product1 > product2) == (sign1 > 0) ? 1 : -1;
+}
+
+/// A number with the sign of the cross product.
+std::int64_t Cross(Way a, Way b) {
+    return IsShort(a) && IsShort(b) ? a.x * b.y - a.y * b.x : CrossSign(a, b);
+}
+
+/// Whether an edge from a to b, seen from a point on its line, has the point between its ends.
+bool IsAround(Way a, Way b) {
+    return Sign(a.x) * Sign(b.x) <= 0 && Sign(a.y) * Sign(b.y) <= 0;
 }
 
 /// Whether the segment a-b and the rectangle share a point: neither an axis nor the segment's normal parts
@@ -61,7 +66,8 @@ bool SegmentMeets(Point a, Point b, const Rect& rect) {
     const bool falling = (b.x > a.x) == (b.y > a.y);
     const Point corner1{rect.left, falling ? rect.bottom : rect.top};
     const Point corner2{rect.right, falling ? rect.top : rect.bottom};
-    return Side(a, b, corner1) * Side(a, b, corner2) <= 0;
+    const Way way = Between(a, b);
+    return Sign(Cross(way, Between(a, corner1))) * Sign(Cross(way, Between(a, corner2))) <= 0;
 }
 
 } // namespace
@@ -70,12 +76,17 @@ bool OutlineContains(std::span<const Point> outline, Point point) {
     if (outline.empty())
         return false;
     bool inside = false;
-    Point from = outline.back();
-    for (const Point to : outline) {
-        const Crossing crossing = CrossEdge(from, to, point);
-        if (crossing == Crossing::OnEdge)
+    Way from = Between(point, outline.back());
+    for (const Point& vertex : outline) {
+        const Way to = Between(point, vertex);
+        const std::int64_t cross = Cross(from, to);
+        if (cross == 0 && IsAround(from, to))
             return true;
-        inside ^= crossing == Crossing::Right;
+        // Count the edges that cross the ray to the right. Without branches: where they lie is anyone's
+        // guess.
+        const bool crossesHeight = (from.y <= 0) != (to.y <= 0);
+        const bool isRight = (cross > 0) == (to.y > 0);
+        inside ^= crossesHeight & isRight;
         from = to;
     }
     return inside;

@@ -1,6 +1,6 @@
 #include "automation/qmath/CMathUtil.h"
 
-#include "automation/qmath/point_access.h"
+#include "automation/shared/point_access.h"
 #include "base/checked.h"
 #include "qmath/math_util.h"
 

@@ -1,6 +1,6 @@
 #include "automation/qmath/CPolygon.h"
 
-#include "automation/qmath/point_access.h"
+#include "automation/shared/point_access.h"
 
 STDMETHODIMP CPolygon::SetPoints(_CPtList* list) {
     return Do([&] { polygon_ = qmath::Polygon(GetPoints(list)); });

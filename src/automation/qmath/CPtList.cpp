@@ -1,7 +1,7 @@
 #include "automation/qmath/CPtList.h"
 
 #include "automation/qmath/CPt.h"
-#include "automation/qmath/point_access.h"
+#include "automation/shared/point_access.h"
 #include "base/checked.h"
 #include "com/enumerator.h"
 

@@ -1,6 +1,6 @@
 #include "automation/qmath/CTrans.h"
 
-#include "automation/qmath/point_access.h"
+#include "automation/shared/point_access.h"
 
 STDMETHODIMP CTrans::SetScale(double scale) {
     return Do([&] { transform_.SetScale(scale); });

@@ -2,10 +2,23 @@
 
 #include "automation/qsymbol/element_access.h"
 #include "automation/qsymbol/font_access.h"
+#include "automation/qsymbol/host_surface.h"
+#include "automation/qsymbol/host_transformation.h"
 #include "automation/qsymbol/library.h"
+#include "automation/shared/point_access.h"
 #include "com/bstr.h"
+#include "qsymbol/draw/element_drawing.h"
 
 #include <utility>
+
+namespace {
+
+/// What the element's own hit tests have to say in this version.
+void SayNotImplemented() {
+    library::Prompt().Inform(u"Funktion noch nicht implementiert!");
+}
+
+} // namespace
 
 CSymElement::CSymElement() {
     library::EnsureResources();
@@ -126,25 +139,43 @@ STDMETHODIMP CSymElement::CopyFrom(_CSymElement* obj) {
     });
 }
 
-STDMETHODIMP CSymElement::Draw(IDispatch* /*ctrl*/, _CTrans* /*Trans*/) {
-    return Do([] { library::NotImplemented(u"CSymElement.Draw"); });
+STDMETHODIMP CSymElement::Draw(IDispatch* ctrl, _CTrans* Trans) {
+    return Do([&] {
+        if (ctrl == nullptr || Trans == nullptr || !ptList_)
+            return;
+        HostSurface surface(*ctrl);
+        qsymbol::DrawElement(ToDrawing(*this), surface, HostTransformation(*Trans));
+    });
 }
 
-STDMETHODIMP CSymElement::DrawTracker(IDispatch* /*ctrl*/, _CTrans* /*Trans*/) {
-    return Do([] { library::NotImplemented(u"CSymElement.DrawTracker"); });
+STDMETHODIMP CSymElement::DrawTracker(IDispatch* ctrl, _CTrans* Trans) {
+    return Do([&] {
+        if (ctrl == nullptr || Trans == nullptr || !ptList_)
+            return;
+        HostSurface surface(*ctrl);
+        qsymbol::DrawTracker(GetPoints(ptList_.Get()), surface, HostTransformation(*Trans));
+    });
 }
 
 STDMETHODIMP CSymElement::ObjIdentByPt(_CTrans* /*Trans*/, LONG /*lScreenX*/, LONG /*lScreenY*/,
-                                       VARIANT_BOOL* /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymElement.ObjIdentByPt"); });
+                                       VARIANT_BOOL* value) {
+    return Return(value, [] {
+        SayNotImplemented();
+        return VARIANT_FALSE;
+    });
 }
 
 STDMETHODIMP CSymElement::ObjIdentByRect(_CTrans* /*Trans*/, _CRect** /*ScreenIdentRect*/,
-                                         VARIANT_BOOL* /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymElement.ObjIdentByRect"); });
+                                         VARIANT_BOOL* value) {
+    return Return(value, [] {
+        SayNotImplemented();
+        return VARIANT_FALSE;
+    });
 }
 
-STDMETHODIMP CSymElement::PtIdent(_CTrans* /*Trans*/, LONG /*lScreenX*/, LONG /*lScreenY*/,
-                                  _CPt** /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymElement.PtIdent"); });
+STDMETHODIMP CSymElement::PtIdent(_CTrans* /*Trans*/, LONG /*lScreenX*/, LONG /*lScreenY*/, _CPt** value) {
+    return Return(value, []() -> _CPt* {
+        SayNotImplemented();
+        return nullptr;
+    });
 }

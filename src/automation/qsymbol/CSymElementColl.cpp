@@ -1,7 +1,23 @@
 #include "automation/qsymbol/CSymElementColl.h"
 
-#include "automation/qsymbol/library.h"
+#include "automation/qsymbol/CSymElement.h"
+#include "automation/qsymbol/element_access.h"
+#include "automation/qsymbol/host_surface.h"
+#include "automation/qsymbol/host_transformation.h"
 #include "automation/qsymbol/object_list.h"
+#include "qsymbol/draw/element_drawing.h"
+#include "qsymbol/draw/surface_constants.h"
+
+#include <algorithm>
+
+namespace {
+
+bool IsOwn(const com::ComPtr<_CSymElement>& element) {
+    com::ComPtr<CSymElement> own;
+    return SUCCEEDED(element->QueryInterface(__uuidof(CSymElement), own.PutVoid()));
+}
+
+} // namespace
 
 STDMETHODIMP CSymElementColl::get_Count(LONG* value) {
     return Return(value, [&] { return elements_.Count(); });
@@ -32,25 +48,81 @@ STDMETHODIMP CSymElementColl::RemoveOnPos(LONG lPos) {
     return Do([&] { elements_.RemoveByPos(lPos); });
 }
 
-STDMETHODIMP CSymElementColl::Draw(IDispatch* /*ctrl*/, _CTrans* /*Trans*/) {
-    return Do([] { library::NotImplemented(u"CSymElementColl.Draw"); });
+STDMETHODIMP CSymElementColl::Draw(IDispatch* ctrl, _CTrans* Trans) {
+    return Do([&] {
+        if (ctrl == nullptr || elements_.Count() == 0)
+            return;
+        HostSurface surface(*ctrl);
+        const Elements elements = Snapshot();
+        if (Trans != nullptr && std::all_of(elements.begin(), elements.end(), IsOwn)) {
+            qsymbol::DrawElements(
+                elements.size(), [&](std::size_t i) { return ToDrawing(*elements[i].Get()); }, surface,
+                HostTransformation(*Trans));
+            return;
+        }
+        // An element of the host's own making may draw as it likes.
+        surface.PutDrawMode(qsymbol::kDrawModeCopy);
+        for (const com::ComPtr<_CSymElement>& element : elements)
+            com::Check(element->Draw(ctrl, Trans));
+    });
 }
 
-STDMETHODIMP CSymElementColl::DrawTracker(IDispatch* /*ctrl*/, _CTrans* /*Trans*/) {
-    return Do([] { library::NotImplemented(u"CSymElementColl.DrawTracker"); });
+STDMETHODIMP CSymElementColl::DrawTracker(IDispatch* ctrl, _CTrans* Trans) {
+    return Do([&] {
+        for (const com::ComPtr<_CSymElement>& element : Snapshot())
+            com::Check(element->DrawTracker(ctrl, Trans));
+    });
 }
 
-STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* /*Trans*/, LONG /*lScreenX*/, LONG /*lScreenY*/,
-                                           _CSymElement** /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymElementColl.ObjIdentByPt"); });
+STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* Trans, LONG lScreenX, LONG lScreenY,
+                                           _CSymElement** value) {
+    return Return(value, [&]() -> _CSymElement* {
+        Elements elements = Snapshot();
+        for (auto element = elements.rbegin(); element != elements.rend(); ++element) {
+            VARIANT_BOOL hit = VARIANT_FALSE;
+            com::Check((*element)->ObjIdentByPt(Trans, lScreenX, lScreenY, &hit));
+            if (hit != VARIANT_FALSE)
+                return element->Detach();
+        }
+        return nullptr;
+    });
 }
 
-STDMETHODIMP CSymElementColl::ObjIdentByRect(_CTrans* /*Trans*/, _CRect** /*ScreenIdentRect*/,
-                                             _CSymElementColl** /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymElementColl.ObjIdentByRect"); });
+STDMETHODIMP CSymElementColl::ObjIdentByRect(_CTrans* Trans, _CRect** ScreenIdentRect,
+                                             _CSymElementColl** value) {
+    return Return(value, [&]() -> _CSymElementColl* {
+        com::ComPtr<CSymElementColl> found;
+        for (const com::ComPtr<_CSymElement>& element : Snapshot()) {
+            VARIANT_BOOL hit = VARIANT_FALSE;
+            com::Check(element->ObjIdentByRect(Trans, ScreenIdentRect, &hit));
+            if (hit == VARIANT_FALSE)
+                continue;
+            if (!found)
+                found = Create();
+            found->elements_.Append(element);
+        }
+        return found.Detach();
+    });
 }
 
-STDMETHODIMP CSymElementColl::PtIdent(_CTrans* /*Trans*/, LONG /*lScreenX*/, LONG /*lScreenY*/,
-                                      _CSymElement** /*SymElem*/, _CPt** /*Pt*/, VARIANT_BOOL* /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymElementColl.PtIdent"); });
+STDMETHODIMP CSymElementColl::PtIdent(_CTrans* Trans, LONG lScreenX, LONG lScreenY, _CSymElement** SymElem,
+                                      _CPt** Pt, VARIANT_BOOL* value) {
+    return Return(value, [&] {
+        object_list::TakeOver(SymElem).Reset();
+        object_list::TakeOver(Pt).Reset();
+        Elements elements = Snapshot();
+        for (auto element = elements.rbegin(); element != elements.rend() && *Pt == nullptr; ++element) {
+            com::Check((*element)->PtIdent(Trans, lScreenX, lScreenY, Pt));
+            if (*Pt != nullptr)
+                *SymElem = element->Detach();
+        }
+        return VARIANT_FALSE; // also when a point was found: callers look at Pt
+    });
+}
+
+CSymElementColl::Elements CSymElementColl::Snapshot() const {
+    Elements elements;
+    for (std::int32_t i = 1; i <= elements_.Count(); ++i)
+        elements.push_back(*elements_.ItemByPos(i));
+    return elements;
 }

@@ -5,6 +5,8 @@
 
 #include <QSymbol.h>
 
+#include <vector>
+
 /// Public class CSymElementColl: the elements of a symbol in drawing order.
 class CSymElementColl final : public com::DualObject<CSymElementColl, _CSymElementColl> {
 public:
@@ -22,5 +24,10 @@ public:
                          VARIANT_BOOL* value) override;
 
 private:
+    using Elements = std::vector<com::ComPtr<_CSymElement>>;
+
+    /// The elements as they are now; asking them may show boxes, and the host may change the list meanwhile.
+    Elements Snapshot() const;
+
     qsymbol::KeyedList<com::ComPtr<_CSymElement>> elements_;
 };

@@ -5,9 +5,16 @@
 #include "automation/qsymbol/host_surface.h"
 #include "automation/qsymbol/host_transformation.h"
 #include "automation/qsymbol/library.h"
+#include "automation/qsymbol/math_objects.h"
+#include "automation/shared/point_access.h"
 #include "com/bstr.h"
+#include "qsymbol/draw/bounds.h"
 #include "qsymbol/draw/fitted_drawing.h"
+#include "qsymbol/draw/hit_test.h"
+#include "qsymbol/draw/snapping.h"
 #include "qsymbol/draw/symbol_drawing.h"
+#include "qsymbol/export/colour_table.h"
+#include "qsymbol/export/dxf_export.h"
 #include "qsymbol/files/symbol_file.h"
 
 #include <utility>
@@ -27,6 +34,11 @@ qsymbol::ElementList ToRecords(_CSymElementColl& elements) {
         records.push_back(ToRecord(com::Required(element.Get())));
     }
     return records;
+}
+
+/// The factor that bounds, hit tests and snapping follow: the last one that a symbol was drawn with.
+double ScreenFactor() {
+    return qsymbol::LastDrawFactors().screen;
 }
 
 } // namespace
@@ -110,13 +122,30 @@ STDMETHODIMP CSymbol::Draw(LONG lLogX, LONG lLogY, double dAngle, IDispatch* ctr
 }
 
 STDMETHODIMP CSymbol::DxfExport(LONG /*lLogX*/, LONG /*lLogY*/, double /*dAngle*/, LONG* /*lMarkColor*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.DxfExport"); });
+    return S_OK; // reserved
 }
 
-STDMETHODIMP CSymbol::CatchPt(float* /*x*/, float* /*y*/, LONG* /*XKoord*/, LONG* /*YKoord*/, LONG /*lLogX*/,
-                              LONG /*lLogY*/, double /*dAngle*/, _CTrans* /*Trans*/, SHORT /*iFangbereich*/,
-                              VARIANT_BOOL* /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.CatchPt"); });
+STDMETHODIMP CSymbol::CatchPt(float* x, float* y, LONG* XKoord, LONG* YKoord, LONG lLogX, LONG lLogY,
+                              double dAngle, _CTrans* Trans, SHORT iFangbereich, VARIANT_BOOL* value) {
+    return Return(value, [&] {
+        float& cursorX = com::Out(x);
+        float& cursorY = com::Out(y);
+        LONG& worldX = com::Out(XKoord);
+        LONG& worldY = com::Out(YKoord);
+        const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
+        if (symbol->elements.empty())
+            return VARIANT_FALSE;
+        const auto caught =
+            qsymbol::CatchPt(*symbol, {.at = {lLogX, lLogY}, .angle = dAngle}, ScreenFactor(),
+                             HostTransformation(com::Required(Trans)), cursorX, cursorY, iFangbereich);
+        if (!caught)
+            return VARIANT_FALSE;
+        cursorX = static_cast<float>(caught->screen.x);
+        cursorY = static_cast<float>(caught->screen.y);
+        worldX = caught->world.x;
+        worldY = caught->world.y;
+        return VARIANT_TRUE;
+    });
 }
 
 STDMETHODIMP CSymbol::Draw2PBox(IDispatch* PBox) {
@@ -132,8 +161,14 @@ STDMETHODIMP CSymbol::Draw2PBox(IDispatch* PBox) {
     return S_OK;
 }
 
-STDMETHODIMP CSymbol::GetBoundingRect(LONG /*lLogX*/, LONG /*lLogY*/, double /*dAngle*/, _CRect** /*r*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.GetBoundingRect"); });
+STDMETHODIMP CSymbol::GetBoundingRect(LONG lLogX, LONG lLogY, double dAngle, _CRect** r) {
+    return Do([&] {
+        _CRect*& place = com::Out(r);
+        const qmath::Rect bounds =
+            qsymbol::GetBoundingRect(*symbol_, {.at = {lLogX, lLogY}, .angle = dAngle}, ScreenFactor());
+        com::ComPtr<_CRect> rect = math_objects::NewRect(bounds);
+        const com::ComPtr<_CRect> old = com::ComPtr<_CRect>::Attach(std::exchange(place, rect.Detach()));
+    });
 }
 
 STDMETHODIMP CSymbol::GetSymElements(_CSymElementColl** value) {
@@ -148,16 +183,30 @@ STDMETHODIMP CSymbol::GetSymElements(_CSymElementColl** value) {
     });
 }
 
-STDMETHODIMP CSymbol::ObjIdentByPt(LONG /*lLogObjX*/, LONG /*lLogObjY*/, double /*dAngle*/,
-                                   _CTrans* /*Trans*/, LONG /*lScreenIdentX*/, LONG /*lScreenIdentY*/,
-                                   VARIANT_BOOL* /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.ObjIdentByPt"); });
+STDMETHODIMP CSymbol::ObjIdentByPt(LONG lLogObjX, LONG lLogObjY, double dAngle, _CTrans* Trans,
+                                   LONG lScreenIdentX, LONG lScreenIdentY, VARIANT_BOOL* value) {
+    return Return(value, [&] {
+        const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
+        if (symbol->elements.empty())
+            return VARIANT_FALSE;
+        const bool hit =
+            qsymbol::ObjIdentByPt(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle}, ScreenFactor(),
+                                  HostTransformation(com::Required(Trans)), {lScreenIdentX, lScreenIdentY});
+        return hit ? VARIANT_TRUE : VARIANT_FALSE;
+    });
 }
 
-STDMETHODIMP CSymbol::ObjIdentByRect(LONG /*lLogObjX*/, LONG /*lLogObjY*/, double /*dAngle*/,
-                                     _CTrans* /*Trans*/, _CRect* /*ScreenIdentRect*/,
-                                     VARIANT_BOOL* /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.ObjIdentByRect"); });
+STDMETHODIMP CSymbol::ObjIdentByRect(LONG lLogObjX, LONG lLogObjY, double dAngle, _CTrans* Trans,
+                                     _CRect* ScreenIdentRect, VARIANT_BOOL* value) {
+    return Return(value, [&] {
+        const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
+        if (symbol->elements.empty())
+            return VARIANT_FALSE;
+        const bool hit =
+            qsymbol::ObjIdentByRect(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle}, ScreenFactor(),
+                                    HostTransformation(com::Required(Trans)), GetRect(ScreenIdentRect));
+        return hit ? VARIANT_TRUE : VARIANT_FALSE;
+    });
 }
 
 STDMETHODIMP CSymbol::ReadFromFile() {
@@ -188,10 +237,17 @@ STDMETHODIMP CSymbol::put_Etagenbreite(LONG value) {
     return S_OK;
 }
 
-STDMETHODIMP CSymbol::DxfExportSym(LONG /*lLogX*/, LONG /*lLogY*/, double /*dAngle*/, BSTR /*stFilename*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.DxfExportSym"); });
+STDMETHODIMP CSymbol::DxfExportSym(LONG lLogX, LONG lLogY, double dAngle, BSTR stFilename) {
+    return Do([&] {
+        openDxfFile_.reset();
+        openDxfFile_ = qsymbol::AppendToDxfFile(*symbol_, {.at = {lLogX, lLogY}, .angle = dAngle},
+                                                com::Text(stFilename), library::Files(), library::CodePage());
+    });
 }
 
-STDMETHODIMP CSymbol::GetColor2ColNr(SHORT /*iColNr*/, VARIANT_BOOL /*bSymEdit*/, LONG* /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymbol.GetColor2ColNr"); });
+STDMETHODIMP CSymbol::GetColor2ColNr(SHORT iColNr, VARIANT_BOOL bSymEdit, LONG* value) {
+    return Return(value, [&] {
+        return qsymbol::ColourOfNumber(iColNr, bSymEdit != VARIANT_FALSE ? qsymbol::ColourUse::SymbolEditor
+                                                                         : qsymbol::ColourUse::Plan);
+    });
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/file.h"
 #include "com/dual_object.h"
 #include "qsymbol/model/symbol.h"
 
@@ -51,5 +52,7 @@ private:
     /// surface may call back into the symbol that is just being drawn on it.
     qsymbol::Symbol& Edit();
 
+    /// What an export without elements left open; closed by the next export or with the object.
+    std::unique_ptr<base::File> openDxfFile_;
     std::shared_ptr<qsymbol::Symbol> symbol_ = std::make_shared<qsymbol::Symbol>();
 };

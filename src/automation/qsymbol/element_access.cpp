@@ -1,9 +1,9 @@
 #include "automation/qsymbol/element_access.h"
 
-#include "automation/qmath/point_access.h"
 #include "automation/qsymbol/CSymElement.h"
 #include "automation/qsymbol/font_access.h"
 #include "automation/qsymbol/math_objects.h"
+#include "automation/shared/point_access.h"
 #include "base/error.h"
 #include "com/bstr.h"
 
@@ -48,6 +48,15 @@ com::ComPtr<IFontDisp> ElementFont(_CSymElement& element) {
     com::ComPtr<IFontDisp> font;
     com::Check(element.get_TxtFont(font.Put()));
     return font;
+}
+
+qsymbol::ElementRecord ToDrawing(_CSymElement& element) {
+    qsymbol::ElementRecord record = GetElementValues(element);
+    if (const com::ComPtr<_CPtList> points = ElementPoints(element))
+        record.points = GetPoints(points.Get());
+    if (const com::ComPtr<IFontDisp> font = ElementFont(element))
+        record.font = GetFont(font.Get());
+    return record;
 }
 
 qsymbol::ElementRecord ToRecord(_CSymElement& element) {

@@ -1,7 +1,7 @@
 #include "automation/qsymbol/host_transformation.h"
 
-#include "automation/qmath/point_access.h"
 #include "automation/qsymbol/math_objects.h"
+#include "automation/shared/point_access.h"
 
 void HostTransformation::PointsToScreen(std::span<qmath::Point> points) const {
     for (qmath::Point& point : points)

@@ -38,11 +38,19 @@ qsymbol::UserPrompt& Prompt() {
     return prompt;
 }
 
-qsymbol::FileEnvironment FileEnvironmentNow() {
+base::FileSystem& Files() {
     static platform::Win32FileSystem files;
+    return files;
+}
+
+const base::CodePage& CodePage() {
     static const platform::AnsiCodePage codePage;
-    return {.files = files,
-            .codePage = codePage,
+    return codePage;
+}
+
+qsymbol::FileEnvironment FileEnvironmentNow() {
+    return {.files = Files(),
+            .codePage = CodePage(),
             .regional = platform::UserSettings(),
             .strings = Resources(),
             .prompt = Prompt()};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/code_page.h"
+#include "base/file_system.h"
 #include "qsymbol/files/file_environment.h"
 
 #include <string_view>
@@ -13,6 +15,12 @@ void EnsureResources();
 
 /// The user seam of this DLL: message boxes.
 qsymbol::UserPrompt& Prompt();
+
+/// The file seam of this DLL.
+base::FileSystem& Files();
+
+/// The ANSI code page, in which texts stand in files.
+const base::CodePage& CodePage();
 
 /// Everything a symbol file needs, with the user's number settings as they are now.
 qsymbol::FileEnvironment FileEnvironmentNow();

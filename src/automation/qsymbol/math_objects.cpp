@@ -1,6 +1,6 @@
 #include "automation/qsymbol/math_objects.h"
 
-#include "automation/qmath/point_access.h"
+#include "automation/shared/point_access.h"
 #include "com/error_info.h"
 #include "com/module.h"
 
@@ -64,8 +64,13 @@ com::ComPtr<_CPtList> NewPointList(std::span<const qmath::Point> points) {
     return list;
 }
 
-com::ComPtr<_CRect> NewRect() {
-    return New<_CRect>(*Factory(__uuidof(CRect)).Get());
+com::ComPtr<_CRect> NewRect(const qmath::Rect& rect) {
+    auto object = New<_CRect>(*Factory(__uuidof(CRect)).Get());
+    com::Check(object->put_Left(rect.left));
+    com::Check(object->put_Top(rect.top));
+    com::Check(object->put_Right(rect.right));
+    com::Check(object->put_Bottom(rect.bottom));
+    return object;
 }
 
 } // namespace math_objects

@@ -2,6 +2,7 @@
 
 #include "com/com_ptr.h"
 #include "qmath/point.h"
+#include "qmath/rect.h"
 
 #include <QMath.h>
 
@@ -16,6 +17,6 @@ com::ComPtr<_CPt> NewPoint(const qmath::Point& point);
 /// A new list of new points.
 com::ComPtr<_CPtList> NewPointList(std::span<const qmath::Point> points);
 
-com::ComPtr<_CRect> NewRect();
+com::ComPtr<_CRect> NewRect(const qmath::Rect& rect);
 
 } // namespace math_objects

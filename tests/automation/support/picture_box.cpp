@@ -1,169 +1,227 @@
 #include "support/picture_box.h"
 
-#include "support/control_type.h"
-#include "support/failure.h"
 #include "support/text.h"
 
 #include <oleauto.h>
+
+#include <cmath>
+#include <utility>
 
 namespace support {
 
 namespace {
 
-constexpr LONG kSolidFill = 0;
+/// The members in the order of their dispatch ids, counted from 1; those up to kLastSettable can be put.
+constexpr const wchar_t* kMembers[] = {L"DrawMode",    L"ForeColor", L"FillColor", L"FillStyle",
+                                       L"DrawStyle",   L"DrawWidth", L"hDC",       L"ScaleWidth",
+                                       L"ScaleHeight", L"Name",      L"Line"};
+enum Member : DISPID { kDrawWidth = 6, kHdc, kScaleWidth, kScaleHeight, kName, kLine };
+constexpr DISPID kLastSettable = kDrawWidth;
 
-/// The pen styles of the property DrawStyle, 0 to 6, are numbered as those of the GDI.
-int PenStyle(LONG drawStyle) {
-    return static_cast<int>(drawStyle);
+const wchar_t* NameOf(DISPID id) {
+    return kMembers[id - 1];
+}
+
+/// A type of that name in a type library that is never saved.
+Ref<ITypeInfo> MakeType(const std::wstring& name) {
+    Ref<ICreateTypeLib2> library;
+    Ref<ICreateTypeInfo> type;
+    if (SUCCEEDED(CreateTypeLib2(SYS_WIN64, L"picture_box.tlb", library.Put())))
+        library->CreateTypeInfo(std::wstring(name).data(), TKIND_DISPATCH, type.Put());
+    return type.As<ITypeInfo>();
+}
+
+std::string Number(const VARIANT& value) {
+    VARIANT number;
+    VariantInit(&number);
+    if (FAILED(VariantChangeType(&number, const_cast<VARIANT*>(&value), 0, VT_I4)))
+        return "?";
+    return std::to_string(V_I4(&number));
+}
+
+BSTR NewText(const std::wstring& text) {
+    return SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
 }
 
 } // namespace
 
-PictureBox::PictureBox(Canvas& canvas, const std::wstring& name, const std::wstring& typeName)
-    : canvas_(canvas), members_{{L"hDC", static_cast<LONG>(reinterpret_cast<LONG_PTR>(canvas.Context()))},
-                                {L"Name", name},
-                                {L"ScaleWidth", static_cast<float>(canvas.Width())},
-                                {L"ScaleHeight", static_cast<float>(canvas.Height())},
-                                {L"DrawMode", SHORT{R2_COPYPEN}},
-                                {L"DrawWidth", SHORT{1}},
-                                {L"DrawStyle", SHORT{0}},
-                                {L"ForeColor", LONG{0}},
-                                {L"FillColor", LONG{0}},
-                                {L"FillStyle", SHORT{1}}},
-      type_(MakeControlType(typeName)), firstPen_(GetCurrentObject(canvas.Context(), OBJ_PEN)),
-      firstBrush_(GetCurrentObject(canvas.Context(), OBJ_BRUSH)) {
+Ref<PictureBox> PictureBox::Create(Canvas& canvas, const std::wstring& name, const std::wstring& typeName) {
+    return Ref<PictureBox>::Attach(new PictureBox(canvas, name, typeName));
+}
+
+PictureBox::PictureBox(Canvas& canvas, std::wstring name, const std::wstring& typeName)
+    : canvas_(canvas), name_(std::move(name)), type_(MakeType(typeName)), scaleWidth_(canvas.Width()),
+      scaleHeight_(canvas.Height()), values_{{L"DrawMode", R2_COPYPEN}, {L"ForeColor", 0},
+                                             {L"FillColor", 0},         {L"FillStyle", 1},
+                                             {L"DrawStyle", 0},         {L"DrawWidth", 1}} {
     Apply();
 }
 
 PictureBox::~PictureBox() {
-    EXPECT_EQ(references_, 0U) << "the surface is still held";
-    SelectObject(canvas_.Context(), firstPen_);
-    SelectObject(canvas_.Context(), firstBrush_);
+    SelectObject(canvas_.Dc(), GetStockObject(BLACK_PEN));
+    SelectObject(canvas_.Dc(), GetStockObject(WHITE_BRUSH));
     DeleteObject(pen_);
     DeleteObject(brush_);
 }
 
-PictureBox::Member* PictureBox::Find(const std::wstring& name) {
-    for (Member& member : members_)
-        if (member.present && _wcsicmp(member.name.c_str(), name.c_str()) == 0)
-            return &member;
-    return nullptr;
+std::vector<std::string> PictureBox::Logged(const std::string& beginning) const {
+    std::vector<std::string> found;
+    for (const std::string& access : log_)
+        if (access.starts_with(beginning))
+            found.push_back(access);
+    return found;
 }
 
-void PictureBox::Remove(const std::wstring& member) {
-    Find(member)->present = false;
+LONG PictureBox::Property(const std::wstring& name) const {
+    return values_.at(name);
 }
 
-void PictureBox::Set(const std::wstring& member, const Value& value) {
-    if (Member* const found = Find(member))
-        found->value = value;
-    else
-        members_.push_back({member, value, true});
+void PictureBox::SetProperty(const std::wstring& name, LONG value) {
+    values_.at(name) = value;
     Apply();
 }
 
-LONG PictureBox::Number(const std::wstring& member) const {
-    Value number = 0;
-    for (const Member& candidate : members_) // also one that was taken away: the control itself still has it
-        if (_wcsicmp(candidate.name.c_str(), member.c_str()) == 0)
-            VariantChangeType(number.Raw(), const_cast<VARIANT*>(candidate.value.Raw()), 0, VT_I4);
-    return number.Long();
+void PictureBox::SetScale(double width, double height) {
+    scaleWidth_ = width;
+    scaleHeight_ = height;
 }
 
-std::vector<std::string> PictureBox::LogOf(const std::string& start) const {
-    std::vector<std::string> lines;
-    for (const std::string& line : log)
-        if (line.starts_with(start))
-            lines.push_back(line);
-    return lines;
+STDMETHODIMP PictureBox::QueryInterface(REFIID id, void** object) {
+    const bool known = id == IID_IUnknown || id == IID_IDispatch;
+    *object = known ? this : nullptr;
+    if (known)
+        AddRef();
+    return known ? S_OK : E_NOINTERFACE;
 }
 
-void PictureBox::Apply() {
-    const HDC context = canvas_.Context();
-    const HPEN pen = CreatePen(PenStyle(Number(L"DrawStyle")), static_cast<int>(Number(L"DrawWidth")),
-                               static_cast<COLORREF>(Number(L"ForeColor")));
-    const HBRUSH brush = Number(L"FillStyle") == kSolidFill
-                             ? CreateSolidBrush(static_cast<COLORREF>(Number(L"FillColor")))
-                             : static_cast<HBRUSH>(GetStockObject(NULL_BRUSH));
-    SelectObject(context, pen);
-    SelectObject(context, brush);
-    DeleteObject(pen_);
-    DeleteObject(brush_); // a stock object stays
-    pen_ = pen;
-    brush_ = brush;
-    SetROP2(context, static_cast<int>(Number(L"DrawMode")));
-    SetTextColor(context, static_cast<COLORREF>(Number(L"ForeColor")));
-}
-
-STDMETHODIMP PictureBox::QueryInterface(REFIID iid, void** object) {
-    if (iid != IID_IUnknown && iid != IID_IDispatch) {
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    *object = static_cast<IDispatch*>(this);
-    AddRef();
-    return S_OK;
+STDMETHODIMP_(ULONG) PictureBox::Release() {
+    const ULONG left = --references_;
+    if (left == 0)
+        delete this;
+    return left;
 }
 
 STDMETHODIMP PictureBox::GetTypeInfoCount(UINT* count) {
-    *count = 1;
+    *count = type_ ? 1 : 0;
     return S_OK;
 }
 
 STDMETHODIMP PictureBox::GetTypeInfo(UINT, LCID, ITypeInfo** info) {
-    *info = type_.Get();
-    if (*info == nullptr)
+    *info = Ref<ITypeInfo>(type_).Get();
+    if (!type_)
         return E_NOTIMPL;
     (*info)->AddRef();
     return S_OK;
 }
 
 STDMETHODIMP PictureBox::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {
-    const Member* const member = Find(names[0]);
-    ids[0] = member == nullptr ? DISPID_UNKNOWN : static_cast<DISPID>(member - members_.data()) + 1;
-    return member == nullptr ? DISP_E_UNKNOWNNAME : S_OK;
+    for (DISPID id = 1; id <= kLine; ++id) {
+        ids[0] = id;
+        if (CompareStringOrdinal(NameOf(id), -1, names[0], -1, TRUE) == CSTR_EQUAL)
+            return S_OK;
+    }
+    ids[0] = DISPID_UNKNOWN;
+    return DISP_E_UNKNOWNNAME;
 }
 
-HRESULT PictureBox::Use(const std::string& use, EXCEPINFO* exception) {
-    log.push_back(use);
-    if (onUse)
-        onUse(use);
-    for (const auto& [start, failure] : failures_) {
-        if (!use.starts_with(start))
+/// Logs an access; false when it is to fail, with the exception filled in.
+bool PictureBox::Note(const std::string& access, EXCEPINFO* exception) {
+    log_.push_back(access);
+    if (const auto action = action_)
+        action(access);
+    for (const auto& [beginning, failure] : failures_) {
+        if (!access.starts_with(beginning))
             continue;
-        *exception = {};
-        exception->wCode = static_cast<WORD>(failure.number);
         exception->scode = failure.status;
-        exception->bstrSource = SysAllocString(failure.source.c_str());
-        exception->bstrDescription = SysAllocString(failure.description.c_str());
-        return DISP_E_EXCEPTION;
+        exception->bstrSource = NewText(failure.source);
+        exception->bstrDescription = NewText(failure.description);
+        return false;
     }
-    return S_OK;
+    return true;
 }
 
 STDMETHODIMP PictureBox::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                                 EXCEPINFO* exception, UINT*) {
-    const auto index = static_cast<std::size_t>(id) - 1;
-    if (index >= members_.size() || !members_[index].present)
+    if (id < 1 || id > kLine)
         return DISP_E_MEMBERNOTFOUND;
-    const std::string name = Narrow(members_[index].name);
-    if ((flags & DISPATCH_PROPERTYPUT) != 0) {
-        Value number;
-        if (arguments->cArgs != 1 || FAILED(VariantChangeType(number.Raw(), &arguments->rgvarg[0], 0, VT_I4)))
-            return DISP_E_TYPEMISMATCH;
-        const HRESULT status = Use("put " + name + ' ' + std::to_string(number.Long()), exception);
-        if (FAILED(status))
-            return status;
-        members_[index].value = number;
-        Apply();
+    const Ref<PictureBox> alive(this);
+    const std::string name = Narrow(NameOf(id));
+    if (flags & DISPATCH_PROPERTYPUT) {
+        if (id > kLastSettable || arguments->cArgs != 1)
+            return DISP_E_MEMBERNOTFOUND;
+        const std::string number = Number(arguments->rgvarg[0]);
+        if (!Note("put " + name + " " + number, exception))
+            return DISP_E_EXCEPTION;
+        SetProperty(NameOf(id), std::stol(number));
         return S_OK;
     }
-    if (arguments->cArgs != 0)
+    if (id == kLine) {
+        std::string access = "call Line";
+        for (UINT i = arguments->cArgs; i-- > 0;)
+            access += " " + Number(arguments->rgvarg[i]);
+        return Note(access, exception) ? Line(*arguments) : DISP_E_EXCEPTION;
+    }
+    if (arguments->cArgs != 0 || result == nullptr)
         return DISP_E_BADPARAMCOUNT;
-    const HRESULT status = Use("get " + name, exception);
-    if (SUCCEEDED(status) && result != nullptr)
-        VariantCopy(result, members_[index].value.Raw());
-    return status;
+    if (!Note("get " + name, exception))
+        return DISP_E_EXCEPTION;
+    Get(id, *result);
+    return S_OK;
+}
+
+void PictureBox::Get(DISPID id, VARIANT& result) const {
+    VariantInit(&result);
+    switch (id) {
+    case kHdc:
+        V_VT(&result) = VT_I4;
+        V_I4(&result) = static_cast<LONG>(reinterpret_cast<LONG_PTR>(canvas_.Dc()));
+        break;
+    case kScaleWidth:
+    case kScaleHeight:
+        V_VT(&result) = VT_R4;
+        V_R4(&result) = static_cast<float>(id == kScaleWidth ? scaleWidth_ : scaleHeight_);
+        break;
+    case kName:
+        V_VT(&result) = VT_BSTR;
+        V_BSTR(&result) = NewText(name_);
+        break;
+    default: V_VT(&result) = VT_I4; V_I4(&result) = values_.at(NameOf(id));
+    }
+}
+
+HRESULT PictureBox::Line(const DISPPARAMS& arguments) {
+    if (arguments.cArgs != lineArguments_)
+        return DISP_E_BADPARAMCOUNT;
+    // The six are flags, four coordinates and the colour; arguments come last first.
+    const UINT before = lineArguments_ == 6 ? 1 : 0;
+    const auto coordinate = [&](UINT i) {
+        return std::stol(Number(arguments.rgvarg[arguments.cArgs - 1 - before - i]));
+    };
+    MoveToEx(canvas_.Dc(), coordinate(0), coordinate(1), nullptr);
+    LineTo(canvas_.Dc(), coordinate(2), coordinate(3));
+    return S_OK;
+}
+
+void PictureBox::Apply() {
+    const HDC dc = canvas_.Dc();
+    const LONG width = values_[L"DrawWidth"];
+    const auto fore = static_cast<COLORREF>(values_[L"ForeColor"]);
+    const auto fill = static_cast<COLORREF>(values_[L"FillColor"]);
+    int style = static_cast<int>(values_[L"DrawStyle"]);
+    if (style >= PS_DASH && style <= PS_DASHDOTDOT && width > 1)
+        style = PS_SOLID; // only thin lines can be dashed
+    // 0 to 4 are the GDI's solid and dashed pens, 5 its invisible one, 6 the one inside the frame.
+    const HGDIOBJ pen = CreatePen(style, width, fore);
+    const LONG fillStyle = values_[L"FillStyle"];
+    const HGDIOBJ brush = fillStyle == 0   ? CreateSolidBrush(fill)
+                          : fillStyle == 1 ? GetStockObject(NULL_BRUSH)
+                                           : CreateHatchBrush(fillStyle - 2, fill);
+    SelectObject(dc, pen);
+    SelectObject(dc, brush);
+    DeleteObject(std::exchange(pen_, pen));
+    DeleteObject(std::exchange(brush_, brush));
+    SetTextColor(dc, fore);
+    SetROP2(dc, static_cast<int>(values_[L"DrawMode"]));
 }
 
 } // namespace support

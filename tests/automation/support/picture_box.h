@@ -1,87 +1,82 @@
 #pragma once
 
-#include "support/canvas.h"
-#include "support/value.h"
+#include "support/failure.h"
+#include "support/pixels.h"
+#include "support/ref.h"
 
 #include <windows.h>
 
 #include <oaidl.h>
 
+#include <algorithm>
 #include <functional>
 #include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace support {
 
-/// An error as a host's own code raises it.
-struct HostFailure {
-    int number = 0; ///< of an error raised by number; 0 when `status` counts
-    HRESULT status = S_OK;
-    std::wstring source;
-    std::wstring description;
-};
-
-/// A host's picture box or printer: a late-bound object whose pen and fill properties really act on its
-/// device context, as those of a classic Basic control do. It writes down how it is used.
+/// A host's picture box or printer as Basic has them: late-bound properties that act on its device context.
 ///
-/// It lives on the test's stack; the library must have let it go when it goes.
+/// It logs every access and can be told to fail or to do something at an access. An access is told as
+/// "get Name", "put ForeColor 255" or "call Line 10 20 30 40". The canvas must outlive the box.
 class PictureBox final : public IDispatch {
 public:
-    /// `typeName` is what the automation type of the control is called: "PictureBox", "Printer" …
-    explicit PictureBox(Canvas& canvas, const std::wstring& name = L"Picture1",
-                        const std::wstring& typeName = L"PictureBox");
-    PictureBox(const PictureBox&) = delete;
-    PictureBox& operator=(const PictureBox&) = delete;
-    virtual ~PictureBox();
+    static Ref<PictureBox> Create(Canvas& canvas, const std::wstring& name = L"PlanBox",
+                                  const std::wstring& typeName = L"PictureBox");
 
-    /// What happened, in order: "get hDC", "put DrawWidth 3".
-    std::vector<std::string> log;
-    /// Called before every use of a member, with the log's line for it.
-    std::function<void(const std::string&)> onUse;
+    const std::vector<std::string>& Log() const { return log_; }
+    void ClearLog() { log_.clear(); }
+    /// The accesses that begin with a text, in their order.
+    std::vector<std::string> Logged(const std::string& beginning) const;
+    std::ptrdiff_t Count(const std::string& access) const {
+        return std::count(log_.begin(), log_.end(), access);
+    }
 
-    /// Lets every use of a member fail; "put DrawWidth" or "get hDC".
-    void FailOn(const std::string& use, const HostFailure& failure) { failures_[use] = failure; }
-    /// Takes a member away.
-    void Remove(const std::wstring& member);
-    void Set(const std::wstring& member, const Value& value);
-    LONG Number(const std::wstring& member) const;
-    /// The lines of the log that begin with the text.
-    std::vector<std::string> LogOf(const std::string& start) const;
-    /// References that others hold.
-    ULONG Holders() const { return references_; }
+    /// Accesses that begin with "get Name" or "put ForeColor" fail from now on.
+    void Fail(const std::string& beginning, const Failure& failure) { failures_[beginning] = failure; }
+    /// Called at each access, before it takes effect.
+    void OnAccess(std::function<void(const std::string& access)> action) { action_ = std::move(action); }
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
+    /// A property as the host itself sees and sets it, without a trace in the log.
+    LONG Property(const std::wstring& name) const;
+    void SetProperty(const std::wstring& name, LONG value);
+    /// What ScaleWidth and ScaleHeight tell; at first the size of the canvas.
+    void SetScale(double width, double height);
+    /// The box's Line takes four arguments, or six as a picture box's does; at first four.
+    void SetLineArguments(UINT count) { lineArguments_ = count; }
+
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override;
     STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-    STDMETHODIMP_(ULONG) Release() override { return --references_; }
+    STDMETHODIMP_(ULONG) Release() override;
     STDMETHODIMP GetTypeInfoCount(UINT* count) override;
     STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
-    STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override;
+    STDMETHODIMP GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* arguments,
-                        VARIANT* result, EXCEPINFO* exception, UINT* argumentError) override;
+                        VARIANT* result, EXCEPINFO* exception, UINT* badArgument) override;
 
 private:
-    struct Member {
-        std::wstring name;
-        Value value;
-        bool present = true;
-    };
+    PictureBox(Canvas& canvas, std::wstring name, const std::wstring& typeName);
+    virtual ~PictureBox();
 
-    Member* Find(const std::wstring& name);
-    HRESULT Use(const std::string& use, EXCEPINFO* exception);
-    /// Selects pen, brush, raster operation and text colour as the properties say.
+    bool Note(const std::string& access, EXCEPINFO* exception);
+    void Get(DISPID id, VARIANT& result) const;
+    HRESULT Line(const DISPPARAMS& arguments);
     void Apply();
 
+    ULONG references_ = 1;
     Canvas& canvas_;
-    std::vector<Member> members_; ///< the dispid is the index + 1
-    std::map<std::string, HostFailure> failures_;
+    std::wstring name_;
     Ref<ITypeInfo> type_;
-    ULONG references_ = 0;
-    HPEN pen_ = nullptr;
-    HBRUSH brush_ = nullptr;
-    HGDIOBJ firstPen_ = nullptr;
-    HGDIOBJ firstBrush_ = nullptr;
+    double scaleWidth_;
+    double scaleHeight_;
+    UINT lineArguments_ = 4;
+    std::map<std::wstring, LONG> values_;
+    std::vector<std::string> log_;
+    std::map<std::string, Failure> failures_;
+    std::function<void(const std::string&)> action_;
+    HGDIOBJ pen_ = nullptr;
+    HGDIOBJ brush_ = nullptr;
 };
 
 } // namespace support

@@ -43,19 +43,19 @@ TEST(Harness, NumberSettingsActInTheRunningProcess) {
 
 TEST(Harness, ThePictureBoxActsOnItsContext) {
     support::Canvas canvas(20, 20);
-    support::PictureBox box(canvas);
-    const support::Dispatch late(&box);
+    const auto box = support::PictureBox::Create(canvas, L"Drucker", L"Printer");
+    const support::Dispatch late(box);
     EXPECT_OK(late.Put(L"forecolor", 0x0000FF).status);
     EXPECT_OK(late.Put(L"DrawWidth", 3).status);
-    MoveToEx(canvas.Context(), 2, 10, nullptr);
-    LineTo(canvas.Context(), 18, 10);
-    EXPECT_EQ(canvas.Pixel(10, 9), 0xFF0000U);
-    EXPECT_EQ(canvas.Pixel(10, 11), 0xFF0000U);
-    EXPECT_EQ(canvas.Pixel(10, 13), 0xFFFFFFU);
+    MoveToEx(canvas.Dc(), 2, 10, nullptr);
+    LineTo(canvas.Dc(), 18, 10);
+    EXPECT_EQ(GetPixel(canvas.Dc(), 10, 9), 0x0000FFU);
+    EXPECT_EQ(GetPixel(canvas.Dc(), 10, 11), 0x0000FFU);
+    EXPECT_NE(GetPixel(canvas.Dc(), 10, 13), 0x0000FFU);
     EXPECT_EQ(late.Get(L"DrawWidth").value.Long(), 3);
-    EXPECT_EQ(box.log, (std::vector<std::string>{"put ForeColor 255", "put DrawWidth 3", "get DrawWidth"}));
-    box.FailOn("put DrawWidth",
-               {.number = 1234, .status = S_OK, .source = L"Form1", .description = L"kaputt"});
+    EXPECT_EQ(box->Log(),
+              (std::vector<std::string>{"put ForeColor 255", "put DrawWidth 3", "get DrawWidth"}));
+    box->Fail("put DrawWidth", {support::Numbered(1234), L"Form1", L"kaputt"});
     EXPECT_EQ(late.Put(L"DrawWidth", 1).failure,
               (support::Failure{support::Numbered(1234), L"Form1", L"kaputt"}));
     EXPECT_EQ(late.Get(L"Caption").status, DISP_E_UNKNOWNNAME);
@@ -63,9 +63,9 @@ TEST(Harness, ThePictureBoxActsOnItsContext) {
 
 TEST(Harness, ThePictureBoxHasATypeName) {
     support::Canvas canvas(2, 2);
-    support::PictureBox box(canvas, L"Drucker", L"Printer");
+    const auto box = support::PictureBox::Create(canvas, L"Drucker", L"Printer");
     support::Ref<ITypeInfo> type;
-    ASSERT_OK(box.GetTypeInfo(0, 0, type.Put()));
+    ASSERT_OK(box->GetTypeInfo(0, 0, type.Put()));
     support::Bstr name;
     ASSERT_OK(type->GetDocumentation(MEMBERID_NIL, name.Put(), nullptr, nullptr, nullptr));
     EXPECT_EQ(name.Text(), L"Printer");

@@ -1,0 +1,38 @@
+# cmake -DIDL_DIR=… -DARCHITECTURE=amd64|x86 -DOUTPUT=… -P manifest.cmake
+# Writes the side-by-side assembly that lets a host use both DLLs without registration. The contracts are the
+# only source of class ids, so the manifest cannot drift from them.
+
+set(files "")
+set(proxies "")
+foreach(library QMath QSymbol)
+  file(READ ${IDL_DIR}/${library}.idl idl)
+  # Brackets and semicolons mean something to CMake's lists.
+  string(REPLACE "[" "<" idl "${idl}")
+  string(REPLACE "]" ">" idl "${idl}")
+  string(REPLACE ";" "," idl "${idl}")
+  string(REGEX MATCH "uuid\\(([0-9a-f-]+)\\), version\\(([0-9.]+)\\)" header "${idl}")
+  set(type_library ${CMAKE_MATCH_1})
+  set(version ${CMAKE_MATCH_2})
+  string(APPEND files "  <file name=\"${library}.dll\">\n"
+         "    <typelib tlbid=\"{${type_library}}\" version=\"${version}\" helpdir=\"\"/>\n")
+  # A class that clients may not create has "noncreatable" behind its help string and gets no entry.
+  string(REGEX MATCHALL "<uuid\\([0-9a-f-]+\\), helpstring\\(\"[^\"]*\"\\)>[ \n]+coclass C[A-Za-z]+" classes "${idl}")
+  foreach(class IN LISTS classes)
+    string(REGEX MATCH "uuid\\(([0-9a-f-]+)\\).*coclass (C[A-Za-z]+)" ignored "${class}")
+    string(APPEND files "    <comClass clsid=\"{${CMAKE_MATCH_1}}\" progid=\"${library}.${CMAKE_MATCH_2}\" "
+           "tlbid=\"{${type_library}}\" threadingModel=\"Apartment\"/>\n")
+  endforeach()
+  string(APPEND files "  </file>\n")
+  string(REGEX MATCHALL "uuid\\([0-9a-f-]+\\), dual[^{]*interface _C[A-Za-z]+" interfaces "${idl}")
+  foreach(interface IN LISTS interfaces)
+    string(REGEX MATCH "uuid\\(([0-9a-f-]+)\\).*interface (_C[A-Za-z]+)" ignored "${interface}")
+    string(APPEND proxies "  <comInterfaceExternalProxyStub name=\"${CMAKE_MATCH_2}\" iid=\"{${CMAKE_MATCH_1}}\" "
+           "tlbid=\"{${type_library}}\" proxyStubClsid32=\"{00020424-0000-0000-C000-000000000046}\"/>\n")
+  endforeach()
+endforeach()
+
+file(WRITE ${OUTPUT} "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>
+<assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">
+  <assemblyIdentity type=\"win32\" name=\"QSymbol.X\" version=\"4.1.0.0\" processorArchitecture=\"${ARCHITECTURE}\"/>
+${files}${proxies}</assembly>
+")

@@ -1,0 +1,58 @@
+#include "catalogue.h"
+
+#include "text.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void RequireFolder(const fs::path& folder) {
+    if (!fs::is_directory(folder))
+        throw Failure{L"Ordner nicht gefunden: " + folder.wstring()};
+}
+
+/// What the library reads a file as follows from its extension, in any case.
+bool IsTextSymbol(const fs::path& file) {
+    return lstrcmpiW(file.extension().c_str(), L".syt") == 0;
+}
+
+/// The path is the symbol's own property; reading and writing take it from there.
+void SetPath(_CSymbol& symbol, const fs::path& file) {
+    Check(symbol.put_FilePath(Bstr(fs::absolute(file).wstring()).Get()));
+}
+
+} // namespace
+
+Ptr<_CSymbolColl> OpenCatalogue(const fs::path& folder) {
+    RequireFolder(folder); // the library takes a missing folder for an empty one
+    Ptr<_CSymbolColl> catalogue = Create<_CSymbolColl>(__uuidof(CSymbolColl));
+    Check(catalogue->ReadKatalog(Bstr(fs::absolute(folder).wstring()).Get()), folder.wstring());
+    LONG count = 0;
+    Check(catalogue->get_Count(&count));
+    if (count == 0)
+        throw Failure{L"Keine Symbole (*.syb) im Ordner " + folder.wstring()};
+    return catalogue;
+}
+
+int ConvertFolder(const fs::path& textFolder, const fs::path& catalogueFolder) {
+    RequireFolder(textFolder);
+    fs::create_directories(catalogueFolder);
+    const Ptr<_CSymbol> symbol = Create<_CSymbol>(__uuidof(CSymbol));
+    int count = 0;
+    for (const fs::directory_entry& entry : fs::directory_iterator(textFolder)) {
+        if (!IsTextSymbol(entry.path()))
+            continue;
+        SetPath(*symbol.Get(), entry.path());
+        Check(symbol->ReadFromFile(), entry.path().filename().wstring());
+
+        fs::path target = catalogueFolder / entry.path().filename();
+        target.replace_extension(L".syb");
+        fs::remove(target); // the library would ask the user before it overwrites
+        SetPath(*symbol.Get(), target);
+        Check(symbol->Write2File(), target.filename().wstring());
+        ++count;
+    }
+    if (count == 0)
+        throw Failure{L"Keine Symbole (*.syt) im Ordner " + textFolder.wstring()};
+    return count;
+}

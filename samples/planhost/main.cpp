@@ -1,0 +1,92 @@
+// A host of the symbol library: converts symbols, draws a plan with them and shows a catalogue.
+
+#include "catalogue.h"
+#include "catalogue_sheet.h"
+#include "plan_picture.h"
+#include "text.h"
+
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int kDefaultPixelWidth = 2000;
+constexpr int kLargestPixelWidth = 10000;
+
+using Arguments = std::vector<std::wstring>;
+
+void Convert(const Arguments& arguments) {
+    const int count = ConvertFolder(arguments[0], arguments[1]);
+    PrintLine(std::to_wstring(count) + L" Symbole nach " + arguments[1] + L" geschrieben.");
+}
+
+int PixelWidth(const std::wstring& argument) {
+    wchar_t* end = nullptr;
+    const long width = std::wcstol(argument.c_str(), &end, 10);
+    if (*end != L'\0' || width < 1 || width > kLargestPixelWidth)
+        throw Failure{L"Keine Bildbreite von 1 bis " + std::to_wstring(kLargestPixelWidth) + L": " +
+                      argument};
+    return static_cast<int>(width);
+}
+
+void Plot(const Arguments& arguments) {
+    const int width = arguments.size() > 3 ? PixelWidth(arguments[3]) : kDefaultPixelWidth;
+    const Plan plan = ReadPlan(arguments[1]);
+    const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
+    DrawPlan(plan, *catalogue.Get(), width, arguments[2]);
+    PrintLine(plan.title + L": " + std::to_wstring(plan.symbols.size()) + L" Symbole in " + arguments[2] +
+              L" gezeichnet.");
+}
+
+void ShowCatalogue(const Arguments& arguments) {
+    const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
+    DrawCatalogueSheet(*catalogue.Get(), arguments[1]);
+    LONG count = 0;
+    Check(catalogue->get_Count(&count));
+    PrintLine(std::to_wstring(count) + L" Symbole in " + arguments[1] + L" gezeichnet.");
+}
+
+struct Command {
+    const wchar_t* name;
+    std::size_t fewest, most; ///< arguments
+    const wchar_t* form;
+    void (*run)(const Arguments& arguments);
+};
+
+constexpr Command kCommands[] = {
+    {L"convert", 2, 2, L"TEXTORDNER KATALOGORDNER", Convert},
+    {L"plan", 3, 4, L"KATALOGORDNER PLANDATEI BILD.png [BILDBREITE]", Plot},
+    {L"sheet", 2, 2, L"KATALOGORDNER BILD.png", ShowCatalogue},
+};
+
+[[noreturn]] void FailWithUsage() {
+    std::wstring usage = L"Aufruf:";
+    for (const Command& command : kCommands)
+        usage += std::wstring(L"\r\n  planhost ") + command.name + L" " + command.form;
+    throw Failure{usage};
+}
+
+void Run(const std::wstring& name, const Arguments& arguments) {
+    for (const Command& command : kCommands) {
+        if (name == command.name && arguments.size() >= command.fewest && arguments.size() <= command.most)
+            return command.run(arguments);
+    }
+    FailWithUsage();
+}
+
+} // namespace
+
+int wmain(int count, wchar_t** values) {
+    try {
+        if (count < 2)
+            FailWithUsage();
+        const ComThread com;
+        Run(values[1], Arguments(values + 2, values + count));
+        return 0;
+    } catch (const Failure& failure) {
+        PrintErrorLine(failure.message);
+    } catch (const std::exception& error) {
+        PrintErrorLine(FromUtf8(error.what()));
+    }
+    return 1;
+}

@@ -1,0 +1,144 @@
+#include "plan_picture.h"
+
+#include "bitmap.h"
+#include "picture_box.h"
+#include "text.h"
+
+#include <QMath.h>
+
+#include <cmath>
+#include <numbers>
+
+namespace {
+
+constexpr COLORREF kWallColour = RGB(74, 74, 78);
+constexpr COLORREF kTextColour = RGB(40, 40, 44);
+constexpr int kLargestPixelHeight = 20000;
+// Millimetres in the plan.
+constexpr int kLabelHeight = 230;
+constexpr int kTitleHeight = 340;
+constexpr int kTitleMargin = 700;
+
+/// The sheet in world units and its picture; the libraries and the host share the transformation.
+struct Sheet {
+    Bitmap bitmap;
+    Ptr<_CTrans> transformation;
+
+    POINT ToPixel(double x, double y) const {
+        POINT point{std::lround(x * kUnitsPerMillimetre), std::lround(y * kUnitsPerMillimetre)};
+        Check(transformation->WorldToScreen(&point.x, &point.y));
+        return point;
+    }
+};
+
+Sheet MakeSheet(const Plan& plan, int pixelWidth) {
+    const double unitsPerPixel = static_cast<double>(plan.width) * kUnitsPerMillimetre / pixelWidth;
+    Ptr<_CTrans> transformation = Create<_CTrans>(__uuidof(CTrans));
+    Check(transformation->SetScale(unitsPerPixel));
+    const double pixelHeight = std::round(plan.height * kUnitsPerMillimetre / unitsPerPixel);
+    if (pixelHeight < 1 || pixelHeight > kLargestPixelHeight)
+        throw Failure{L"Das Blatt ist für ein Bild dieser Breite zu flach oder zu hoch."};
+    return {Bitmap(pixelWidth, static_cast<int>(pixelHeight)), std::move(transformation)};
+}
+
+/// Every symbol that the plan names, in the plan's order; none may be missing.
+std::vector<Ptr<_CSymbol>> FindSymbols(const Plan& plan, _CSymbolColl& catalogue) {
+    std::vector<Ptr<_CSymbol>> symbols;
+    for (const PlacedSymbol& placed : plan.symbols) {
+        Ptr<_CSymbol> symbol;
+        Check(catalogue.get_ItemByIndex(Bstr(placed.name).Get(), symbol.Put()));
+        if (!symbol)
+            throw Failure{L"Zeile " + std::to_wstring(placed.line) + L": Das Symbol \"" + placed.name +
+                          L"\" ist nicht im Katalog."};
+        symbols.push_back(std::move(symbol));
+    }
+    return symbols;
+}
+
+void DrawFloors(const Plan& plan, const Sheet& sheet) {
+    for (const Floor& floor : plan.floors) {
+        const POINT leftTop = sheet.ToPixel(floor.area.left, floor.area.top);
+        const POINT rightBottom = sheet.ToPixel(floor.area.right, floor.area.bottom);
+        const RECT area{leftTop.x, leftTop.y, rightBottom.x, rightBottom.y};
+        const HBRUSH brush = CreateSolidBrush(floor.colour);
+        FillRect(sheet.bitmap.Dc(), &area, brush);
+        DeleteObject(brush);
+    }
+}
+
+/// A wall is its middle line, widened by half the thickness to both sides.
+void DrawWalls(const Plan& plan, const Sheet& sheet) {
+    const HDC dc = sheet.bitmap.Dc();
+    const int state = SaveDC(dc);
+    SelectObject(dc, GetStockObject(DC_PEN));
+    SelectObject(dc, GetStockObject(DC_BRUSH));
+    SetDCPenColor(dc, kWallColour);
+    SetDCBrushColor(dc, kWallColour);
+    for (const Wall& wall : plan.walls) {
+        const double dx = wall.to.x - wall.from.x;
+        const double dy = wall.to.y - wall.from.y;
+        const double half = wall.thickness / (2 * std::hypot(dx, dy));
+        const double sideX = -dy * half;
+        const double sideY = dx * half;
+        const POINT corners[] = {
+            sheet.ToPixel(wall.from.x + sideX, wall.from.y + sideY),
+            sheet.ToPixel(wall.to.x + sideX, wall.to.y + sideY),
+            sheet.ToPixel(wall.to.x - sideX, wall.to.y - sideY),
+            sheet.ToPixel(wall.from.x - sideX, wall.from.y - sideY),
+        };
+        Polygon(dc, corners, 4);
+    }
+    RestoreDC(dc, state);
+}
+
+void DrawSymbols(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols, const Sheet& sheet) {
+    const Ptr<PictureBox> box =
+        PictureBox::Create(sheet.bitmap.Dc(), sheet.bitmap.Width(), sheet.bitmap.Height(), L"PlanBox");
+    for (std::size_t i = 0; i < symbols.size(); ++i) {
+        const PlacedSymbol& placed = plan.symbols[i];
+        const double angle = placed.angle * std::numbers::pi / 180;
+        LONG ownColours = -1;
+        Check(symbols[i]->Draw(placed.at.x * kUnitsPerMillimetre, placed.at.y * kUnitsPerMillimetre, angle,
+                               box.Get(), sheet.transformation.Get(), 1.0, 1.0, &ownColours),
+              L"Zeile " + std::to_wstring(placed.line));
+    }
+}
+
+void WriteText(const Sheet& sheet, const std::wstring& text, POINT at, int height, UINT align) {
+    const HDC dc = sheet.bitmap.Dc();
+    const int state = SaveDC(dc);
+    LONG pixels = height * kUnitsPerMillimetre;
+    Check(sheet.transformation->LengthToScreen(&pixels));
+    const HFONT font = CreateFontW(-pixels, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
+                                   ANTIALIASED_QUALITY, 0, L"Arial");
+    SelectObject(dc, font);
+    SetTextColor(dc, kTextColour);
+    SetBkMode(dc, TRANSPARENT);
+    SetTextAlign(dc, align | TA_BASELINE);
+    const POINT anchor = sheet.ToPixel(at.x, at.y);
+    TextOutW(dc, anchor.x, anchor.y, text.c_str(), static_cast<int>(text.size()));
+    RestoreDC(dc, state);
+    DeleteObject(font);
+}
+
+void WriteTitleAndLabels(const Plan& plan, const Sheet& sheet) {
+    WriteText(sheet, plan.title, {kTitleMargin, kTitleMargin - kTitleHeight / 2}, kTitleHeight, TA_LEFT);
+    for (const Room& room : plan.rooms) {
+        // Capitals are about two thirds of the height: this puts them round the middle.
+        const POINT baseline{room.middle.x, room.middle.y + kLabelHeight / 3};
+        WriteText(sheet, room.name, baseline, kLabelHeight, TA_CENTER);
+    }
+}
+
+} // namespace
+
+void DrawPlan(const Plan& plan, _CSymbolColl& catalogue, int pixelWidth,
+              const std::filesystem::path& picture) {
+    const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, catalogue);
+    const Sheet sheet = MakeSheet(plan, pixelWidth);
+    DrawFloors(plan, sheet);
+    DrawWalls(plan, sheet);
+    DrawSymbols(plan, symbols, sheet);
+    WriteTitleAndLabels(plan, sheet);
+    sheet.bitmap.SavePng(picture.wstring());
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "com/com_ptr.h"
+#include "qmath/point.h"
+#include "qmath/rect.h"
+
+#include <QMath.h>
+
+#include <vector>
+
+/// The coordinates of any CPt, also of a foreign implementation. Error 91 for Nothing.
+qmath::Point GetPoint(_CPt* pt);
+
+void SetPoint(_CPt* pt, const qmath::Point& value);
+
+/// The coordinates of all points of any CPtList, in order. Error 91 for Nothing.
+std::vector<qmath::Point> GetPoints(_CPtList* list);
+
+/// The edges of any CRect. Error 91 for Nothing.
+qmath::Rect GetRect(_CRect* rect);

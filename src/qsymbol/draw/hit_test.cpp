@@ -1,0 +1,35 @@
+#include "qsymbol/draw/hit_test.h"
+
+#include "qmath/outline.h"
+#include "qsymbol/draw/bounds.h"
+
+#include <array>
+
+namespace qsymbol {
+
+namespace {
+
+std::array<qmath::Point, 4> ScreenOutline(const Symbol& symbol, const SymbolPosition& position,
+                                          double screenFactor, const Transformation& transformation) {
+    std::array<qmath::Point, 4> corners = OutlineCorners(symbol, position, screenFactor);
+    transformation.PointsToScreen(corners);
+    return corners;
+}
+
+} // namespace
+
+bool ObjIdentByPt(const Symbol& symbol, const SymbolPosition& position, double screenFactor,
+                  const Transformation& transformation, qmath::Point screen) {
+    if (symbol.elements.empty())
+        return false;
+    return qmath::OutlineContains(ScreenOutline(symbol, position, screenFactor, transformation), screen);
+}
+
+bool ObjIdentByRect(const Symbol& symbol, const SymbolPosition& position, double screenFactor,
+                    const Transformation& transformation, const qmath::Rect& screen) {
+    if (symbol.elements.empty())
+        return false;
+    return qmath::OutlineMeets(ScreenOutline(symbol, position, screenFactor, transformation), screen);
+}
+
+} // namespace qsymbol

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <charconv>
+#include <cstdint>
+#include <cstring>
+
+namespace qsymbol {
+
+/// Longest text of PutFixedReal: a sign, ten digits before the separator, the separator, fourteen behind it.
+inline constexpr std::size_t kLongestFixedReal = 1 + 10 + 1 + 14;
+
+/// Writes value / 100000 with fourteen decimals and "." to `out`; returns the end. |value| is below 10^15.
+///
+/// Such a number has at most 15 digits and is a decimal one, so whole numbers give every digit that
+/// base::AppendDecimals finds in its double, at a fraction of the cost.
+inline char* PutFixedReal(char* out, std::int64_t value) {
+    constexpr std::uint64_t kUnit = 100000;
+    constexpr char kPadding[] = "000000000";
+    std::uint64_t magnitude = static_cast<std::uint64_t>(value);
+    if (value < 0) {
+        *out++ = '-';
+        magnitude = 0 - magnitude;
+    }
+    out = std::to_chars(out, out + 10, magnitude / kUnit).ptr;
+    *out = '.';
+    auto decimals = static_cast<std::uint32_t>(magnitude % kUnit);
+    for (int place = 5; place > 0; --place) {
+        out[place] = static_cast<char>('0' + decimals % 10);
+        decimals /= 10;
+    }
+    std::memcpy(out + 6, kPadding, sizeof kPadding - 1);
+    return out + 6 + sizeof kPadding - 1;
+}
+
+} // namespace qsymbol

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "base/error.h"
+#include "qsymbol/draw/surface.h"
+
+#include <string>
+#include <vector>
+
+namespace support {
+
+using Calls = std::vector<std::string>;
+
+/// A surface that notes every get, put and output as a line of text.
+class RecordingSurface : public qsymbol::Surface {
+public:
+    Calls calls;
+    qsymbol::SurfaceKind kind = qsymbol::SurfaceKind::PictureBox;
+    std::u16string name = u"Picture1";
+    std::int32_t drawMode = 13;
+    /// The call that fails with error 438 instead of being noted, "" for none.
+    std::string failing;
+
+    qsymbol::SurfaceKind Kind() override {
+        Note("Kind?");
+        return kind;
+    }
+    std::u16string Name() override {
+        Note("Name?");
+        return name;
+    }
+    std::int32_t DrawMode() override { return Get("DrawMode?", drawMode); }
+    std::int32_t DrawWidth() override { return Get("DrawWidth?", 1); }
+    std::int32_t DrawStyle() override { return Get("DrawStyle?", 0); }
+    std::int32_t ForeColor() override { return Get("ForeColor?", 0); }
+    std::int32_t FillStyle() override { return Get("FillStyle?", 1); }
+
+    void PutDrawMode(std::int32_t value) override {
+        Put("DrawMode", value);
+        drawMode = value;
+    }
+    void PutDrawWidth(std::int32_t value) override { Put("DrawWidth", value); }
+    void PutDrawStyle(std::int32_t value) override { Put("DrawStyle", value); }
+    void PutForeColor(std::int32_t value) override { Put("ForeColor", value); }
+    void PutFillColor(std::int32_t value) override { Put("FillColor", value); }
+    void PutFillStyle(std::int32_t value) override { Put("FillStyle", value); }
+
+    void Line(qmath::Point from, qmath::Point to) override { Note("Line" + Text(from) + Text(to)); }
+    void Polygon(std::span<const qmath::Point> points) override { Note("Polygon" + Text(points)); }
+    void Polyline(std::span<const qmath::Point> points) override { Note("Polyline" + Text(points)); }
+    void Ellipse(const qmath::Rect& box) override { Note("Ellipse" + Text(box)); }
+    void Arc(const qmath::Rect& box, qmath::Point start, qmath::Point end) override {
+        Note("Arc" + Text(box) + Text(start) + Text(end));
+    }
+    void Invert(qmath::Point leftTop, std::int32_t width, std::int32_t height) override {
+        Note("Invert" + Text(leftTop) + " " + std::to_string(width) + "x" + std::to_string(height));
+    }
+    void SetTextAlign(std::int32_t flags) override { Put("TextAlign", flags); }
+    void SetBkMode(std::int32_t mode) override { Put("BkMode", mode); }
+    void WriteText(qmath::Point anchor, std::u16string_view text) override {
+        Note("Text" + Text(anchor) + " " + Ascii(text));
+    }
+    void WriteTextAsPath(qmath::Point anchor, std::u16string_view text) override {
+        Note("TextPath" + Text(anchor) + " " + Ascii(text));
+    }
+    void SelectFont(const qsymbol::FontRequest& request) override {
+        std::string flags;
+        flags += request.bold ? 'b' : '-';
+        flags += request.italic ? 'i' : '-';
+        flags += request.underline ? 'u' : '-';
+        flags += request.strikethrough ? 's' : '-';
+        Note("Font " + std::to_string(request.height) + " " + std::to_string(request.escapement) + " " +
+             flags + " " + Ascii(request.name));
+    }
+    void ReleaseFont() noexcept override { calls.emplace_back("ReleaseFont"); }
+
+    /// The calls so far; forgets them.
+    Calls Take() {
+        Calls taken;
+        taken.swap(calls);
+        return taken;
+    }
+
+private:
+    void Note(const std::string& call) {
+        if (!failing.empty() && call.starts_with(failing))
+            base::Raise(base::RunTimeError::NoSuchMember);
+        calls.push_back(call);
+    }
+    void Put(const std::string& property, std::int32_t value) {
+        Note(property + "=" + std::to_string(value));
+    }
+    std::int32_t Get(const std::string& property, std::int32_t value) {
+        Note(property);
+        return value;
+    }
+    static std::string Text(qmath::Point point) {
+        return " (" + std::to_string(point.x) + "," + std::to_string(point.y) + ")";
+    }
+    static std::string Text(const qmath::Rect& box) {
+        return Text(qmath::Point{box.left, box.top}) + Text(qmath::Point{box.right, box.bottom});
+    }
+    static std::string Text(std::span<const qmath::Point> points) {
+        std::string text;
+        for (const qmath::Point point : points)
+            text += Text(point);
+        return text;
+    }
+    static std::string Ascii(std::u16string_view text) {
+        std::string ascii;
+        for (const char16_t unit : text)
+            ascii += static_cast<char>(unit);
+        return ascii;
+    }
+};
+
+} // namespace support

@@ -1,0 +1,222 @@
+#include "qmath/math_util.h"
+#include "support/caught.h"
+#include "unit/qsymbol/export/export_support.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <complex>
+#include <limits>
+#include <map>
+#include <random>
+#include <sstream>
+
+namespace {
+
+using export_test::Element;
+using export_test::Export;
+using export_test::Only;
+using qsymbol::ElementRecord;
+using qsymbol::ElementType;
+using qsymbol::Symbol;
+using qsymbol::SymbolPosition;
+
+/// The real values of the first entity by group code.
+std::map<int, double> Values(const std::string& bytes) {
+    std::istringstream lines(bytes);
+    std::map<int, double> values;
+    std::string code;
+    std::string value;
+    while (std::getline(lines, code) && std::getline(lines, value))
+        if (const int number = std::stoi(code); number >= 10 && number < 60)
+            values[number] = std::stod(value);
+    return values;
+}
+
+double TurnsApart(double degrees, double otherDegrees) {
+    return std::fabs(std::remainder(degrees - otherDegrees, 360));
+}
+
+ElementRecord Circle(qmath::Point centre, std::int32_t radius) {
+    ElementRecord circle = Element(ElementType::Circle, {centre});
+    circle.radius = radius;
+    return circle;
+}
+
+TEST(ArcExport, ArcOfThreePoints) {
+    ElementRecord arc = Element(ElementType::Arc, {{150, 100}, {200, 100}, {150, 50}});
+    arc.mainColor = 0x00FF00;
+    EXPECT_EQ(Export(Only(arc, 300)),
+              "0\r\nARC\r\n8\r\nSYMBOLE\r\n6\r\nCONTINUOUS\r\n62\r\n3\r\n10\r\n0.00150000000000\r\n"
+              "20\r\n0.00200000000000\r\n30\r\n0.0\r\n40\r\n0.00050000000000\r\n50\r\n0.00000000000000\r\n"
+              "51\r\n90.00000000000000\r\n");
+}
+
+TEST(ArcExport, CircleOfOnePoint) {
+    EXPECT_EQ(Export(Only(Circle({150, 100}, 50))),
+              "0\r\nARC\r\n8\r\nSYMBOLE\r\n6\r\nCONTINUOUS\r\n62\r\n7\r\n10\r\n0.00150000000000\r\n"
+              "20\r\n-0.00100000000000\r\n30\r\n0.0\r\n40\r\n0.00050000000000\r\n50\r\n0.00000000000000\r\n"
+              "51\r\n360.00000000000000\r\n");
+}
+
+TEST(ArcExport, FourPointsAsTheyStand) {
+    // Centre, a point 50 away, a start to the upper left, an end straight below.
+    const std::string expected =
+        "0\r\nARC\r\n8\r\nSYMBOLE\r\n6\r\nCONTINUOUS\r\n62\r\n7\r\n10\r\n0.00100000000000\r\n"
+        "20\r\n-0.00100000000000\r\n30\r\n0.0\r\n40\r\n0.00050000000000\r\n50\r\n135.00000000000000\r\n"
+        "51\r\n270.00000000000000\r\n";
+    for (const ElementType type : {ElementType::Arc, ElementType::Circle}) {
+        ElementRecord element = Element(type, {{100, 100}, {130, 140}, {0, 0}, {100, 900}});
+        element.radius = 777;
+        EXPECT_EQ(Export(Only(element)), expected);
+        element.points.push_back({5, 5});
+        EXPECT_EQ(Export(Only(element)), expected);
+    }
+}
+
+TEST(ArcExport, FourPointsWithEqualDirectionsAreNotCompleted) {
+    const auto values =
+        Values(Export(Only(Element(ElementType::Circle, {{0, 0}, {10, 0}, {0, -10}, {0, -10}}))));
+    EXPECT_EQ(values.at(50), 90);
+    EXPECT_EQ(values.at(51), 90);
+}
+
+TEST(ArcExport, OtherCountsOfPoints) {
+    ElementRecord circle = Circle({1, 2}, 3);
+    const std::string one = Export(Only(circle));
+    circle.points = {{1, 2}, {9, 9}};
+    EXPECT_EQ(Export(Only(circle)), one);
+    circle.points = {{1, 2}, {9, 9}, {8, 8}};
+    EXPECT_EQ(Export(Only(circle)), one);
+    circle.points.clear();
+    EXPECT_EQ(Export(Only(circle)), "");
+    EXPECT_EQ(Export(Only(Element(ElementType::Arc, {}))), "");
+    EXPECT_EQ(Export(Only(Element(ElementType::Arc, {{1, 2}}))), "");
+    EXPECT_EQ(Export(Only(Element(ElementType::Arc, {{1, 2}, {3, 4}}))), "");
+}
+
+TEST(ArcExport, AnArcWhoseEndsMeetIsAFullTurn) {
+    const auto values = Values(Export(Only(Element(ElementType::Arc, {{0, 0}, {30, 40}, {30, 40}}))));
+    EXPECT_EQ(values.at(40), 0.0005);
+    EXPECT_EQ(values.at(50), 0);
+    EXPECT_EQ(values.at(51), 360);
+}
+
+TEST(ArcExport, APointAsRadius) {
+    const auto values = Values(Export(Only(Element(ElementType::Arc, {{5, 5}, {5, 5}, {9, 5}}))));
+    EXPECT_EQ(values.at(40), 0);
+    EXPECT_EQ(values.at(50), 0);
+    EXPECT_EQ(values.at(51), 0);
+}
+
+TEST(ArcExport, NegativeRadiiAndFactors) {
+    EXPECT_EQ(Values(Export(Only(Circle({0, 0}, -50)))).at(40), 0.0005);
+    EXPECT_EQ(Values(Export(Only(Circle({0, 0}, 50)), {}, -2)).at(40), 0.001);
+}
+
+TEST(ArcExport, RadiiStayIn32Bits) {
+    const support::Caught overflow = support::Expected(base::RunTimeError::Overflow);
+    constexpr std::int32_t kMaxLong = std::numeric_limits<std::int32_t>::max();
+    EXPECT_EQ(support::CaughtFrom([&] { Export(Only(Circle({0, 0}, kMaxLong)), {}, 2); }), overflow);
+    EXPECT_EQ(support::CaughtFrom([&] { Export(Only(Circle({0, 0}, -kMaxLong - 1))); }), overflow);
+    EXPECT_EQ(support::CaughtFrom([&] {
+                  Export(Only(Element(ElementType::Arc, {{-kMaxLong, 0}, {kMaxLong, 0}, {0, 0}})));
+              }),
+              overflow);
+    EXPECT_EQ(Values(Export(Only(Circle({0, 0}, kMaxLong)))).at(40), 21474.83647);
+}
+
+/// One placed arc, worked out in the mathematician's plane (y upwards) with complex numbers.
+struct Trial {
+    std::complex<double> centre; ///< in the symbol
+    double radius;
+    double start, sweep; ///< radians
+    std::complex<double> reference, insertion;
+    double angle, factor;
+    std::int32_t etagenbreite;
+
+    static Trial Random(std::mt19937_64& random) {
+        const auto any = [&](double low, double high) {
+            return std::round(std::uniform_real_distribution(low, high)(random));
+        };
+        const auto fraction = [&](double low, double high) {
+            return std::uniform_real_distribution(low, high)(random);
+        };
+        return {.centre = {any(-2e6, 2e6), any(-2e6, 2e6)},
+                .radius = any(20000, 500000),
+                .start = fraction(0, 6.28),
+                .sweep = fraction(0.01, 6.27),
+                .reference = {any(-2e6, 2e6), any(-2e6, 2e6)},
+                .insertion = {any(-2e7, 2e7), any(-2e7, 2e7)},
+                .angle = fraction(-10, 10),
+                .factor = fraction(0.3, 4),
+                .etagenbreite = static_cast<std::int32_t>(any(-1e6, 2e7))};
+    }
+
+    static std::int32_t Whole(double value) { return static_cast<std::int32_t>(std::lround(value)); }
+    static qmath::Point Logical(std::complex<double> point) {
+        return {Whole(point.real()), Whole(-point.imag())};
+    }
+    std::complex<double> OnCircle(double direction) const { return centre + std::polar(radius, direction); }
+
+    Symbol Made(ElementType type) const {
+        ElementRecord element = Element(type, {Logical(centre)});
+        element.radius = Whole(radius);
+        if (type == ElementType::Arc) {
+            element.points.push_back(Logical(OnCircle(start)));
+            element.points.push_back(Logical(OnCircle(start + sweep)));
+        }
+        Symbol symbol = Only(element, etagenbreite);
+        symbol.refX = Logical(reference).x;
+        symbol.refY = Logical(reference).y;
+        return symbol;
+    }
+
+    std::map<int, double> Exported(ElementType type) const {
+        return Values(Export(Made(type), {.at = Logical(insertion), .angle = angle}, factor));
+    }
+
+    std::complex<double> PlacedCentre() const {
+        const std::complex<double> mirror(0, etagenbreite);
+        return insertion + std::polar(factor, angle) * (centre - reference) + mirror;
+    }
+};
+
+constexpr double kUnit = 1e-5;
+
+void ExpectCentre(const std::map<int, double>& values, const Trial& trial) {
+    EXPECT_NEAR(values.at(10), trial.PlacedCentre().real() * kUnit, 0.51 * kUnit);
+    EXPECT_NEAR(values.at(20), trial.PlacedCentre().imag() * kUnit, 0.51 * kUnit);
+}
+
+TEST(ArcExport, ScaledAndTurnedArcs) {
+    std::mt19937_64 random(11);
+    for (int i = 0; i < 2000; ++i) {
+        const Trial trial = Trial::Random(random);
+        const auto values = trial.Exported(ElementType::Arc);
+        ExpectCentre(values, trial);
+        // Each of the two points was rounded twice, once before and once after the scaling.
+        const double slack = 1.5 * (1 + trial.factor);
+        EXPECT_NEAR(values.at(40), trial.radius * trial.factor * kUnit, slack * kUnit);
+        const double slackDegrees = qmath::RadToDeg(slack / (trial.radius * trial.factor));
+        EXPECT_LT(TurnsApart(values.at(50), qmath::RadToDeg(trial.start + trial.angle)), slackDegrees);
+        EXPECT_LT(TurnsApart(values.at(51), qmath::RadToDeg(trial.start + trial.sweep + trial.angle)),
+                  slackDegrees);
+        EXPECT_GE(values.at(50), 0);
+        EXPECT_LE(values.at(51), 360);
+    }
+}
+
+TEST(ArcExport, ScaledAndTurnedCircles) {
+    std::mt19937_64 random(12);
+    for (int i = 0; i < 2000; ++i) {
+        const Trial trial = Trial::Random(random);
+        const auto values = trial.Exported(ElementType::Circle);
+        ExpectCentre(values, trial);
+        EXPECT_NEAR(values.at(40), trial.radius * trial.factor * kUnit, 0.51 * kUnit);
+        EXPECT_EQ(values.at(50), 0);
+        EXPECT_EQ(values.at(51), 360);
+    }
+}
+
+} // namespace
