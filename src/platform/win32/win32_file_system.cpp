@@ -18,6 +18,12 @@ DWORD Attributes(const std::u16string& path) {
                                                                     : GetFileAttributesW(Wide(path));
 }
 
+/// A file, not a folder, that is marked read-only.
+bool IsReadOnlyFile(DWORD attributes) {
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) == FILE_ATTRIBUTE_READONLY;
+}
+
 bool IsFolder(DWORD attributes) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
@@ -71,6 +77,9 @@ OpenFlags FlagsFor(base::OpenMode mode) {
 std::unique_ptr<base::File> Win32FileSystem::Open(const std::u16string& path, base::OpenMode mode) {
     if (path.empty() || path.find(u'\0') != std::u16string::npos)
         base::Raise(RunTimeError::BadFileName);
+    // Windows refuses this itself; Wine lets a privileged user write all the same.
+    if (mode != base::OpenMode::Read && IsReadOnlyFile(Attributes(path)))
+        base::Raise(RunTimeError::PermissionDenied);
     const OpenFlags flags = FlagsFor(mode);
     const HANDLE handle = CreateFileW(Wide(path), flags.access, flags.share, nullptr, flags.creation,
                                       FILE_ATTRIBUTE_NORMAL, nullptr);

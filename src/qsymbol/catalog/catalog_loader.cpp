@@ -43,7 +43,7 @@ bool ReadListe(std::u16string_view folder, const NameList& list, CatalogSink& si
     if (!environment.files.FolderExists(path))
         return true;
     std::vector<base::FolderEntry> entries = environment.files.ListFiles(path);
-    if (static_cast<double>(entries.size()) * 0.8 < list.count)
+    if (static_cast<double>(entries.size()) * 0.8 < list.count())
         return false;
     for (base::FolderEntry& entry : entries) {
         const bool wanted = IsBinarySymbol(entry) && list.contains(ListName(entry));

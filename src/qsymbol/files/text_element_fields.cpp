@@ -1,9 +1,8 @@
 #include "qsymbol/files/text_element_fields.h"
 
 #include "base/error.h"
+#include "qmath/math_util.h"
 #include "qsymbol/files/text_format.h"
-
-#include <numbers>
 
 namespace qsymbol {
 
@@ -21,10 +20,6 @@ std::size_t PointCount(std::int32_t count) {
     if (count <= 0)
         base::Raise(base::RunTimeError::SubscriptOutOfRange);
     return static_cast<std::size_t>(count);
-}
-
-double DegToRad(double degrees) {
-    return degrees * (std::numbers::pi / 180.0);
 }
 
 } // namespace
@@ -76,7 +71,7 @@ void TextElementFields::SetTextField(ElementRecord& element, std::string_view fi
     FontRecord& font = *element.font;
     switch (Key(field)) {
     case Key("COL"): element.mainColor = numbers_.Long(value); break;
-    case Key("ANG"): element.textAngle = DegToRad(numbers_.Decimal(value)); break;
+    case Key("ANG"): element.textAngle = qmath::DegToRad(numbers_.Decimal(value)); break;
     case Key("NAM"): font.name = codePage_.Decode(value); break;
     case Key("HEI"): font.size = numbers_.Integer(value); break;
     case Key("BOL"): font.bold = IsTrue(value); break;

@@ -1,115 +1,41 @@
 #include "qsymbol/export/colour_table.h"
 
+#include "colours/expected_colour.h"
+
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <cstdint>
 #include <limits>
-#include <map>
 
 namespace {
 
+using colours::ExpectedColour;
+using colours::Packed;
 using qsymbol::ColourOfNumber;
 using qsymbol::ColourUse;
 using qsymbol::NumberOfColour;
 
 constexpr ColourUse kBothUses[] = {ColourUse::Plan, ColourUse::SymbolEditor};
 
-std::int32_t Packed(double red, double green, double blue) {
-    return static_cast<std::int32_t>(red + 256 * green + 65536 * blue);
-}
-
-/// Hue in degrees, saturation and value through chroma, another construction than the library's.
-std::int32_t FromHsv(double hue, double saturation, double value) {
-    const double chroma = value * saturation;
-    const double position = hue / 60;
-    const double second = chroma * (1 - std::fabs(std::fmod(position, 2) - 1));
-    const double base = value - chroma;
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-    if (position < 1) {
-        red = chroma;
-        green = second;
-    } else if (position < 2) {
-        red = second;
-        green = chroma;
-    } else if (position < 3) {
-        green = chroma;
-        blue = second;
-    } else if (position < 4) {
-        green = second;
-        blue = chroma;
-    } else if (position < 5) {
-        red = second;
-        blue = chroma;
-    } else {
-        red = chroma;
-        blue = second;
-    }
-    const auto channel = [&](double part) { return std::nearbyint((part + base) * 255); };
-    return Packed(channel(red), channel(green), channel(blue));
-}
-
-/// All numbers whose colours are given one by one; worked out by hand.
-const std::map<int, std::int32_t>& Departures() {
-    static const std::map<int, std::int32_t> table = {
-        {14, Packed(0, 128, 0)},     {46, Packed(76, 65, 0)},   {69, Packed(33, 38, 191)},
-        {79, Packed(29, 38, 191)},   {89, Packed(24, 38, 191)}, {99, Packed(19, 38, 191)},
-        {101, Packed(128, 255, 64)}, {106, Packed(0, 76, 191)}, {108, Packed(0, 38, 96)},
-        {111, Packed(128, 255, 160)}};
-    return table;
-}
-
-std::int32_t Expected(int number, bool editor) {
-    const std::int32_t white = Packed(255, 255, 255);
-    switch (number) {
-    case 1: return FromHsv(0, 1, 1);
-    case 2: return FromHsv(60, 1, 1);
-    case 3: return FromHsv(120, 1, 1);
-    case 4: return FromHsv(180, 1, 1);
-    case 5: return FromHsv(240, 1, 1);
-    case 6: return FromHsv(300, 1, 1);
-    case 7:
-    case 8:
-    case 9:
-    case 255: return editor ? white : 0;
-    case 250: return editor ? 0 : Packed(88, 88, 88);
-    case 251: return Packed(118, 118, 118);
-    case 252: return Packed(152, 152, 152);
-    case 253: return Packed(187, 187, 187);
-    case 254: return Packed(192, 192, 192);
-    default: break;
-    }
-    if (number < 10 || number > 255)
-        return 0;
-    if (Departures().contains(number))
-        return Departures().at(number);
-    static constexpr double kValues[] = {1.0, 0.65, 0.5, 0.3, 0.15};
-    const int row = (number - 10) / 10;
-    const int column = number % 10;
-    return FromHsv(15.0 * row, column % 2 == 0 ? 1.0 : 0.5, kValues[column / 2]);
-}
-
 TEST(ColourTable, EveryEntryOfBothUses) {
     for (const ColourUse use : kBothUses)
         for (int number = 0; number <= 255; ++number)
-            EXPECT_EQ(ColourOfNumber(number, use), Expected(number, use == ColourUse::SymbolEditor))
+            EXPECT_EQ(ColourOfNumber(number, use), ExpectedColour(number, use == ColourUse::SymbolEditor))
                 << number << " use " << static_cast<int>(use);
 }
 
 TEST(ColourTable, TheRuleOfTheTestHoldsForGivenExamples) {
-    EXPECT_EQ(Expected(10, false), Packed(255, 0, 0));
-    EXPECT_EQ(Expected(11, false), Packed(255, 128, 128));
-    EXPECT_EQ(Expected(12, false), Packed(166, 0, 0));
-    EXPECT_EQ(Expected(13, false), Packed(166, 83, 83));
-    EXPECT_EQ(Expected(16, false), Packed(76, 0, 0));
-    EXPECT_EQ(Expected(20, false), Packed(255, 64, 0));
-    EXPECT_EQ(Expected(21, false), Packed(255, 159, 128));
-    EXPECT_EQ(Expected(24, false), Packed(128, 32, 0));
-    EXPECT_EQ(Expected(25, false), Packed(128, 80, 64));
-    EXPECT_EQ(Expected(91, false), Packed(128, 255, 128));
-    EXPECT_EQ(Expected(230, false), Packed(255, 0, 128));
+    EXPECT_EQ(ExpectedColour(10, false), Packed(255, 0, 0));
+    EXPECT_EQ(ExpectedColour(11, false), Packed(255, 128, 128));
+    EXPECT_EQ(ExpectedColour(12, false), Packed(166, 0, 0));
+    EXPECT_EQ(ExpectedColour(13, false), Packed(166, 83, 83));
+    EXPECT_EQ(ExpectedColour(16, false), Packed(76, 0, 0));
+    EXPECT_EQ(ExpectedColour(20, false), Packed(255, 64, 0));
+    EXPECT_EQ(ExpectedColour(21, false), Packed(255, 159, 128));
+    EXPECT_EQ(ExpectedColour(24, false), Packed(128, 32, 0));
+    EXPECT_EQ(ExpectedColour(25, false), Packed(128, 80, 64));
+    EXPECT_EQ(ExpectedColour(91, false), Packed(128, 255, 128));
+    EXPECT_EQ(ExpectedColour(230, false), Packed(255, 0, 128));
 }
 
 TEST(ColourTable, OtherNumbersAreBlack) {
@@ -131,9 +57,9 @@ TEST(ColourTable, ForegroundTurnsWithTheSurface) {
 TEST(NumberOfColour, IsTheFirstNumberThatASearchFinds) {
     for (int number = 0; number <= 255; ++number) {
         for (const std::int32_t offset : {0, 1, -1}) {
-            const std::int32_t colour = Expected(number, false) + offset;
+            const std::int32_t colour = ExpectedColour(number, false) + offset;
             int first = 1;
-            while (first <= 255 && Expected(first, false) != colour)
+            while (first <= 255 && ExpectedColour(first, false) != colour)
                 ++first;
             EXPECT_EQ(NumberOfColour(colour), first <= 255 ? first : 7) << number << " offset " << offset;
         }
