@@ -40,8 +40,9 @@ STDMETHODIMP CountingBox::GetIDsOfNames(REFIID /*iid*/, LPOLESTR* names, UINT /*
     return DISP_E_UNKNOWNNAME;
 }
 
-STDMETHODIMP CountingBox::Invoke(DISPID id, REFIID /*iid*/, LCID /*locale*/, WORD flags, DISPPARAMS* arguments,
-                                 VARIANT* result, EXCEPINFO* /*exception*/, UINT* /*argumentError*/) {
+STDMETHODIMP CountingBox::Invoke(DISPID id, REFIID /*iid*/, LCID /*locale*/, WORD flags,
+                                 DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* /*exception*/,
+                                 UINT* /*argumentError*/) {
     ++calls_;
     if ((flags & DISPATCH_PROPERTYPUT) != 0) {
         values_[id - 1] = V_I4(&arguments->rgvarg[0]);

@@ -6,8 +6,8 @@
 
 #include <cstdint>
 
-/// A picture box that takes every property and changes nothing, so that a benchmark sees the library's own work
-/// and the plain cost of late-bound calls. Lives on the stack; references are not counted.
+/// A picture box that takes every property and changes nothing, so that a benchmark sees the library's own
+/// work and the plain cost of late-bound calls. Lives on the stack; references are not counted.
 class CountingBox final : public IDispatch {
 public:
     explicit CountingBox(HDC context) : context_(context) {}
@@ -20,8 +20,8 @@ public:
     STDMETHODIMP GetTypeInfoCount(UINT* count) override;
     STDMETHODIMP GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) override;
     STDMETHODIMP GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override;
-    STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* result,
-                        EXCEPINFO* exception, UINT* argumentError) override;
+    STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* arguments,
+                        VARIANT* result, EXCEPINFO* exception, UINT* argumentError) override;
 
 private:
     HDC context_;

@@ -53,9 +53,11 @@ void LoadSymbols(const std::wstring& folder) {
         return;
     do {
         com::ComPtr<_CSymbol> symbol;
-        com::Check(CoCreateInstance(__uuidof(CSymbol), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CSymbol), symbol.PutVoid()));
+        com::Check(CoCreateInstance(__uuidof(CSymbol), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CSymbol),
+                                    symbol.PutVoid()));
         const std::wstring path = folder + L"\\" + found.cFileName;
-        com::Check(symbol->put_FilePath(com::Bstr({reinterpret_cast<const char16_t*>(path.data()), path.size()}).Get()));
+        com::Check(symbol->put_FilePath(
+            com::Bstr({reinterpret_cast<const char16_t*>(path.data()), path.size()}).Get()));
         com::Check(symbol->ReadFromFile());
         g_symbols.push_back(symbol);
     } while (FindNextFileW(search, &found) != FALSE);
@@ -66,11 +68,13 @@ void DrawThroughLibrary(benchmark::State& state) {
     const MemoryContext context;
     CountingBox box(context.Get());
     com::ComPtr<_CTrans> trans;
-    com::Check(CoCreateInstance(__uuidof(CTrans), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CTrans), trans.PutVoid()));
+    com::Check(CoCreateInstance(__uuidof(CTrans), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CTrans),
+                                trans.PutVoid()));
     com::Check(trans->SetScale(kPlacement.scale));
     for (auto _ : state)
         for (const com::ComPtr<_CSymbol>& symbol : g_symbols)
-            com::Check(symbol->Draw(kPlacement.x, kPlacement.y, kPlacement.angle, &box, trans.Get(), 1, 1, nullptr));
+            com::Check(
+                symbol->Draw(kPlacement.x, kPlacement.y, kPlacement.angle, &box, trans.Get(), 1, 1, nullptr));
     const auto draws = static_cast<double>(state.iterations()) * static_cast<double>(g_symbols.size());
     state.SetItemsProcessed(static_cast<std::int64_t>(draws));
     state.counters["host_calls"] = static_cast<double>(box.Calls()) / draws;
@@ -94,10 +98,12 @@ void HostPropertyCalls(benchmark::State& state) {
     const MemoryContext context;
     CountingBox counter(context.Get());
     com::ComPtr<_CTrans> trans;
-    com::Check(CoCreateInstance(__uuidof(CTrans), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CTrans), trans.PutVoid()));
+    com::Check(CoCreateInstance(__uuidof(CTrans), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CTrans),
+                                trans.PutVoid()));
     com::Check(trans->SetScale(kPlacement.scale));
     for (const com::ComPtr<_CSymbol>& symbol : g_symbols)
-        com::Check(symbol->Draw(kPlacement.x, kPlacement.y, kPlacement.angle, &counter, trans.Get(), 1, 1, nullptr));
+        com::Check(
+            symbol->Draw(kPlacement.x, kPlacement.y, kPlacement.angle, &counter, trans.Get(), 1, 1, nullptr));
     VARIANTARG value;
     V_VT(&value) = VT_I4;
     V_I4(&value) = 1;
@@ -107,7 +113,8 @@ void HostPropertyCalls(benchmark::State& state) {
     IDispatch* volatile host = &box;
     for (auto _ : state)
         for (std::int64_t i = 0; i < counter.Calls(); ++i)
-            host->Invoke(4, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments, nullptr, nullptr, nullptr);
+            host->Invoke(4, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments, nullptr, nullptr,
+                         nullptr);
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(g_symbols.size()));
 }
 BENCHMARK(HostPropertyCalls)->Unit(benchmark::kMillisecond);

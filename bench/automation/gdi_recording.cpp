@@ -52,8 +52,8 @@ LOGFONTW FontOf(_CSymElement& element, const GdiRecording::Placement& placement,
 
 std::string AnsiText(BSTR text) {
     char bytes[512];
-    const int length = WideCharToMultiByte(CP_ACP, 0, text, static_cast<int>(SysStringLen(text)), bytes, sizeof bytes,
-                                           nullptr, nullptr);
+    const int length = WideCharToMultiByte(CP_ACP, 0, text, static_cast<int>(SysStringLen(text)), bytes,
+                                           sizeof bytes, nullptr, nullptr);
     return std::string(bytes, static_cast<std::size_t>(length));
 }
 
@@ -138,7 +138,8 @@ void GdiRecording::Play(HDC context) const {
             SetBkMode(context, call.bkMode);
             const HFONT font = CreateFontIndirectW(&call.font);
             const HGDIOBJ previous = SelectObject(context, font);
-            TextOutA(context, call.points[0].x, call.points[0].y, call.text.data(), static_cast<int>(call.text.size()));
+            TextOutA(context, call.points[0].x, call.points[0].y, call.text.data(),
+                     static_cast<int>(call.text.size()));
             SelectObject(context, previous);
             DeleteObject(font);
             break;

@@ -25,7 +25,8 @@ struct FolderEntry {
 /// Seam: the file system. Paths are UTF-16 with the platform's separators.
 ///
 /// Errors of Open: 53 no such file, 76 no such folder, 70 access denied or in use, 75 a folder or
-/// another thing that is no file, 52 a name that no file can have, 61 disk full, 57 any other failure.
+/// another thing that is no file (when it is opened to be read perhaps only on its first Read), 52 a name
+/// that no file can have, 61 disk full, 57 any other failure.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;

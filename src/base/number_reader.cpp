@@ -2,10 +2,10 @@
 
 #include "base/checked.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <string>
 
 namespace base {
 
@@ -14,8 +14,11 @@ namespace {
 constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                  1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                                  1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+/// An exponent beyond this is not read further; no text is long enough to make up for it.
+constexpr std::int64_t kFarExponent = 100'000'000'000;
 constexpr int kExactDigits = 15;
-constexpr int kMaxDigits = 400;
+/// More than any double, or the middle between two of them, has in decimal.
+constexpr int kMaxDigits = 800;
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -39,15 +42,18 @@ public:
             return;
         if (count_ < kExactDigits)
             value_ = value_ * 10 + static_cast<std::uint64_t>(digit - '0');
-        if (count_ < kMaxDigits)
+        if (count_ < kMaxDigits) {
             digits_[static_cast<std::size_t>(count_)] = digit;
-        else
-            ++exponent_; // beyond any double's precision: only the magnitude counts
-        if (count_ < kMaxDigits)
             ++count_;
+            return;
+        }
+        // Only the magnitude counts here, and that the number is a little larger than its first digits say.
+        ++exponent_;
+        if (digit != '0')
+            digits_[kMaxDigits - 1] = '1';
     }
 
-    double Value(int exponent) const {
+    double Value(std::int64_t exponent) const {
         if (count_ == 0)
             return 0.0;
         exponent += exponent_;
@@ -56,11 +62,12 @@ public:
             const double power = kPowersOfTen[static_cast<std::size_t>(exponent < 0 ? -exponent : exponent)];
             return exponent < 0 ? exact / power : exact * power;
         }
-        std::string text(digits_.data(), static_cast<std::size_t>(count_));
-        text += 'e';
-        text += std::to_string(exponent);
+        std::array<char, kMaxDigits + 24> text; // NOLINT: only what is written is read
+        char* at = std::copy_n(digits_.data(), count_, text.data());
+        *at++ = 'e';
+        at = std::to_chars(at, text.data() + text.size(), exponent).ptr;
         double value = 0;
-        const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+        const auto result = std::from_chars(text.data(), at, value);
         if (result.ec == std::errc::result_out_of_range)
             return exponent + count_ > 0 ? HUGE_VAL : 0.0;
         return value;
@@ -69,7 +76,7 @@ public:
 private:
     std::uint64_t value_ = 0;
     int count_ = 0;
-    int exponent_ = 0;
+    std::int64_t exponent_ = 0;
     std::array<char, kMaxDigits> digits_; // NOLINT: only the first count_ are ever read
 };
 
@@ -110,7 +117,7 @@ std::optional<double> NumberReader::TryPlain(std::string_view text) const {
     }
     if (!any)
         return std::nullopt;
-    int exponent = 0;
+    std::int64_t exponent = 0;
     if (at != end && (*at == 'e' || *at == 'E')) {
         ++at;
         const bool down = at != end && *at == '-';
@@ -118,7 +125,7 @@ std::optional<double> NumberReader::TryPlain(std::string_view text) const {
             ++at;
         const char* const first = at;
         for (; at != end && IsDigit(*at); ++at)
-            exponent = exponent < 10000 ? exponent * 10 + (*at - '0') : exponent;
+            exponent = exponent < kFarExponent ? exponent * 10 + (*at - '0') : exponent;
         if (at == first)
             return std::nullopt;
         exponent = down ? -exponent : exponent;
@@ -129,48 +136,7 @@ std::optional<double> NumberReader::TryPlain(std::string_view text) const {
     return negative ? -value : value;
 }
 
-bool NumberReader::ScanFixed(std::string_view text, FixedPoint& number) const {
-    if (text.empty() || text.size() > kExactDigits)
-        return false;
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    number.negative = *at == '-';
-    at += number.negative ? 1 : 0;
-    std::int64_t digits = 0;
-    const char* const first = at;
-    for (; at != end && IsDigit(*at); ++at)
-        digits = digits * 10 + (*at - '0');
-    number.decimals = 0;
-    if (at != end) {
-        if (at == first || static_cast<unsigned char>(*at) != decimal_)
-            return false;
-        const char* const fraction = ++at;
-        for (; at != end && IsDigit(*at); ++at)
-            digits = digits * 10 + (*at - '0');
-        number.decimals = static_cast<int>(at - fraction);
-    }
-    number.digits = digits;
-    return at == end && at != first;
-}
-
-double NumberReader::ValueOf(const FixedPoint& number) {
-    const double value =
-        static_cast<double>(number.digits) / kPowersOfTen[static_cast<std::size_t>(number.decimals)];
-    return number.negative ? -value : value;
-}
-
-std::optional<std::int32_t> NumberReader::FewDecimals(const FixedPoint& number) {
-    constexpr std::array<std::int64_t, 3> kFactor = {100, 10, 1};
-    if (number.decimals > 2)
-        return std::nullopt;
-    const std::int64_t magnitude = number.digits * kFactor[static_cast<std::size_t>(number.decimals)];
-    return Narrow<std::int32_t>(number.negative ? -magnitude : magnitude);
-}
-
 std::optional<double> NumberReader::Parse(std::string_view text) const {
-    FixedPoint number;
-    if (ScanFixed(text, number))
-        return ValueOf(number);
     const std::optional<double> plain = TryPlain(text);
     if (plain || settings_.systemParse == nullptr)
         return plain;
@@ -191,27 +157,17 @@ double NumberReader::Decimal(std::string_view text) const {
     return *value;
 }
 
-std::int32_t NumberReader::Hundredths(std::string_view text) const {
-    FixedPoint number;
-    if (ScanFixed(text, number))
-        if (const std::optional<std::int32_t> exact = FewDecimals(number))
-            return *exact;
+std::int32_t NumberReader::AnyHundredths(std::string_view text) const {
     return RoundToLong(Decimal(text) * 100.0);
 }
 
-std::int32_t NumberReader::HundredthsOrZero(std::string_view text) const {
-    FixedPoint number;
-    if (ScanFixed(text, number))
-        if (const std::optional<std::int32_t> exact = FewDecimals(number))
-            return *exact;
+std::int32_t NumberReader::AnyHundredthsOrZero(std::string_view text) const {
     return RoundToLong(TryDecimal(text).value_or(0.0) * 100.0);
 }
 
 std::int32_t NumberReader::Long(std::string_view text) const {
-    FixedPoint number;
-    if (ScanFixed(text, number) && number.decimals == 0)
-        return Narrow<std::int32_t>(number.negative ? -number.digits : number.digits);
-    return RoundToLong(Decimal(text));
+    const std::int64_t digits = DigitsValue(text.data(), text.size());
+    return digits >= 0 ? static_cast<std::int32_t>(digits) : RoundToLong(Decimal(text));
 }
 
 std::int16_t NumberReader::Integer(std::string_view text) const {

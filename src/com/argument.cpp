@@ -24,9 +24,10 @@ IUnknown* ObjectOf(const VARIANTARG& value) {
 }
 
 HRESULT ConvertObject(const DispatchParameter& parameter, VARIANTARG* from, VARIANT* to) {
-    if (!IsObject(V_VT(from) & VT_TYPEMASK))
+    // Null is how JScript says Nothing.
+    if (V_VT(from) != VT_NULL && !IsObject(V_VT(from) & VT_TYPEMASK))
         return DISP_E_TYPEMISMATCH;
-    IUnknown* const object = ObjectOf(*from);
+    IUnknown* const object = V_VT(from) == VT_NULL ? nullptr : ObjectOf(*from);
     void* wanted = nullptr;
     if (object != nullptr && FAILED(object->QueryInterface(parameter.iid, &wanted)))
         return DISP_E_TYPEMISMATCH;

@@ -54,8 +54,10 @@ std::string_view GetToken(std::string_view text, std::string_view separator, std
 }
 
 std::u16string_view FileNamePart(std::u16string_view path) {
-    const std::size_t at = path.find_last_of(u"\\/:");
-    return at == std::u16string_view::npos ? path : path.substr(at + 1);
+    std::size_t start = path.size();
+    while (start > 0 && path[start - 1] != u'\\' && path[start - 1] != u'/' && path[start - 1] != u':')
+        --start;
+    return path.substr(start);
 }
 
 std::u16string_view NameWithoutExtension(std::u16string_view fileName) {

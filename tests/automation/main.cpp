@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <objbase.h>
 
+#include <cstdio>
+
 namespace {
 
 /// Registers both DLLs beside the program for the whole run and checks at its end that nothing of them lives.
@@ -22,9 +24,18 @@ public:
     }
 };
 
+/// A crash ends the run at once; without this a debugger window could hold it for ever.
+LONG WINAPI EndOnCrash(EXCEPTION_POINTERS* exception) {
+    std::printf("Crashed with exception 0x%08lX\n", exception->ExceptionRecord->ExceptionCode);
+    std::fflush(stdout);
+    TerminateProcess(GetCurrentProcess(), 3);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
+    SetUnhandledExceptionFilter(EndOnCrash);
     testing::InitGoogleMock(&argc, argv);
     if (FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)))
         return 2;

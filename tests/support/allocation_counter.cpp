@@ -1,5 +1,6 @@
 #include "support/allocation_counter.h"
 
+#include <cstdint>
 #include <cstdlib>
 #include <malloc.h>
 #include <new>
@@ -9,12 +10,32 @@ namespace {
 std::size_t heldNow = 0;
 std::size_t heldPeak = 0;
 std::size_t blockCount = 0;
+std::size_t totalBytes = 0;
+
+constexpr std::size_t kNever = SIZE_MAX;
+std::size_t blocksBeforeFailure = kNever;
+
+/// True for the one block that is to fail.
+bool FailsNow() {
+    if (blocksBeforeFailure == kNever)
+        return false;
+    if (blocksBeforeFailure > 0) {
+        --blocksBeforeFailure;
+        return false;
+    }
+    blocksBeforeFailure = kNever;
+    return true;
+}
 
 void* Take(std::size_t size) {
+    if (FailsNow())
+        return nullptr;
     return std::malloc(size != 0 ? size : 1);
 }
 
 void* Take(std::size_t size, std::align_val_t alignment) {
+    if (FailsNow())
+        return nullptr;
     const auto step = static_cast<std::size_t>(alignment);
     return std::aligned_alloc(step, (size + step - 1) / step * step);
 }
@@ -23,6 +44,7 @@ void* CountedOrNull(void* block) noexcept {
     if (block == nullptr)
         return nullptr;
     heldNow += malloc_usable_size(block);
+    totalBytes += malloc_usable_size(block);
     heldPeak = heldNow > heldPeak ? heldNow : heldPeak;
     ++blockCount;
     return block;
@@ -94,7 +116,7 @@ void operator delete[](void* block, std::size_t, std::align_val_t) noexcept {
 
 namespace support {
 
-AllocationCounter::AllocationCounter() : held_(heldNow), blocks_(blockCount) {
+AllocationCounter::AllocationCounter() : held_(heldNow), blocks_(blockCount), total_(totalBytes) {
     heldPeak = heldNow;
 }
 
@@ -104,6 +126,26 @@ std::size_t AllocationCounter::Peak() const {
 
 std::size_t AllocationCounter::Blocks() const {
     return blockCount - blocks_;
+}
+
+std::size_t AllocationCounter::Total() const {
+    return totalBytes - total_;
+}
+
+bool AllocationCounter::AllGivenBack() const {
+    return heldNow == held_;
+}
+
+AllocationFailure::AllocationFailure(std::size_t blocksBefore) {
+    blocksBeforeFailure = blocksBefore;
+}
+
+AllocationFailure::~AllocationFailure() {
+    blocksBeforeFailure = kNever;
+}
+
+bool AllocationFailure::Happened() const {
+    return blocksBeforeFailure == kNever;
 }
 
 } // namespace support

@@ -17,9 +17,13 @@ public:
     MemoryFile& operator=(const MemoryFile&) = delete;
     ~MemoryFile() override { Shut(); }
 
-    std::uint64_t Size() override { return system_.announcedSize.value_or(bytes_.size()); }
+    std::uint64_t Size() override {
+        system_.Step();
+        return system_.announcedSize.value_or(bytes_.size());
+    }
 
     std::size_t Read(char* buffer, std::size_t count) override {
+        system_.Step();
         if (system_.readError)
             base::Raise(*system_.readError);
         const std::size_t got = std::min({count, bytes_.size() - position_, system_.readAtMost});
@@ -29,6 +33,7 @@ public:
     }
 
     void Write(const char* bytes, std::size_t count) override {
+        system_.Step();
         const std::size_t put = system_.writeError ? std::min(count, system_.writeBeforeError) : count;
         bytes_.resize(std::max(bytes_.size(), position_ + put));
         std::copy_n(bytes, put, bytes_.data() + position_);
@@ -39,6 +44,7 @@ public:
 
     void Close() override {
         Shut();
+        system_.Step();
         if (system_.closeError)
             base::Raise(*system_.closeError);
     }
@@ -62,9 +68,15 @@ std::u16string FolderOf(const std::u16string& path) {
 
 } // namespace
 
+void MemoryFileSystem::Step() {
+    if (steps++ == failingStep)
+        base::Raise(stepError);
+}
+
 std::unique_ptr<base::File> MemoryFileSystem::Open(const std::u16string& path, base::OpenMode mode) {
     if (onOpen)
         onOpen();
+    Step();
     if (openError)
         base::Raise(*openError);
     if (!folders.contains(FolderOf(path)))

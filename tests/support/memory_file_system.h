@@ -27,11 +27,20 @@ public:
     std::size_t readAtMost = SIZE_MAX;          ///< bytes that one Read gives
     std::size_t writeBeforeError = 0;           ///< bytes that still arrive when writeError is set
     std::optional<std::uint64_t> announcedSize; ///< what Size says instead of the truth
-    std::function<void()> onOpen;               ///< called before every Open
+    /// The operation on the file system or a file that fails, counted from 0 (Open, Size, Read, Write, Close,
+    /// as they come), and what it fails with.
+    std::optional<int> failingStep;
+    base::RunTimeError stepError = base::RunTimeError::DeviceIo;
+    int steps = 0; ///< operations so far
+
+    std::function<void()> onOpen; ///< called before every Open
 
     int opened = 0;      ///< files opened so far
     int openNow = 0;     ///< files open at the moment
     int existsAsked = 0; ///< questions whether a file exists
+
+    /// Counts an operation and lets it fail when it is its turn.
+    void Step();
 
     std::unique_ptr<base::File> Open(const std::u16string& path, base::OpenMode mode) override;
     bool FileExists(const std::u16string& path) override;

@@ -23,11 +23,17 @@ STDMETHODIMP CTrans::WorldToScreen(LONG* x, LONG* y) {
 }
 
 STDMETHODIMP CTrans::PtWorldToScreen(_CPt** pt) {
-    return Do([&] { SetPoint(com::Out(pt), transform_.WorldToScreen(GetPoint(*pt))); });
+    return Do([&] {
+        _CPt* const point = com::Out(pt);
+        SetPoint(point, transform_.WorldToScreen(GetPoint(point)));
+    });
 }
 
 STDMETHODIMP CTrans::LengthToScreen(LONG* length) {
-    return Do([&] { com::Out(length) = transform_.LengthToScreen(com::Out(length)); });
+    return Do([&] {
+        LONG& value = com::Out(length);
+        value = transform_.LengthToScreen(value);
+    });
 }
 
 STDMETHODIMP CTrans::FontSizeToScreen(double factor, SHORT size, LONG* value) {
@@ -35,7 +41,10 @@ STDMETHODIMP CTrans::FontSizeToScreen(double factor, SHORT size, LONG* value) {
 }
 
 STDMETHODIMP CTrans::PtScreenToWorld(_CPt** pt) {
-    return Do([&] { SetPoint(com::Out(pt), transform_.ScreenToWorld(GetPoint(*pt))); });
+    return Do([&] {
+        _CPt* const point = com::Out(pt);
+        SetPoint(point, transform_.ScreenToWorld(GetPoint(point)));
+    });
 }
 
 STDMETHODIMP CTrans::get_Scale(double* value) {

@@ -1,10 +1,23 @@
 #include "automation/qsymbol/CSymElementColl.h"
 
+#include "automation/qsymbol/CSymElement.h"
 #include "automation/qsymbol/element_access.h"
 #include "automation/qsymbol/host_surface.h"
 #include "automation/qsymbol/host_transformation.h"
 #include "automation/qsymbol/object_list.h"
 #include "qsymbol/draw/element_drawing.h"
+#include "qsymbol/draw/surface_constants.h"
+
+#include <algorithm>
+
+namespace {
+
+bool IsOwn(const com::ComPtr<_CSymElement>& element) {
+    com::ComPtr<CSymElement> own;
+    return SUCCEEDED(element->QueryInterface(__uuidof(CSymElement), own.PutVoid()));
+}
+
+} // namespace
 
 STDMETHODIMP CSymElementColl::get_Count(LONG* value) {
     return Return(value, [&] { return elements_.Count(); });
@@ -37,13 +50,20 @@ STDMETHODIMP CSymElementColl::RemoveOnPos(LONG lPos) {
 
 STDMETHODIMP CSymElementColl::Draw(IDispatch* ctrl, _CTrans* Trans) {
     return Do([&] {
-        if (ctrl == nullptr || Trans == nullptr || elements_.Count() == 0)
+        if (ctrl == nullptr || elements_.Count() == 0)
             return;
         HostSurface surface(*ctrl);
         const Elements elements = Snapshot();
-        qsymbol::DrawElements(
-            elements.size(), [&](std::size_t i) { return ToDrawing(*elements[i].Get()); }, surface,
-            HostTransformation(*Trans));
+        if (Trans != nullptr && std::all_of(elements.begin(), elements.end(), IsOwn)) {
+            qsymbol::DrawElements(
+                elements.size(), [&](std::size_t i) { return ToDrawing(*elements[i].Get()); }, surface,
+                HostTransformation(*Trans));
+            return;
+        }
+        // An element of the host's own making may draw as it likes.
+        surface.PutDrawMode(qsymbol::kDrawModeCopy);
+        for (const com::ComPtr<_CSymElement>& element : elements)
+            com::Check(element->Draw(ctrl, Trans));
     });
 }
 
@@ -54,7 +74,8 @@ STDMETHODIMP CSymElementColl::DrawTracker(IDispatch* ctrl, _CTrans* Trans) {
     });
 }
 
-STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* Trans, LONG lScreenX, LONG lScreenY, _CSymElement** value) {
+STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* Trans, LONG lScreenX, LONG lScreenY,
+                                           _CSymElement** value) {
     return Return(value, [&]() -> _CSymElement* {
         Elements elements = Snapshot();
         for (auto element = elements.rbegin(); element != elements.rend(); ++element) {
@@ -67,7 +88,8 @@ STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* Trans, LONG lScreenX, LONG l
     });
 }
 
-STDMETHODIMP CSymElementColl::ObjIdentByRect(_CTrans* Trans, _CRect** ScreenIdentRect, _CSymElementColl** value) {
+STDMETHODIMP CSymElementColl::ObjIdentByRect(_CTrans* Trans, _CRect** ScreenIdentRect,
+                                             _CSymElementColl** value) {
     return Return(value, [&]() -> _CSymElementColl* {
         com::ComPtr<CSymElementColl> found;
         for (const com::ComPtr<_CSymElement>& element : Snapshot()) {

@@ -82,8 +82,8 @@ STDMETHODIMP CSymbolColl::RemoveOnIndex(BSTR stName) {
 
 STDMETHODIMP CSymbolColl::ReadListe(BSTR stFolderPath, IDispatch* collSym, VARIANT_BOOL* value) {
     return Return(value, [&] {
-        const bool loaded = qsymbol::ReadListe(com::View(stFolderPath), NameListOf(com::Required(collSym)),
-                                               *this, library::FileEnvironmentNow());
+        const bool loaded = qsymbol::ReadListe(com::View(stFolderPath), NameListOf(collSym), *this,
+                                               library::FileEnvironmentNow());
         return loaded ? VARIANT_TRUE : VARIANT_FALSE;
     });
 }

@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "com/bstr.h"
+#include "com/error_info.h"
 #include "com/late_bound.h"
 
 namespace {
@@ -37,12 +38,13 @@ bool HasItem(IDispatch& collection, const std::u16string& name) {
 
 } // namespace
 
-qsymbol::NameList NameListOf(IDispatch& collection) {
-    qsymbol::NameList list;
-    list.count = com::LateBoundMember(collection, L"Count").GetLong();
-    const bool canBeAsked = com::LateBoundMember(collection, L"Exists").Exists();
-    list.contains = [&collection, canBeAsked](const std::u16string& name) {
-        return canBeAsked ? Exists(collection, name) : HasItem(collection, name);
-    };
-    return list;
+qsymbol::NameList NameListOf(IDispatch* collection) {
+    return {
+        .count = [collection] { return com::LateBoundMember(com::Required(collection), L"Count").GetLong(); },
+        .contains =
+            [collection](const std::u16string& name) {
+                IDispatch& list = com::Required(collection);
+                const bool canBeAsked = com::LateBoundMember(list, L"Exists").Exists();
+                return canBeAsked ? Exists(list, name) : HasItem(list, name);
+            }};
 }

@@ -13,10 +13,16 @@ locale_t UnicodeLocale() {
     return locale;
 }
 
+/// The text with the ASCII letters from `first` on moved by `step`, and all beyond ASCII as the tables say.
 template <class Map>
-std::u16string Mapped(std::u16string_view text, Map map) {
+std::u16string Mapped(std::u16string_view text, char16_t first, int step, Map map) {
     std::u16string result(text);
     for (char16_t& unit : result) {
+        if (unit < 0x80) {
+            if (unit >= first && unit < first + 26)
+                unit = static_cast<char16_t>(unit + step);
+            continue;
+        }
         if ((unit & 0xF800) == 0xD800)
             continue;
         const auto mapped = map(static_cast<wint_t>(unit), UnicodeLocale());
@@ -29,11 +35,11 @@ std::u16string Mapped(std::u16string_view text, Map map) {
 } // namespace
 
 std::u16string UpperCase(std::u16string_view text) {
-    return Mapped(text, towupper_l);
+    return Mapped(text, u'a', u'A' - u'a', towupper_l);
 }
 
 std::u16string LowerCase(std::u16string_view text) {
-    return Mapped(text, towlower_l);
+    return Mapped(text, u'A', u'a' - u'A', towlower_l);
 }
 
 } // namespace base

@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace platform {
 
@@ -49,6 +50,8 @@ std::string ParentFolder(const std::string& path) {
 }
 
 [[noreturn]] void RaiseTransferFailure(int error) {
+    if (error == EISDIR)
+        base::Raise(RunTimeError::PathFileAccess);
     base::Raise(error == ENOSPC || error == EDQUOT || error == EFBIG ? RunTimeError::DiskFull
                                                                      : RunTimeError::DeviceIo);
 }
@@ -65,7 +68,7 @@ int OpenFlags(base::OpenMode mode) {
 
 class PosixFile final : public base::File {
 public:
-    PosixFile(int handle, std::uint64_t size) : handle_(handle), size_(size) {}
+    explicit PosixFile(int handle) : handle_(handle) {}
     PosixFile(const PosixFile&) = delete;
     PosixFile& operator=(const PosixFile&) = delete;
     ~PosixFile() override {
@@ -73,11 +76,7 @@ public:
             close(handle_);
     }
 
-    /// The size that was seen on opening, so that a small file costs one question to the system; asked again
-    /// once something was written.
     std::uint64_t Size() override {
-        if (!written_)
-            return size_;
         struct stat info {};
         if (fstat(handle_, &info) != 0)
             RaiseTransferFailure(errno);
@@ -95,7 +94,6 @@ public:
     }
 
     void Write(const char* bytes, std::size_t count) override {
-        written_ = true;
         while (count > 0) {
             const ssize_t put = write(handle_, bytes, count);
             if (put < 0 && errno == EINTR)
@@ -116,27 +114,24 @@ public:
 
 private:
     int handle_;
-    std::uint64_t size_;
-    bool written_ = false;
 };
 
 } // namespace
 
 std::unique_ptr<base::File> PosixFileSystem::Open(const std::u16string& path, base::OpenMode mode) {
+    if (mode == base::OpenMode::Read) {
+        const int handle = listed_.OpenToRead(path);
+        if (handle >= 0)
+            return std::make_unique<PosixFile>(handle);
+    }
     const std::string name = ToUtf8(path);
     if (name.find('\0') != std::string::npos)
         base::Raise(RunTimeError::BadFileName);
-    const int handle = open(name.c_str(), OpenFlags(mode) | O_CLOEXEC, 0666);
+    // A pipe under that name must not hold the program until somebody opens its other end.
+    const int handle = open(name.c_str(), OpenFlags(mode) | O_CLOEXEC | O_NONBLOCK, 0666);
     if (handle < 0)
         RaiseOpenFailure(errno, name);
-    struct stat info {};
-    const int failure = fstat(handle, &info) == 0 ? 0 : errno;
-    auto file = std::make_unique<PosixFile>(handle, static_cast<std::uint64_t>(info.st_size));
-    if (failure != 0)
-        RaiseTransferFailure(failure);
-    if (S_ISDIR(info.st_mode))
-        base::Raise(RunTimeError::PathFileAccess);
-    return file;
+    return std::make_unique<PosixFile>(handle);
 }
 
 bool PosixFileSystem::FileExists(const std::u16string& path) {
@@ -150,16 +145,19 @@ bool PosixFileSystem::FolderExists(const std::u16string& path) {
 
 std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& folder) {
     const std::string name = ToUtf8(folder);
-    const std::unique_ptr<DIR, int (*)(DIR*)> handle(opendir(name.c_str()), closedir);
-    if (!handle)
+    const std::u16string prefix = folder + u"/";
+    DIR* const handle = opendir(name.c_str());
+    if (handle == nullptr)
         base::Raise(RunTimeError::PathNotFound);
+    listed_.Keep(handle, prefix);
     std::vector<base::FolderEntry> entries;
-    while (const dirent* entry = readdir(handle.get())) {
-        const std::string path = name + "/" + entry->d_name;
-        const bool folderEntry =
-            entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK ? IsFolder(path) : entry->d_type == DT_DIR;
-        if (!folderEntry)
-            entries.push_back({FromUtf8(entry->d_name), FromUtf8(path)});
+    while (const dirent* entry = readdir(handle)) {
+        const bool unclear = entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK;
+        if (unclear ? IsFolder(name + "/" + entry->d_name) : entry->d_type == DT_DIR)
+            continue;
+        std::u16string fileName = FromUtf8(entry->d_name);
+        std::u16string path = prefix + fileName;
+        entries.push_back({std::move(fileName), std::move(path)});
     }
     return entries;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/file_system.h"
+#include "platform/posix/listed_folder.h"
 
 namespace platform {
 
@@ -11,6 +12,9 @@ public:
     bool FileExists(const std::u16string& path) override;
     bool FolderExists(const std::u16string& path) override;
     std::vector<base::FolderEntry> ListFiles(const std::u16string& folder) override;
+
+private:
+    ListedFolder listed_;
 };
 
 } // namespace platform

@@ -55,9 +55,13 @@ char32_t NextCharacter(std::string_view bytes, std::size_t& at) {
 } // namespace
 
 std::string ToUtf8(std::u16string_view text) {
-    std::string out;
-    out.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
+    std::string out(text.size(), '\0');
+    // Most paths are plain ASCII up to their end, or nearly so.
+    std::size_t plain = 0;
+    for (; plain < text.size() && text[plain] < 0x80; ++plain)
+        out[plain] = static_cast<char>(text[plain]);
+    out.resize(plain);
+    for (std::size_t i = plain; i < text.size(); ++i) {
         const char16_t unit = text[i];
         if ((unit & 0xF800) != 0xD800) {
             AppendUtf8(out, unit);
@@ -72,9 +76,12 @@ std::string ToUtf8(std::u16string_view text) {
 }
 
 std::u16string FromUtf8(std::string_view bytes) {
-    std::u16string out;
-    out.reserve(bytes.size());
-    for (std::size_t at = 0; at < bytes.size();) {
+    std::u16string out(bytes.size(), u'\0');
+    std::size_t plain = 0;
+    for (; plain < bytes.size() && static_cast<unsigned char>(bytes[plain]) < 0x80; ++plain)
+        out[plain] = static_cast<char16_t>(bytes[plain]);
+    out.resize(plain);
+    for (std::size_t at = plain; at < bytes.size();) {
         const char32_t c = NextCharacter(bytes, at);
         if (c < 0x10000) {
             out += static_cast<char16_t>(c);

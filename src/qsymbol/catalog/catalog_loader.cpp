@@ -31,8 +31,9 @@ void ReadKatalog(std::u16string_view folder, CatalogSink& sink, const FileEnviro
     const std::u16string path = WithoutTrailingSeparator(folder);
     if (!environment.files.FolderExists(path))
         return;
-    for (const base::FolderEntry& entry : environment.files.ListFiles(path))
-        if (IsBinarySymbol(entry) && !LoadSymbolFile(entry.path, sink, environment))
+    std::vector<base::FolderEntry> entries = environment.files.ListFiles(path);
+    for (base::FolderEntry& entry : entries)
+        if (IsBinarySymbol(entry) && !LoadSymbolFile(std::move(entry.path), sink, environment))
             return;
 }
 
@@ -41,12 +42,12 @@ bool ReadListe(std::u16string_view folder, const NameList& list, CatalogSink& si
     const std::u16string path = WithoutTrailingSeparator(folder);
     if (!environment.files.FolderExists(path))
         return true;
-    const std::vector<base::FolderEntry> entries = environment.files.ListFiles(path);
-    if (static_cast<double>(entries.size()) * 0.8 < list.count)
+    std::vector<base::FolderEntry> entries = environment.files.ListFiles(path);
+    if (static_cast<double>(entries.size()) * 0.8 < list.count())
         return false;
-    for (const base::FolderEntry& entry : entries) {
+    for (base::FolderEntry& entry : entries) {
         const bool wanted = IsBinarySymbol(entry) && list.contains(ListName(entry));
-        if (wanted && !LoadSymbolFile(entry.path, sink, environment))
+        if (wanted && !LoadSymbolFile(std::move(entry.path), sink, environment))
             break;
     }
     return true;

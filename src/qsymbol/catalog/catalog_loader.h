@@ -14,9 +14,10 @@ namespace qsymbol {
 /// A file that fails is shown to the user, who aborts, retries or ignores it; other errors are thrown.
 void ReadKatalog(std::u16string_view folder, CatalogSink& sink, const FileEnvironment& environment);
 
-/// The host's list of names: how many there are, and whether a name (upper case) is one of them.
+/// The host's list of names: how many there are, and whether a name (upper case) is one of them. Both ask the
+/// host, so they are called only when the answer counts.
 struct NameList {
-    std::int32_t count = 0;
+    std::function<std::int32_t()> count;
     std::function<bool(const std::u16string& name)> contains;
 };
 

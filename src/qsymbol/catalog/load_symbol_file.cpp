@@ -37,17 +37,18 @@ std::u16string FailureMessage(const std::u16string& path, const std::u16string& 
 
 } // namespace
 
-bool LoadSymbolFile(const std::u16string& path, CatalogSink& sink, const FileEnvironment& environment) {
+bool LoadSymbolFile(std::u16string path, CatalogSink& sink, const FileEnvironment& environment) {
+    Symbol symbol;
+    symbol.filePath = std::move(path);
     for (;;) {
-        Symbol symbol;
-        symbol.filePath = path;
         const std::optional<std::u16string> failure = TryRead(symbol, environment);
         if (!failure) {
             sink.Add(std::move(symbol));
             return true;
         }
-        symbol = Symbol(); // gives its memory back before the user takes his time
-        switch (environment.prompt.AskAbortRetryIgnore(FailureMessage(path, *failure, environment.strings))) {
+        ResetContent(symbol); // gives its memory back before the user takes his time
+        switch (environment.prompt.AskAbortRetryIgnore(
+            FailureMessage(symbol.filePath, *failure, environment.strings))) {
         case FailureChoice::Abort: return false;
         case FailureChoice::Retry: break;
         case FailureChoice::Ignore: return true;

@@ -11,6 +11,6 @@ namespace qsymbol {
 ///
 /// A file that does not read is shown to the user: Abort gives false, Retry reads it again, Ignore gives
 /// true. Errors of the collection (457) are thrown.
-bool LoadSymbolFile(const std::u16string& path, CatalogSink& sink, const FileEnvironment& environment);
+bool LoadSymbolFile(std::u16string path, CatalogSink& sink, const FileEnvironment& environment);
 
 } // namespace qsymbol

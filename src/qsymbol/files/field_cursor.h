@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 #include <string_view>
 
 namespace qsymbol {
@@ -17,12 +18,12 @@ public:
             field = {};
             return false;
         }
-        const char* const start = at_;
-        while (at_ != end_ && *at_ != separator_)
-            ++at_;
-        field = {start, static_cast<std::size_t>(at_ - start)};
-        done_ = at_ == end_;
-        at_ += done_ ? 0 : 1;
+        const auto left = static_cast<std::size_t>(end_ - at_);
+        const void* const found = left != 0 ? std::memchr(at_, separator_, left) : nullptr;
+        done_ = found == nullptr;
+        const char* const stop = done_ ? end_ : static_cast<const char*>(found);
+        field = {at_, static_cast<std::size_t>(stop - at_)};
+        at_ = done_ ? end_ : stop + 1;
         return true;
     }
 

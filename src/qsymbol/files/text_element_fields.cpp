@@ -1,9 +1,8 @@
 #include "qsymbol/files/text_element_fields.h"
 
 #include "base/error.h"
+#include "qmath/math_util.h"
 #include "qsymbol/files/text_format.h"
-
-#include <numbers>
 
 namespace qsymbol {
 
@@ -16,28 +15,30 @@ bool IsTrue(std::string_view value) {
     return value == text_format::kTrue;
 }
 
-double DegToRad(double degrees) {
-    return degrees * (std::numbers::pi / 180.0);
+/// Error 9 for a count that makes no list.
+std::size_t PointCount(std::int32_t count) {
+    if (count <= 0)
+        base::Raise(base::RunTimeError::SubscriptOutOfRange);
+    return static_cast<std::size_t>(count);
 }
 
 } // namespace
 
-void TextElementFields::SizePoints(ElementRecord& element, std::int32_t count) const {
-    if (count <= 0)
-        base::Raise(base::RunTimeError::SubscriptOutOfRange);
-    if (!element.points.empty()) {
-        budget_.Release(element.points.size(), sizeof(qmath::Point));
-        element.points = std::vector<qmath::Point>(); // an empty list in braces would keep the memory
-    }
-    const auto size = static_cast<std::size_t>(count);
-    budget_.Charge(size, sizeof(qmath::Point));
-    element.points = std::vector<qmath::Point>(size);
+void TextElementFields::SizePoints(ElementRecord& element, std::size_t count) {
+    budget_.Charge(count, sizeof(qmath::Point));
+    element.points = std::vector<qmath::Point>(count);
 }
 
-void TextElementFields::SetPolyField(ElementRecord& element, std::string_view field) const {
+void TextElementFields::SizePoly(ElementRecord& element) {
+    if (polyPoints_ > 0)
+        SizePoints(element, polyPoints_);
+    polyPoints_ = 0;
+}
+
+void TextElementFields::SetPolyField(ElementRecord& element, std::string_view field) {
     const std::string_view value = Value(field);
     switch (Key(field)) {
-    case Key("CNT"): SizePoints(element, numbers_.Long(value)); break;
+    case Key("CNT"): polyPoints_ = PointCount(numbers_.Long(value)); break;
     case Key("COL"): element.mainColor = numbers_.Long(value); break;
     case Key("WID"): element.lineWidth = numbers_.Hundredths(value); break;
     case Key("CLS"): element.lineClosed = IsTrue(value); break;
@@ -46,14 +47,14 @@ void TextElementFields::SetPolyField(ElementRecord& element, std::string_view fi
     }
 }
 
-void TextElementFields::SetCircleField(ElementRecord& element, std::string_view field) const {
+void TextElementFields::SetCircleField(ElementRecord& element, std::string_view field) {
     if (Key(field) == Key("FIL"))
         element.fillColor = numbers_.Long(Value(field));
     else
         SetArcField(element, field);
 }
 
-void TextElementFields::SetArcField(ElementRecord& element, std::string_view field) const {
+void TextElementFields::SetArcField(ElementRecord& element, std::string_view field) {
     const std::string_view value = Value(field);
     switch (Key(field)) {
     case Key("COL"): element.mainColor = numbers_.Long(value); break;
@@ -65,12 +66,12 @@ void TextElementFields::SetArcField(ElementRecord& element, std::string_view fie
     }
 }
 
-void TextElementFields::SetTextField(ElementRecord& element, std::string_view field) const {
+void TextElementFields::SetTextField(ElementRecord& element, std::string_view field) {
     const std::string_view value = Value(field);
     FontRecord& font = *element.font;
     switch (Key(field)) {
     case Key("COL"): element.mainColor = numbers_.Long(value); break;
-    case Key("ANG"): element.textAngle = DegToRad(numbers_.Decimal(value)); break;
+    case Key("ANG"): element.textAngle = qmath::DegToRad(numbers_.Decimal(value)); break;
     case Key("NAM"): font.name = codePage_.Decode(value); break;
     case Key("HEI"): font.size = numbers_.Integer(value); break;
     case Key("BOL"): font.bold = IsTrue(value); break;

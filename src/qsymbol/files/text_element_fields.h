@@ -5,7 +5,7 @@
 #include "qsymbol/files/memory_budget.h"
 #include "qsymbol/model/element_record.h"
 
-#include <cstdint>
+#include <cstddef>
 #include <string_view>
 
 namespace qsymbol {
@@ -19,19 +19,23 @@ public:
     TextElementFields(const base::NumberReader& numbers, const base::CodePage& codePage, MemoryBudget& budget)
         : numbers_(numbers), codePage_(codePage), budget_(budget) {}
 
-    void SetPolyField(ElementRecord& element, std::string_view field) const;
-    void SetCircleField(ElementRecord& element, std::string_view field) const;
-    void SetArcField(ElementRecord& element, std::string_view field) const;
+    /// A point count is kept until SizePoly: a list sized at each count would let one line take endless time.
+    void SetPolyField(ElementRecord& element, std::string_view field);
+    void SetCircleField(ElementRecord& element, std::string_view field);
+    void SetArcField(ElementRecord& element, std::string_view field);
     /// The element has a font.
-    void SetTextField(ElementRecord& element, std::string_view field) const;
+    void SetTextField(ElementRecord& element, std::string_view field);
 
-    /// Gives the element so many points at (0, 0) instead of those it has.
-    void SizePoints(ElementRecord& element, std::int32_t count) const;
+    /// Gives a new polyline the points that its line counted last, if it did.
+    void SizePoly(ElementRecord& element);
+    /// Gives a new element so many points at (0, 0).
+    void SizePoints(ElementRecord& element, std::size_t count);
 
 private:
     const base::NumberReader& numbers_;
     const base::CodePage& codePage_;
     MemoryBudget& budget_;
+    std::size_t polyPoints_ = 0; ///< counted on the line that is being read
 };
 
 } // namespace qsymbol

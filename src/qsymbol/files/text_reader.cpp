@@ -128,6 +128,7 @@ private:
         if (type == text_format::kPoly) {
             element_->type = ElementType::Poly;
             SetFields(fields, &TextElementFields::SetPolyField);
+            fields_.SizePoly(*element_);
         } else if (type == text_format::kCircle) {
             element_->type = ElementType::Circle;
             fields_.SizePoints(*element_, 1);
@@ -146,8 +147,7 @@ private:
         // Any other type leaves the record as it is: an undefined element.
     }
 
-    void SetFields(FieldCursor& fields,
-                   void (TextElementFields::*set)(ElementRecord&, std::string_view) const) {
+    void SetFields(FieldCursor& fields, void (TextElementFields::*set)(ElementRecord&, std::string_view)) {
         for (std::string_view field; fields.Next(field);)
             (fields_.*set)(*element_, field);
     }

@@ -3,19 +3,15 @@
 #include "base/checked.h"
 #include "base/number_format.h"
 #include "base/whole_file.h"
+#include "qmath/math_util.h"
 #include "qsymbol/files/overwrite_question.h"
 #include "qsymbol/files/text_format.h"
 
-#include <numbers>
 #include <utility>
 
 namespace qsymbol {
 
 namespace {
-
-double RadToDeg(double radians) {
-    return radians * (180.0 / std::numbers::pi);
-}
 
 class TextWriter {
 public:
@@ -79,7 +75,7 @@ private:
         const FontRecord& font = *element.font;
         out_ += text_format::kText;
         PutLong("COL", element.mainColor);
-        PutDecimals("ANG", RadToDeg(element.textAngle), 2);
+        PutDecimals("ANG", qmath::RadToDeg(element.textAngle), 2);
         PutKey("NAM");
         out_ += codePage_.Encode(font.name);
         PutDecimals("HEI", font.size, 0);

@@ -1,14 +1,122 @@
 #include "qsymbol/files/wsc_reader.h"
 
 #include "base/error.h"
+#include "base/whole_file.h"
+#include "qsymbol/files/field_cursor.h"
+#include "qsymbol/files/line_cursor.h"
+#include "qsymbol/files/memory_budget.h"
+#include "qsymbol/files/wsc_figures.h"
+#include "qsymbol/files/wsc_format.h"
+#include "qsymbol/files/wsc_numbers.h"
+#include "qsymbol/files/wsc_survey.h"
+#include "qsymbol/frame/library_error.h"
+
+#include <algorithm>
 
 namespace qsymbol {
 
-void ReadFromWSCFile(Symbol& symbol, const FileEnvironment& /*environment*/) {
-    constexpr std::uint32_t kNotImplemented = 0x80004001U;
+using wsc_format::Keyword;
+
+namespace {
+
+std::size_t FieldCount(std::string_view line) {
+    return static_cast<std::size_t>(std::count(line.begin(), line.end(), wsc_format::kSeparator)) + 1;
+}
+
+/// The pass that reads; the survey has seen every line before.
+class WscReader {
+public:
+    WscReader(Symbol& symbol, std::size_t fileSize, const FileEnvironment& environment)
+        : symbol_(symbol), environment_(environment), numbers_(environment.regional), budget_(fileSize),
+          figures_(symbol, numbers_, budget_) {}
+
+    void Read(std::string_view bytes, std::size_t figureCount) {
+        LineCursor lines(bytes);
+        std::string_view line;
+        while (lines.Next(line) && line.empty()) {
+        }
+        ReadHeader(line, figureCount);
+        while (lines.Next(line)) {
+            if (!ReadLine(line)) {
+                environment_.prompt.Notice(u"Ellipsenbögen können nicht verarbeitet werden --> Abbruch");
+                return;
+            }
+        }
+    }
+
+private:
+    /// The header is looked at ahead of the table, so that a foreign file is told from one without figures.
+    void ReadHeader(std::string_view line, std::size_t figureCount) {
+        FieldCursor fields(line, wsc_format::kSeparator);
+        std::string_view field;
+        fields.Next(field);
+        const bool header =
+            wsc_format::KeywordOf(field) == Keyword::Header && FieldCount(line) == wsc_format::kHeaderFields;
+        if (!header && !line.empty())
+            Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromWSCFile", environment_.strings);
+        SizeElements(figureCount);
+        fields.Next(field);
+        symbol_.width = numbers_.Whole(field);
+        fields.Next(field);
+        symbol_.height = numbers_.Whole(field);
+        symbol_.refX = wsc_format::kReference;
+        symbol_.refY = wsc_format::kReference;
+    }
+
+    void SizeElements(std::size_t count) {
+        if (count == 0)
+            base::Raise(base::RunTimeError::SubscriptOutOfRange);
+        budget_.Charge(count, sizeof(ElementRecord));
+        symbol_.elements = ElementList(count);
+    }
+
+    /// False at an elliptic arc, which ends the import.
+    bool ReadLine(std::string_view line) {
+        FieldCursor fields(line, wsc_format::kSeparator);
+        std::string_view keyword;
+        fields.Next(keyword);
+        switch (wsc_format::KeywordOf(keyword)) {
+        case Keyword::Line: figures_.OpenLine(fields); break;
+        case Keyword::Chain: figures_.OpenChain(fields); break;
+        case Keyword::Area: figures_.OpenArea(fields); break;
+        case Keyword::Ellipse: figures_.OpenEllipse(fields, false); break;
+        case Keyword::FilledOval: figures_.OpenEllipse(fields, true); break;
+        case Keyword::Pie: figures_.OpenPie(fields); break;
+        case Keyword::Arc: return figures_.OpenArc(fields);
+        case Keyword::ChainPoints:
+        case Keyword::AreaPoints: figures_.AddPoints(fields, FieldCount(line)); break;
+        case Keyword::ArcPoints: figures_.SetArcEnds(fields); break;
+        case Keyword::PiePoints: figures_.SetPieOutline(fields); break;
+        case Keyword::Header:
+        case Keyword::End:
+        case Keyword::None: break; // also a longer word that only begins with a keyword
+        }
+        return true;
+    }
+
+    Symbol& symbol_;
+    const FileEnvironment& environment_;
+    WscNumbers numbers_;
+    MemoryBudget budget_;
+    WscFigures figures_;
+};
+
+} // namespace
+
+void ReadFromWSCFile(Symbol& symbol, const FileEnvironment& environment) {
     ResetContent(symbol);
-    throw base::Error::FromStatus(kNotImplemented, u"CSymbol.ReadFromWSCFile",
-                                  u"Das WSC-Format kann noch nicht gelesen werden.");
+    ParseWsc(symbol, base::ReadWholeFile(environment.files, symbol.filePath), environment);
+}
+
+void ParseWsc(Symbol& symbol, std::string_view bytes, const FileEnvironment& environment) {
+    ResetContent(symbol);
+    const WscSurvey survey = SurveyWsc(bytes);
+    if (survey.unknown) {
+        environment.prompt.Notice(u"Folgende Zeile kann nicht verarbeitet werden: " +
+                                  environment.codePage.Decode(*survey.unknown) + u" --> Abbruch");
+        return;
+    }
+    WscReader(symbol, bytes.size(), environment).Read(bytes, survey.figures);
 }
 
 } // namespace qsymbol

@@ -2,13 +2,13 @@
 
 #include "base/error.h"
 #include "base/letter_case.h"
+#include "qsymbol/model/key_index.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -34,22 +34,19 @@ public:
     /// Adds an entry without a key at the end.
     void Append(T value) {
         MakeRoom();
-        Push(std::move(value), nullptr);
+        entries_.push_back(std::make_unique<Entry>(++lastSerial_, std::move(value), std::u16string(), false));
     }
 
     /// Adds an entry at the end. Error 457 when the key is taken; nothing has changed then.
     void Append(T value, std::u16string_view key) {
         std::u16string folded = base::UpperCase(key);
-        MakeRoom();
-        const auto [at, added] = index_.try_emplace(std::move(folded), nullptr);
-        if (!added)
+        if (index_.Find(folded) != nullptr)
             base::Raise(base::RunTimeError::DuplicateKey);
-        try {
-            at->second = Push(std::move(value), &at->first);
-        } catch (...) {
-            index_.erase(at);
-            throw;
-        }
+        MakeRoom();
+        index_.MakeRoom();
+        auto entry = std::make_unique<Entry>(++lastSerial_, std::move(value), std::move(folded), true);
+        index_.Insert(entry.get());
+        entries_.push_back(std::move(entry));
     }
 
     /// The value at a position from 1; nullptr outside 1 to Count. Valid until that entry goes.
@@ -62,8 +59,8 @@ public:
 
     /// The value under a key; nullptr when there is none. Valid until that entry goes.
     T* ItemByKey(std::u16string_view key) {
-        const auto at = index_.find(base::UpperCase(key));
-        return at == index_.end() ? nullptr : &at->second->value;
+        Entry* const entry = index_.Find(base::UpperCase(key));
+        return entry == nullptr ? nullptr : &entry->value;
     }
     const T* ItemByKey(std::u16string_view key) const { return const_cast<KeyedList*>(this)->ItemByKey(key); }
 
@@ -76,16 +73,16 @@ public:
 
     /// Removes the entry under a key. Error 5 when there is none.
     void RemoveByKey(std::u16string_view key) {
-        const auto at = index_.find(base::UpperCase(key));
-        if (at == index_.end())
+        const Entry* const entry = index_.Find(base::UpperCase(key));
+        if (entry == nullptr)
             base::Raise(base::RunTimeError::InvalidCall);
-        Remove(FirstAfter(at->second->serial - 1));
+        Remove(FirstAfter(entry->serial - 1));
     }
 
     /// Removes all entries.
     void Clear() {
         const Entries gone = std::exchange(entries_, {});
-        index_.clear();
+        index_.Clear();
     }
 
     /// The first entry with a larger serial number; nullptr at the end. 0 starts from the front. O(log n).
@@ -99,22 +96,20 @@ public:
 
 private:
     struct Entry : Item {
-        const std::u16string* key; ///< the folded key in the index, nullptr for none
+        Entry(std::uint64_t number, T&& held, std::u16string&& folded, bool hasKey)
+            : Item{number, std::move(held)}, key(std::move(folded)), keyed(hasKey) {}
+
+        std::u16string key; ///< upper case
+        bool keyed;
     };
     using Entries = std::vector<std::unique_ptr<Entry>>;
 
     bool Holds(std::int32_t position) const { return position >= 1 && position <= Count(); }
 
-    /// So that Push cannot fail after it made the entry.
+    /// Makes sure that the next entry can be put at the end without failing.
     void MakeRoom() {
         if (entries_.size() == entries_.capacity())
             entries_.reserve(std::max<std::size_t>(8, 2 * entries_.size()));
-    }
-
-    Entry* Push(T&& value, const std::u16string* key) {
-        entries_.push_back(std::unique_ptr<Entry>(new Entry{{lastSerial_ + 1, std::move(value)}, key}));
-        ++lastSerial_;
-        return entries_.back().get();
     }
 
     typename Entries::iterator FirstAfter(std::uint64_t serial) {
@@ -126,12 +121,12 @@ private:
     void Remove(typename Entries::iterator at) {
         const std::unique_ptr<Entry> gone = std::move(*at);
         entries_.erase(at);
-        if (gone->key != nullptr)
-            index_.erase(index_.find(*gone->key));
+        if (gone->keyed)
+            index_.Erase(gone.get());
     }
 
     Entries entries_; ///< in the order of their serial numbers
-    std::unordered_map<std::u16string, Entry*> index_;
+    KeyIndex<Entry> index_;
     std::uint64_t lastSerial_ = 0;
 };
 

@@ -126,4 +126,10 @@ TEST_F(Arguments, ACallerWithoutPlacesForResultAndError) {
     EXPECT_EQ(support::TakeErrorInfo().source, L"CSymbol.ReadFromFile");
 }
 
+TEST_F(Arguments, NullOfAScriptIsNothing) {
+    const Answer answer = symbol.Call(L"CreateNew", {1, 2, 3, 4, Value::Null()});
+    EXPECT_OK(answer.status) << "JScript has no other word for Nothing";
+    EXPECT_EQ(symbol.Get(L"Height").value.Long(), 4);
+}
+
 } // namespace

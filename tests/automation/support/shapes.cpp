@@ -1,6 +1,7 @@
 #include "support/shapes.h"
 
 #include "support/automation_test.h"
+#include "support/text.h"
 
 #include <cmath>
 
@@ -20,6 +21,20 @@ bool operator==(const ElementSpec& a, const ElementSpec& b) {
            a.fillColor == b.fillColor && a.mainColor == b.mainColor && a.radius == b.radius &&
            a.text == b.text && a.font == b.font && a.textAngle == b.textAngle && a.textAlign == b.textAlign &&
            a.textBkMode == b.textBkMode;
+}
+
+std::ostream& operator<<(std::ostream& out, const ElementSpec& spec) {
+    out << "type " << spec.type << " width " << spec.lineWidth << " closed " << spec.closed << " fill "
+        << spec.fillColor << " colour " << spec.mainColor << " radius " << spec.radius << " angle "
+        << spec.textAngle << " align " << spec.textAlign << " background " << spec.textBkMode << " text \""
+        << Narrow(spec.text) << "\" points";
+    for (const POINT& point : spec.points)
+        out << " (" << point.x << ", " << point.y << ')';
+    if (!spec.font)
+        return out << " no font";
+    return out << " font \"" << Narrow(spec.font->name) << "\" " << spec.font->size << " bold "
+               << spec.font->bold << " italic " << spec.font->italic << " underline " << spec.font->underline
+               << " struck " << spec.font->strikethrough;
 }
 
 namespace {

@@ -6,6 +6,7 @@
 #include <olectl.h>
 
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -63,4 +64,5 @@ bool operator==(const POINT& a, const POINT& b);
 namespace support {
 bool operator==(const FontSpec& a, const FontSpec& b);
 bool operator==(const ElementSpec& a, const ElementSpec& b);
+std::ostream& operator<<(std::ostream& out, const ElementSpec& spec);
 } // namespace support

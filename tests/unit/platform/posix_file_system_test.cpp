@@ -1,5 +1,6 @@
 #include "platform/posix/posix_file_system.h"
 
+#include "base/whole_file.h"
 #include "support/caught.h"
 #include "support/temp_folder.h"
 
@@ -54,7 +55,8 @@ TEST_F(PosixFiles, WhatCannotBeOpened) {
     EXPECT_EQ(open(folder_.File("none/missing"), OpenMode::Read), Expected(RunTimeError::PathNotFound));
     EXPECT_EQ(open(folder_.File("none/missing"), OpenMode::Replace), Expected(RunTimeError::PathNotFound));
     EXPECT_EQ(open(folder_.File("a/b"), OpenMode::Read), Expected(RunTimeError::PathNotFound));
-    EXPECT_EQ(open(folder_.File("inner"), OpenMode::Read), Expected(RunTimeError::PathFileAccess));
+    EXPECT_EQ(CaughtFrom([&] { base::ReadWholeFile(files_, folder_.File("inner")); }),
+              Expected(RunTimeError::PathFileAccess));
     EXPECT_EQ(open(folder_.File("inner"), OpenMode::Overlay), Expected(RunTimeError::PathFileAccess));
     EXPECT_EQ(open(u"", OpenMode::Read), Expected(RunTimeError::BadFileName));
     EXPECT_EQ(open(std::u16string(u"a\0b", 3), OpenMode::Read), Expected(RunTimeError::BadFileName));
@@ -71,6 +73,26 @@ TEST_F(PosixFiles, ListingGivesFilesOnly) {
     EXPECT_THAT(names, testing::ElementsAre(u"Küche.syb"));
     EXPECT_EQ(CaughtFrom([&] { files_.ListFiles(folder_.File("none")); }),
               Expected(RunTimeError::PathNotFound));
+}
+
+/// After a listing files open through the folder's handle; that must not show.
+TEST_F(PosixFiles, ReadingAfterAListing) {
+    const std::filesystem::path inner = folder_.Path() / "inner";
+    std::filesystem::create_directory(inner);
+    support::PutBytes(inner / "Küche.syb", "old");
+    const auto read = [&](const char* name) { return base::ReadWholeFile(files_, folder_.File(name)); };
+    EXPECT_EQ(files_.ListFiles(inner.u16string()).size(), 1U);
+    EXPECT_EQ(read("inner/Küche.syb"), "old");
+    EXPECT_EQ(CaughtFrom([&] { read("inner/missing"); }), Expected(RunTimeError::FileNotFound));
+    EXPECT_EQ(CaughtFrom([&] { read("inner/none/missing"); }), Expected(RunTimeError::PathNotFound));
+    EXPECT_EQ(CaughtFrom([&] { read("inner/"); }), Expected(RunTimeError::PathFileAccess));
+    EXPECT_EQ(CaughtFrom([&] { read("inner"); }), Expected(RunTimeError::PathFileAccess));
+
+    std::filesystem::remove_all(inner);
+    EXPECT_EQ(CaughtFrom([&] { read("inner/Küche.syb"); }), Expected(RunTimeError::PathNotFound));
+    std::filesystem::create_directory(inner);
+    support::PutBytes(inner / "Küche.syb", "new");
+    EXPECT_EQ(read("inner/Küche.syb"), "new") << "the folder that was listed is gone";
 }
 
 TEST_F(PosixFiles, FilesAndFolders) {

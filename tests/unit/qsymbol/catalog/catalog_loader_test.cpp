@@ -62,7 +62,7 @@ protected:
         return CaughtFrom([&] { ReadKatalog(folder, catalog_, world_.InMemory()); });
     }
     bool LoadList(const std::set<std::u16string>& names, std::u16string_view folder = u"plan") {
-        const qsymbol::NameList list{static_cast<std::int32_t>(names.size()),
+        const qsymbol::NameList list{[&] { return static_cast<std::int32_t>(names.size()); },
                                      [&, names](const std::u16string& name) {
                                          asked_.insert(name);
                                          return names.contains(name);
@@ -219,9 +219,14 @@ TEST_F(CatalogLoader, AListStoppedByAbortIsTrue) {
 TEST_F(CatalogLoader, ErrorsOfTheListAreThrown) {
     PutSymbol(u"plan/a.syb");
     const qsymbol::NameList list{
-        0, [](const std::u16string&) -> bool { base::Raise(RunTimeError::NoSuchMember); }};
+        [] { return 0; }, [](const std::u16string&) -> bool { base::Raise(RunTimeError::NoSuchMember); }};
     EXPECT_EQ(CaughtFrom([&] { ReadListe(u"plan", list, catalog_, world_.InMemory()); }),
               Expected(RunTimeError::NoSuchMember));
+}
+
+TEST_F(CatalogLoader, AListIsNotAskedForAFolderThatIsNotThere) {
+    const qsymbol::NameList list{[]() -> std::int32_t { base::Raise(RunTimeError::ObjectNotSet); }, nullptr};
+    EXPECT_TRUE(ReadListe(u"nowhere", list, catalog_, world_.InMemory()));
 }
 
 TEST_F(CatalogLoader, OnDisk) {

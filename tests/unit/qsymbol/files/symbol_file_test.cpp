@@ -139,18 +139,6 @@ TEST_F(SymbolFile, WhatCannotBeComposedLeavesTheFileUntouched) {
     EXPECT_EQ(memory_.opened, 0);
 }
 
-TEST_F(SymbolFile, TheImportFormatSaysThatItIsNotThereYet) {
-    Symbol symbol = At(u"plan/wc.wsc");
-    try {
-        ReadFromFile(symbol, world_.InMemory());
-        FAIL() << "no error";
-    } catch (const base::Error& error) {
-        EXPECT_EQ(error.Status(), 0x80004001U);
-        EXPECT_EQ(error.Source(), u"CSymbol.ReadFromWSCFile");
-        EXPECT_EQ(error.Description(), u"Das WSC-Format kann noch nicht gelesen werden.");
-    }
-}
-
 TEST_F(SymbolFile, OnDisk) {
     const support::TempFolder folder;
     const qsymbol::FileEnvironment disk = world_.OnDisk();
@@ -247,15 +235,26 @@ TEST_F(SymbolFile, AFailingWriteClosesTheFileAndLeavesTheSymbol) {
     EXPECT_EQ(memory_.openNow, 0);
 }
 
-TEST_F(SymbolFile, ReadsInPiecesAndFilesThatShrink) {
+TEST_F(SymbolFile, ReadsInPieces) {
     memory_.files[u"plan/wc.syt"] = support::WashRoomText();
     memory_.readAtMost = 7;
     Symbol symbol = At(u"plan/wc.syt", {});
     EXPECT_EQ(Read(symbol), Caught());
     EXPECT_EQ(symbol, At(u"plan/wc.syt"));
-    memory_.announcedSize = 100000;
-    EXPECT_EQ(Read(symbol), Caught());
-    EXPECT_EQ(symbol, At(u"plan/wc.syt"));
+}
+
+TEST_F(SymbolFile, LargeFilesAndSizesThatChangeMeanwhile) {
+    for (const std::size_t blanks : {0U, 1U, 3000U, 4095U, 4096U, 4097U, 100000U}) {
+        const std::string text = std::string(blanks, '\n') + support::WashRoomText();
+        memory_.files[u"plan/wc.syt"] = text;
+        Symbol symbol = At(u"plan/wc.syt", {});
+        EXPECT_EQ(Read(symbol), Caught());
+        EXPECT_EQ(symbol, At(u"plan/wc.syt")) << blanks;
+        memory_.announcedSize = text.size() + 5000; // it shrank since
+        EXPECT_EQ(Read(symbol), Caught());
+        EXPECT_EQ(symbol, At(u"plan/wc.syt")) << blanks;
+        memory_.announcedSize.reset();
+    }
 }
 
 TEST_F(SymbolFile, ReadingAsksOnlyToOpen) {

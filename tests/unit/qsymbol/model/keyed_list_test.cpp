@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <stdexcept>
@@ -146,6 +147,33 @@ TEST(KeyedList, ManyKeysAddedAndRemoved) {
         ASSERT_EQ(*list.ItemByPos(i), 2 * i - 1);
     EXPECT_NE(list.ItemByKey(u"keyx" + std::u16string(1, 0x4E01)), nullptr);
     EXPECT_EQ(list.ItemByKey(u"key" + std::u16string(1, 0x4E00)), nullptr);
+}
+
+TEST(KeyedList, RandomChangesAgainstAnOrderedReference) {
+    KeyedList<int> list;
+    std::vector<std::pair<std::u16string, int>> reference;
+    std::uint32_t state = 1;
+    for (int round = 0; round < 20000; ++round) {
+        state = state * 1664525U + 1013904223U;
+        const std::u16string key =
+            u"K" + std::u16string(1, static_cast<char16_t>(0x4E00 + (state >> 8) % 300));
+        const auto at = std::find_if(reference.begin(), reference.end(),
+                                     [&](const auto& entry) { return entry.first == key; });
+        const int* found = list.ItemByKey(key);
+        ASSERT_EQ(found != nullptr, at != reference.end());
+        if (found == nullptr) {
+            list.Append(round, key);
+            reference.emplace_back(key, round);
+        } else {
+            ASSERT_EQ(*found, at->second);
+            list.RemoveByKey(key);
+            reference.erase(at);
+        }
+    }
+    std::vector<int> expected;
+    for (const auto& [key, value] : reference)
+        expected.push_back(value);
+    EXPECT_EQ(Values(list), expected);
 }
 
 /// Calls back into the list when it goes, as a host's object may.

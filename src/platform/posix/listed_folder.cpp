@@ -1,0 +1,28 @@
+#include "platform/posix/listed_folder.h"
+
+#include "platform/posix/utf8.h"
+
+#include <cstring>
+#include <fcntl.h>
+#include <string_view>
+#include <utility>
+
+namespace platform {
+
+void ListedFolder::Keep(DIR* folder, std::u16string prefix) {
+    folder_.reset(folder);
+    prefix_ = std::move(prefix);
+}
+
+int ListedFolder::OpenToRead(const std::u16string& path) const {
+    const std::size_t size = prefix_.size();
+    // Compared as bytes: starts_with goes through UTF-16 character by character, and paths are long.
+    if (folder_ == nullptr || path.size() < size || std::memcmp(path.data(), prefix_.data(), 2 * size) != 0)
+        return -1;
+    const std::u16string_view name = std::u16string_view(path).substr(size);
+    if (name.find_first_of(std::u16string_view(u"/\0", 2)) != std::u16string_view::npos)
+        return -1;
+    return openat(dirfd(folder_.get()), ToUtf8(name).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+}
+
+} // namespace platform

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <dirent.h>
+#include <memory>
+#include <string>
+
+namespace platform {
+
+/// The folder that was listed last, kept open so that its files open without the way through all folders
+/// above it.
+///
+/// What is opened is the file in the very folder that was listed, even if that folder was renamed meanwhile.
+class ListedFolder {
+public:
+    /// Takes the folder over; prefix is its path with a separator behind it.
+    void Keep(DIR* folder, std::u16string prefix);
+
+    /// A handle for reading a file right in that folder; negative for any other path and on any failure.
+    int OpenToRead(const std::u16string& path) const;
+
+private:
+    struct Closer {
+        void operator()(DIR* folder) const { closedir(folder); }
+    };
+
+    std::unique_ptr<DIR, Closer> folder_;
+    std::u16string prefix_;
+};
+
+} // namespace platform

@@ -1,0 +1,155 @@
+#include "drawing/drawing_fixture.h"
+#include "drawing/message_boxes.h"
+
+/// Draw2PBox: the whole symbol as large as the box allows, without a margin.
+
+namespace {
+
+using namespace drawing;
+using support::ElementSpec;
+
+class FittedDrawing : public DrawingTest {
+protected:
+    /// A filled frame of the symbol's size and a line across it.
+    static std::vector<ElementSpec> Frame(LONG width, LONG height) {
+        return {{.type = symPoly,
+                 .points = {{0, 0}, {width, 0}, {width, height}, {0, height}},
+                 .closed = true,
+                 .fillColor = kGreen},
+                {.type = symPoly, .points = {{0, 0}, {width, height}}, .mainColor = kRed}};
+    }
+    void DrawFrame(LONG width, LONG height) {
+        const auto symbol = support::NewSymbol(width / 3, height / 2, width, height, Frame(width, height));
+        EXPECT_OK(symbol->Draw2PBox(box.Get()));
+    }
+    void ExpectFrame(int width, int height) {
+        expected.UsePen(PS_NULL, 1, 0);
+        expected.UseBrush(kGreen);
+        Closed({{0, 0}, {width, 0}, {width, height}, {0, height}});
+        expected.UsePen(PS_SOLID, 1, kRed);
+        Line({{0, 0}, {width, height}});
+        ExpectSame();
+        EXPECT_TRUE(boxes.Shown().empty());
+    }
+
+    MessageBoxes boxes;
+};
+
+TEST_F(FittedDrawing, AWideSymbolFillsTheWidth) {
+    DrawFrame(4800, 1000);
+    ExpectFrame(240, 50);
+}
+
+TEST_F(FittedDrawing, ATallSymbolFillsTheHeight) {
+    DrawFrame(1200, 4800);
+    ExpectFrame(60, 240);
+}
+
+TEST_F(FittedDrawing, TheBoxDecidesWhatIsWide) {
+    box->SetScale(200, 50);
+    DrawFrame(2000, 1000);
+    ExpectFrame(100, 50);
+    StartAgain();
+    box->SetScale(50, 200);
+    DrawFrame(1000, 2000);
+    ExpectFrame(50, 100);
+}
+
+TEST_F(FittedDrawing, EqualRatiosFillBoth) {
+    box->SetScale(200, 100);
+    DrawFrame(3000, 1500);
+    ExpectFrame(200, 100);
+}
+
+TEST_F(FittedDrawing, AnEnlargedSymbol) {
+    DrawFrame(24, 12);
+    ExpectFrame(240, 120);
+}
+
+TEST_F(FittedDrawing, AFlatSymbolFillsTheWidthWhateverTheBox) {
+    box->SetScale(200000, 5); // flatter still than the symbol, so the heights would be the limit
+    DrawFrame(1000000, 80);
+    expected.UsePen(PS_NULL, 1, 0);
+    expected.UseBrush(kGreen);
+    Closed({{0, 0}, {200000, 0}, {200000, 16}, {0, 16}});
+    expected.UsePen(PS_SOLID, 1, kRed);
+    Line({{0, 0}, {200000, 16}});
+    ExpectSame();
+}
+
+TEST_F(FittedDrawing, AWidthOfZeroFillsTheHeight) {
+    const auto symbol = support::NewSymbol(0, 0, 0, 4800, Frame(1200, 4800));
+    EXPECT_OK(symbol->Draw2PBox(box.Get()));
+    ExpectFrame(60, 240);
+}
+
+TEST_F(FittedDrawing, AHeightOfZeroFillsTheWidth) {
+    const auto symbol = support::NewSymbol(0, 0, 4800, 0, Frame(4800, 1000));
+    EXPECT_OK(symbol->Draw2PBox(box.Get()));
+    ExpectFrame(240, 50);
+}
+
+/// A copy in a catalogue has no size of its own; the extent of its points stands in.
+TEST_F(FittedDrawing, ACopyWithoutASize) {
+    const auto symbol = support::NewSymbol(500, 500, 1, 1, Frame(4800, 1000));
+    EXPECT_OK(symbol->put_FilePath(support::Bstr(L"Rahmen.syb")));
+    const auto catalogue = support::Create<CSymbolColl, _CSymbolColl>();
+    EXPECT_OK(catalogue->Append(symbol.Get()));
+    Ref<_CSymbol> copy;
+    EXPECT_OK(catalogue->get_ItemByPos(1, copy.Put()));
+    LONG width = -1;
+    EXPECT_OK(copy->get_Width(&width));
+    EXPECT_EQ(width, 0);
+    EXPECT_OK(copy->Draw2PBox(box.Get()));
+    ExpectFrame(240, 50);
+}
+
+TEST_F(FittedDrawing, AnEmptyBoxAnEmptySymbolAndNoBoxDrawNothing) {
+    box->SetScale(0, 100);
+    DrawFrame(100, 100);
+    box->SetScale(100, 0);
+    DrawFrame(100, 100);
+    box->SetScale(0, 0);
+    DrawFrame(100, 100);
+    box->SetScale(240, 240);
+    EXPECT_OK(support::NewSymbol()->Draw2PBox(box.Get()));
+    EXPECT_OK(support::NewSymbol(0, 0, 100, 0, {{.type = symUndefined}})->Draw2PBox(box.Get()));
+    EXPECT_OK(support::NewSymbol(0, 0, 10, 10, Frame(10, 10))->Draw2PBox(nullptr));
+    ExpectNothingDrawn();
+    EXPECT_TRUE(boxes.Shown().empty());
+}
+
+TEST_F(FittedDrawing, LateBoundTheFactorOfTheMainDrawingAreaIsOne) {
+    StartAgain(L"GraphicBox");
+    const auto symbol = support::NewSymbol(7, 8, 4800, 1000, Frame(4800, 1000));
+    EXPECT_OK(support::Dispatch(symbol).Call(L"Draw2PBox", {box}).status);
+    ExpectFrame(240, 50);
+}
+
+TEST_F(FittedDrawing, ErrorsAreShownAndGoNoFurther) {
+    const support::Failure failure{support::Numbered(481), L"Gastgeber", L"Ungültiges Bild"};
+    const ShownBox shown = OkBox(L"CSymbol.Draw2PBox\r\nUngültiges Bild", "stop");
+    const auto symbol = support::NewSymbol(0, 0, 10, 10, Frame(10, 10));
+    std::vector<ShownBox> all;
+    for (const char* access : {"get ScaleWidth", "get ScaleHeight", "get hDC", "get Name", "get DrawMode",
+                               "put ForeColor", "put FillStyle"}) {
+        StartAgain();
+        box->Fail(access, failure);
+        const HRESULT status = symbol->Draw2PBox(box.Get());
+        EXPECT_EQ(support::Outcome(status), support::Failure{}) << access;
+        all.push_back(shown);
+    }
+    EXPECT_OK(support::Dispatch(symbol).Call(L"Draw2PBox", {box}).status);
+    all.push_back(shown);
+    EXPECT_EQ(boxes.Shown(), all);
+}
+
+TEST_F(FittedDrawing, AnObjectThatIsNoBox) {
+    const auto symbol = support::NewSymbol(0, 0, 10, 10, Frame(10, 10));
+    EXPECT_OK(symbol->Draw2PBox(symbol.Get()));
+    EXPECT_EQ(boxes.Shown(),
+              std::vector{OkBox(
+                  L"CSymbol.Draw2PBox\r\nObjekt unterstützt diese Eigenschaft oder Methode nicht", "stop")});
+}
+
+} // namespace

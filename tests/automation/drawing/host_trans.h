@@ -1,0 +1,61 @@
+#pragma once
+
+#include "support/failure.h"
+#include "support/ref.h"
+
+#include <QMath.h>
+
+#include <functional>
+#include <string>
+
+namespace drawing {
+
+/// A transformation of the host's own: one pixel a unit, in both directions. It can be told to fail in one of
+/// its operations or to do something there.
+class HostTrans final : public _CTrans {
+public:
+    static support::Ref<HostTrans> Create() { return support::Ref<HostTrans>::Attach(new HostTrans); }
+
+    void Fail(const std::string& operation, const support::Failure& failure) {
+        failing_ = operation;
+        failure_ = failure;
+    }
+    void OnCall(std::function<void()> action) { action_ = std::move(action); }
+
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override;
+    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
+    STDMETHODIMP_(ULONG) Release() override;
+    // The library calls a transformation by its vtable.
+    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
+        return E_NOTIMPL;
+    }
+    STDMETHODIMP SetScale(double) override { return E_NOTIMPL; }
+    STDMETHODIMP SetOffsetX(LONG) override { return E_NOTIMPL; }
+    STDMETHODIMP SetOffsetY(LONG) override { return E_NOTIMPL; }
+    STDMETHODIMP WorldToScreen(LONG*, LONG*) override { return Done("WorldToScreen"); }
+    STDMETHODIMP PtWorldToScreen(_CPt**) override { return Done("PtWorldToScreen"); }
+    STDMETHODIMP LengthToScreen(LONG*) override { return Done("LengthToScreen"); }
+    STDMETHODIMP FontSizeToScreen(double, SHORT size, LONG* result) override {
+        *result = size;
+        return Done("FontSizeToScreen");
+    }
+    STDMETHODIMP PtScreenToWorld(_CPt**) override { return Done("PtScreenToWorld"); }
+    STDMETHODIMP get_Scale(double* result) override { return *result = 1, S_OK; }
+    STDMETHODIMP get_OffsetX(LONG* result) override { return *result = 0, S_OK; }
+    STDMETHODIMP get_OffsetY(LONG* result) override { return *result = 0, S_OK; }
+
+private:
+    HostTrans() = default;
+    virtual ~HostTrans() = default;
+    HRESULT Done(const std::string& operation) const;
+
+    ULONG references_ = 1;
+    std::string failing_;
+    support::Failure failure_;
+    std::function<void()> action_;
+};
+
+} // namespace drawing

@@ -1,0 +1,88 @@
+#include "platform/posix/fixed_regional_settings.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/posix/windows_1252.h"
+#include "qsymbol/files/binary_writer.h"
+#include "qsymbol/files/symbol_file.h"
+#include "support/silent_prompt.h"
+#include "support/string_table.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kSeeds = 12;
+
+/// The smallest files of a folder with this extension: a fuzzer does best with small seeds.
+std::vector<fs::path> Smallest(const fs::path& folder, const char* extension) {
+    std::vector<fs::path> files;
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+        if (entry.path().extension() == extension)
+            files.push_back(entry.path());
+    const auto smaller = [](const fs::path& a, const fs::path& b) {
+        return std::pair(fs::file_size(a), a) < std::pair(fs::file_size(b), b);
+    };
+    std::sort(files.begin(), files.end(), smaller);
+    files.resize(std::min(files.size(), kSeeds));
+    return files;
+}
+
+void Write(const fs::path& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+void MakeNumbers(const fs::path& folder) {
+    constexpr std::array kNumbers = {"0",           "-1,50",
+                                     "+1.234,56",   " 12 ",
+                                     "21474836,47", "1e400",
+                                     "-2,5E-3",     "0,125",
+                                     "99999999,9",  "1,7976931348623157e308",
+                                     ",5",          "123456789012345678",
+                                     "5e-324"};
+    fs::create_directories(folder);
+    for (std::size_t i = 0; i < kNumbers.size(); ++i)
+        Write(folder / ("number-" + std::to_string(i)), kNumbers[i]);
+}
+
+} // namespace
+
+/// make_seeds SAMPLES SEEDS: what the fuzzers start from, out of the sample symbols.
+int main(int count, char** arguments) {
+    if (count != 3) {
+        std::fputs("usage: make_seeds SAMPLES SEEDS\n", stderr);
+        return 2;
+    }
+    const fs::path samples = arguments[1];
+    const fs::path seeds = arguments[2];
+    platform::PosixFileSystem files;
+    const platform::Windows1252 codePage;
+    const support::StringTable strings;
+    support::SilentPrompt prompt;
+    const qsymbol::FileEnvironment environment{files, codePage, platform::GermanSettings(), strings, prompt};
+
+    fs::create_directories(seeds / "text_reader");
+    fs::create_directories(seeds / "binary_reader");
+    fs::create_directories(seeds / "import_reader");
+    int number = 0;
+    for (const fs::path& path : Smallest(samples / "katalog", ".syt")) {
+        const std::string name = "symbol-" + std::to_string(number++);
+        fs::copy_file(path, seeds / "text_reader" / name, fs::copy_options::overwrite_existing);
+        qsymbol::Symbol symbol;
+        symbol.filePath = path.u16string();
+        ReadFromFile(symbol, environment);
+        Write(seeds / "binary_reader" / name, ComposeBinary(symbol, environment));
+    }
+    number = 0;
+    for (const fs::path& path : Smallest(samples / "wsc", ".wsc"))
+        fs::copy_file(path, seeds / "import_reader" / ("symbol-" + std::to_string(number++)),
+                      fs::copy_options::overwrite_existing);
+    MakeNumbers(seeds / "number_reader");
+    return 0;
+}

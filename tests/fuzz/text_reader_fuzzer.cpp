@@ -1,0 +1,8 @@
+#include "fuzz/report.h"
+#include "support/file_oracles.h"
+
+/// The text reader and writer.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    fuzz::Report(support::BrokenTextPromise({reinterpret_cast<const char*>(data), size}));
+    return 0;
+}
