@@ -47,12 +47,19 @@ void Export(const Arguments& arguments) {
               L" geschrieben.");
 }
 
-void ShowCatalogue(const Arguments& arguments) {
-    const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
-    DrawCatalogueSheet(*catalogue.Get(), arguments[1]);
+void DrawSheet(_CSymbolColl& symbols, const std::wstring& picture) {
+    DrawCatalogueSheet(symbols, picture);
     LONG count = 0;
-    Check(catalogue->get_Count(&count));
-    PrintLine(std::to_wstring(count) + L" Symbole in " + arguments[1] + L" gezeichnet.");
+    Check(symbols.get_Count(&count));
+    PrintLine(std::to_wstring(count) + L" Symbole in " + picture + L" gezeichnet.");
+}
+
+void ShowCatalogue(const Arguments& arguments) {
+    DrawSheet(*OpenCatalogue(arguments[0]).Get(), arguments[1]);
+}
+
+void Import(const Arguments& arguments) {
+    DrawSheet(*ImportFolder(arguments[0]).Get(), arguments[1]);
 }
 
 struct Command {
@@ -67,6 +74,7 @@ constexpr Command kCommands[] = {
     {L"plan", 3, 4, L"KATALOGORDNER PLANDATEI BILD.png [BILDBREITE]", Plot},
     {L"dxf", 3, 3, L"KATALOGORDNER PLANDATEI PLAN.dxf", Export},
     {L"sheet", 2, 2, L"KATALOGORDNER BILD.png", ShowCatalogue},
+    {L"import", 2, 2, L"WSCORDNER BILD.png", Import},
 };
 
 [[noreturn]] void FailWithUsage() {
