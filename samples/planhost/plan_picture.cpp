@@ -10,12 +10,13 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace {
 
 constexpr COLORREF kWallColour = RGB(74, 74, 78);
 constexpr COLORREF kTextColour = RGB(40, 40, 44);
+constexpr LONG kMarkColour = RGB(226, 74, 20);
+constexpr LONG kOwnColours = -1;
 constexpr int kLargestPixelHeight = 20000;
 // Millimetres in the plan.
 constexpr int kLabelHeight = 230;
@@ -71,15 +72,17 @@ void DrawWalls(const Plan& plan, const Sheet& sheet) {
     RestoreDC(dc, state);
 }
 
-void DrawSymbols(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols, const Sheet& sheet) {
+/// marked: the places of symbols in the plan that are drawn in the mark colour.
+void DrawSymbols(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
+                 const std::vector<std::size_t>& marked, const Sheet& sheet) {
     const Ptr<PictureBox> box =
         PictureBox::Create(sheet.bitmap.Dc(), sheet.bitmap.Width(), sheet.bitmap.Height(), L"PlanBox");
     for (std::size_t i = 0; i < symbols.size(); ++i) {
         const PlacedSymbol& placed = plan.symbols[i];
-        const double angle = placed.angle * std::numbers::pi / 180;
-        LONG ownColours = -1;
-        Check(symbols[i]->Draw(placed.at.x * kUnitsPerMillimetre, placed.at.y * kUnitsPerMillimetre, angle,
-                               box.Get(), sheet.transformation.Get(), 1.0, 1.0, &ownColours),
+        const bool isMarked = std::find(marked.begin(), marked.end(), i) != marked.end();
+        LONG markColour = isMarked ? kMarkColour : kOwnColours;
+        Check(symbols[i]->Draw(placed.at.x * kUnitsPerMillimetre, placed.at.y * kUnitsPerMillimetre,
+                               Radians(placed), box.Get(), sheet.transformation.Get(), 1.0, 1.0, &markColour),
               L"Zeile " + std::to_wstring(placed.line));
     }
 }
@@ -110,15 +113,33 @@ void WriteTitleAndLabels(const Plan& plan, const Sheet& sheet) {
     }
 }
 
+void DrawSheet(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
+               const std::vector<std::size_t>& marked, const Sheet& sheet) {
+    DrawFloors(plan, sheet);
+    DrawWalls(plan, sheet);
+    DrawSymbols(plan, symbols, marked, sheet);
+    WriteTitleAndLabels(plan, sheet);
+}
+
 } // namespace
 
 void DrawPlan(const Plan& plan, _CSymbolColl& catalogue, int pixelWidth,
               const std::filesystem::path& picture) {
     const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, catalogue);
     const Sheet sheet = MakeSheet(plan, pixelWidth);
-    DrawFloors(plan, sheet);
-    DrawWalls(plan, sheet);
-    DrawSymbols(plan, symbols, sheet);
-    WriteTitleAndLabels(plan, sheet);
+    DrawSheet(plan, symbols, {}, sheet);
     sheet.bitmap.SavePng(picture.wstring());
+}
+
+std::vector<std::wstring> MarkPlan(const Plan& plan, _CSymbolColl& catalogue, int pixelWidth,
+                                   const PointedAt& place, const std::filesystem::path& picture) {
+    const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, catalogue);
+    const Sheet sheet = MakeSheet(plan, pixelWidth);
+    const std::vector<std::size_t> marked = SymbolsAt(place, plan, symbols, *sheet.transformation.Get());
+    DrawSheet(plan, symbols, marked, sheet);
+    sheet.bitmap.SavePng(picture.wstring());
+    std::vector<std::wstring> names;
+    for (const std::size_t i : marked)
+        names.push_back(plan.symbols[i].name);
+    return names;
 }
