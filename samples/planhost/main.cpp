@@ -1,5 +1,5 @@
-// A host of the symbol library: converts symbols, draws a plan with them, finds them there, exports it and shows
-// a catalogue.
+// A host of the symbol library: converts symbols, draws a plan with them, finds them there, exports it and
+// shows a catalogue.
 
 #include "catalogue.h"
 #include "catalogue_sheet.h"

@@ -61,8 +61,8 @@ void WriteWalls(const Plan& plan, DxfFile& file) {
 
 void WriteTitleAndLabels(const Plan& plan, DxfFile& file) {
     const auto at = [&](double x, double y) { return InFile(plan, {x, y}); };
-    file.Text("RAEUME", at(kTitleMargin, kTitleMargin - kTitleHeight / 2), kTitleHeight / kMillimetresPerUnit, plan.title,
-              false);
+    file.Text("RAEUME", at(kTitleMargin, kTitleMargin - kTitleHeight / 2), kTitleHeight / kMillimetresPerUnit,
+              plan.title, false);
     for (const Room& room : plan.rooms)
         file.Text("RAEUME", at(room.middle.x, room.middle.y + kLabelHeight / 2),
                   kLabelHeight / kMillimetresPerUnit, room.name, true);
