@@ -12,8 +12,15 @@ void RequireFolder(const fs::path& folder) {
 }
 
 /// What the library reads a file as follows from its extension, in any case.
-bool IsTextSymbol(const fs::path& file) {
-    return lstrcmpiW(file.extension().c_str(), L".syt") == 0;
+bool HasExtension(const fs::path& file, const wchar_t* extension) {
+    return lstrcmpiW(file.extension().c_str(), extension) == 0;
+}
+
+/// A symbol of which the import was broken off has no size.
+bool IsEmpty(_CSymbol& symbol) {
+    LONG width = 0;
+    Check(symbol.get_Width(&width));
+    return width == 0;
 }
 
 /// The path is the symbol's own property; reading and writing take it from there.
@@ -34,13 +41,32 @@ Ptr<_CSymbolColl> OpenCatalogue(const fs::path& folder) {
     return catalogue;
 }
 
+Ptr<_CSymbolColl> ImportFolder(const fs::path& folder) {
+    RequireFolder(folder);
+    Ptr<_CSymbolColl> symbols = Create<_CSymbolColl>(__uuidof(CSymbolColl));
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+        if (!HasExtension(entry.path(), L".wsc"))
+            continue;
+        Ptr<_CSymbol> symbol = Create<_CSymbol>(__uuidof(CSymbol));
+        SetPath(*symbol.Get(), entry.path());
+        Check(symbol->ReadFromFile(), entry.path().filename().wstring());
+        if (!IsEmpty(*symbol.Get()))
+            Check(symbols->AppendRef(symbol.Put())); // Append would copy it without its size
+    }
+    LONG count = 0;
+    Check(symbols->get_Count(&count));
+    if (count == 0)
+        throw Failure{L"Keine Symbole (*.wsc) im Ordner " + folder.wstring()};
+    return symbols;
+}
+
 int ConvertFolder(const fs::path& textFolder, const fs::path& catalogueFolder) {
     RequireFolder(textFolder);
     fs::create_directories(catalogueFolder);
     const Ptr<_CSymbol> symbol = Create<_CSymbol>(__uuidof(CSymbol));
     int count = 0;
     for (const fs::directory_entry& entry : fs::directory_iterator(textFolder)) {
-        if (!IsTextSymbol(entry.path()))
+        if (!HasExtension(entry.path(), L".syt"))
             continue;
         SetPath(*symbol.Get(), entry.path());
         Check(symbol->ReadFromFile(), entry.path().filename().wstring());

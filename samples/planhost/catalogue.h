@@ -12,6 +12,10 @@ constexpr int kUnitsPerMillimetre = 100;
 /// Loads all binary symbols of a folder.
 Ptr<_CSymbolColl> OpenCatalogue(const std::filesystem::path& folder);
 
+/// Reads every import file (wsc) of a folder into a catalogue of its own. A file that cannot be imported is
+/// shown to the user by the library and left out.
+Ptr<_CSymbolColl> ImportFolder(const std::filesystem::path& folder);
+
 /// Writes every text symbol of a folder as binary symbol into another folder, which is made when missing.
 /// Returns the number of symbols.
 int ConvertFolder(const std::filesystem::path& textFolder, const std::filesystem::path& catalogueFolder);

@@ -1,8 +1,9 @@
-// A host of the symbol library: converts symbols, draws a plan with them, finds them there
-// and shows a catalogue.
+// A host of the symbol library: converts symbols, draws a plan with them, finds them there, exports it and
+// shows a catalogue.
 
 #include "catalogue.h"
 #include "catalogue_sheet.h"
+#include "plan_dxf.h"
 #include "plan_picture.h"
 #include "text.h"
 
@@ -68,12 +69,27 @@ void Mark(const Arguments& arguments) {
         PrintLine(L"  " + name);
 }
 
-void ShowCatalogue(const Arguments& arguments) {
+void Export(const Arguments& arguments) {
+    const Plan plan = ReadPlan(arguments[1]);
     const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
-    DrawCatalogueSheet(*catalogue.Get(), arguments[1]);
+    ExportPlan(plan, *catalogue.Get(), arguments[2]);
+    PrintLine(plan.title + L": " + std::to_wstring(plan.symbols.size()) + L" Symbole nach " + arguments[2] +
+              L" geschrieben.");
+}
+
+void DrawSheet(_CSymbolColl& symbols, const std::wstring& picture) {
+    DrawCatalogueSheet(symbols, picture);
     LONG count = 0;
-    Check(catalogue->get_Count(&count));
-    PrintLine(std::to_wstring(count) + L" Symbole in " + arguments[1] + L" gezeichnet.");
+    Check(symbols.get_Count(&count));
+    PrintLine(std::to_wstring(count) + L" Symbole in " + picture + L" gezeichnet.");
+}
+
+void ShowCatalogue(const Arguments& arguments) {
+    DrawSheet(*OpenCatalogue(arguments[0]).Get(), arguments[1]);
+}
+
+void Import(const Arguments& arguments) {
+    DrawSheet(*ImportFolder(arguments[0]).Get(), arguments[1]);
 }
 
 struct Command {
@@ -87,7 +103,9 @@ constexpr Command kCommands[] = {
     {L"convert", 2, 2, L"TEXTORDNER KATALOGORDNER", Convert},
     {L"plan", 3, 4, L"KATALOGORDNER PLANDATEI BILD.png [BILDBREITE]", Plot},
     {L"mark", 5, 7, L"KATALOGORDNER PLANDATEI BILD.png X Y [X2 Y2]", Mark},
+    {L"dxf", 3, 3, L"KATALOGORDNER PLANDATEI PLAN.dxf", Export},
     {L"sheet", 2, 2, L"KATALOGORDNER BILD.png", ShowCatalogue},
+    {L"import", 2, 2, L"WSCORDNER BILD.png", Import},
 };
 
 [[noreturn]] void FailWithUsage() {

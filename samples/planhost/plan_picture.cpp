@@ -2,7 +2,9 @@
 
 #include "bitmap.h"
 #include "picture_box.h"
+#include "plan_symbols.h"
 #include "text.h"
+#include "wall_outline.h"
 
 #include <QMath.h>
 
@@ -43,20 +45,6 @@ Sheet MakeSheet(const Plan& plan, int pixelWidth) {
     return {Bitmap(pixelWidth, static_cast<int>(pixelHeight)), std::move(transformation)};
 }
 
-/// Every symbol that the plan names, in the plan's order; none may be missing.
-std::vector<Ptr<_CSymbol>> FindSymbols(const Plan& plan, _CSymbolColl& catalogue) {
-    std::vector<Ptr<_CSymbol>> symbols;
-    for (const PlacedSymbol& placed : plan.symbols) {
-        Ptr<_CSymbol> symbol;
-        Check(catalogue.get_ItemByIndex(Bstr(placed.name).Get(), symbol.Put()));
-        if (!symbol)
-            throw Failure{L"Zeile " + std::to_wstring(placed.line) + L": Das Symbol \"" + placed.name +
-                          L"\" ist nicht im Katalog."};
-        symbols.push_back(std::move(symbol));
-    }
-    return symbols;
-}
-
 void DrawFloors(const Plan& plan, const Sheet& sheet) {
     for (const Floor& floor : plan.floors) {
         const POINT leftTop = sheet.ToPixel(floor.area.left, floor.area.top);
@@ -68,7 +56,6 @@ void DrawFloors(const Plan& plan, const Sheet& sheet) {
     }
 }
 
-/// A wall is its middle line, widened by half the thickness to both sides.
 void DrawWalls(const Plan& plan, const Sheet& sheet) {
     const HDC dc = sheet.bitmap.Dc();
     const int state = SaveDC(dc);
@@ -77,17 +64,9 @@ void DrawWalls(const Plan& plan, const Sheet& sheet) {
     SetDCPenColor(dc, kWallColour);
     SetDCBrushColor(dc, kWallColour);
     for (const Wall& wall : plan.walls) {
-        const double dx = wall.to.x - wall.from.x;
-        const double dy = wall.to.y - wall.from.y;
-        const double half = wall.thickness / (2 * std::hypot(dx, dy));
-        const double sideX = -dy * half;
-        const double sideY = dx * half;
-        const POINT corners[] = {
-            sheet.ToPixel(wall.from.x + sideX, wall.from.y + sideY),
-            sheet.ToPixel(wall.to.x + sideX, wall.to.y + sideY),
-            sheet.ToPixel(wall.to.x - sideX, wall.to.y - sideY),
-            sheet.ToPixel(wall.from.x - sideX, wall.from.y - sideY),
-        };
+        POINT corners[4];
+        std::ranges::transform(Outline(wall), corners,
+                               [&](const Position& corner) { return sheet.ToPixel(corner.x, corner.y); });
         Polygon(dc, corners, 4);
     }
     RestoreDC(dc, state);

@@ -7,6 +7,32 @@
 
 namespace base {
 
+/// The number that eight digits in one word make, the first in the lowest byte; nothing else may be in it.
+inline std::int64_t ValueOfDigits(std::uint64_t word) {
+    // Neighbours become numbers up to 99, the four of them are weighted and added by two multiplications.
+    const std::uint64_t digits = word - 0x3030303030303030U;
+    const std::uint64_t pairs = digits * 10 + (digits >> 8);
+    constexpr std::uint64_t kPair = 0x000000FF000000FFU;
+    constexpr std::uint64_t kOuter = (1000000ULL << 32) + 100;
+    constexpr std::uint64_t kInner = (10000ULL << 32) + 1;
+    return static_cast<std::int64_t>(((pairs & kPair) * kOuter + ((pairs >> 16) & kPair) * kInner) >> 32);
+}
+
+/// How many digits the eight bytes at `at` begin with, and the number that these make (0 for none).
+inline std::size_t LeadingDigits(const char* at, std::int64_t& value) {
+    static_assert(std::endian::native == std::endian::little);
+    constexpr std::uint64_t kZeros = 0x3030303030303030U;
+    std::uint64_t word = 0;
+    std::memcpy(&word, at, sizeof word);
+    // A byte keeps its upper half in both sums only when it is a digit; what follows the first other one may
+    // be wrong, for a sum may carry into the next byte.
+    const std::uint64_t others = ((word & (word + 0x0606060606060606U)) & 0xF0F0F0F0F0F0F0F0U) ^ kZeros;
+    const std::size_t count = others == 0 ? 8 : static_cast<std::size_t>(std::countr_zero(others)) / 8;
+    const std::size_t missing = 8 * (8 - count);
+    value = count == 0 ? 0 : ValueOfDigits(missing == 0 ? word : word << missing | kZeros >> (64 - missing));
+    return count;
+}
+
 /// The value of one to eight digits; -1 when anything else is among them, or when there are none or more.
 ///
 /// All digits are checked and converted at once in one 64-bit word, so the time does not depend on their
@@ -33,13 +59,7 @@ inline std::int64_t DigitsValue(const char* at, std::size_t count) {
         word |= kZeros >> (64 - missing);
     if (((word & (word + 0x0606060606060606U)) & 0xF0F0F0F0F0F0F0F0U) != kZeros)
         return -1;
-    // Neighbours become numbers up to 99, the four of them are weighted and added by two multiplications.
-    const std::uint64_t digits = word - kZeros;
-    const std::uint64_t pairs = digits * 10 + (digits >> 8);
-    constexpr std::uint64_t kPair = 0x000000FF000000FFU;
-    constexpr std::uint64_t kOuter = (1000000ULL << 32) + 100;
-    constexpr std::uint64_t kInner = (10000ULL << 32) + 1;
-    return static_cast<std::int64_t>(((pairs & kPair) * kOuter + ((pairs >> 16) & kPair) * kInner) >> 32);
+    return ValueOfDigits(word);
 }
 
 } // namespace base

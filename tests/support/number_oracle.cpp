@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "base/number_reader.h"
+#include "qsymbol/files/wsc_fields.h"
 
 #include <array>
 #include <cmath>
@@ -108,15 +109,36 @@ std::string Disagreement(std::string_view text, const base::RegionalSettings& se
     return "";
 }
 
+/// A coordinate of an import file, between other fields and alone in its file.
+std::string CoordinateDisagreement(std::string_view text, const base::RegionalSettings& settings) {
+    if (text.find_first_of(" \r\n") != std::string_view::npos)
+        return "";
+    std::string comma(text);
+    if (const std::size_t point = comma.find('.'); point != std::string::npos)
+        comma[point] = ',';
+    const double expected = SlowDecimal(comma, settings).value;
+    qsymbol::WscNumbers numbers(settings);
+    const std::string file = std::string(text) + " 12345\r\n" + std::string(text);
+    qsymbol::WscFields first(std::string_view(file).substr(0, text.size() + 6), file, numbers);
+    if (first.Coordinate() != expected || first.Coordinate() != 12345)
+        return "Coordinate";
+    qsymbol::WscFields last(std::string_view(file).substr(text.size() + 8), file, numbers);
+    return last.Coordinate() == expected && !last.More() ? "" : "the last Coordinate";
+}
+
 } // namespace
 
 std::string BrokenNumberPromise(std::string_view text) {
     static const std::array<base::RegionalSettings, 4> settings = {
         base::RegionalSettings{",", ".", nullptr}, base::RegionalSettings{".", ",", nullptr},
         base::RegionalSettings{",", "\xA0", nullptr}, base::RegionalSettings{".", "", nullptr}};
-    for (const base::RegionalSettings& one : settings)
-        if (const std::string broken = Disagreement(text, one); !broken.empty())
+    for (const base::RegionalSettings& one : settings) {
+        std::string broken = Disagreement(text, one);
+        if (broken.empty())
+            broken = CoordinateDisagreement(text, one);
+        if (!broken.empty())
             return broken + " under decimal separator " + one.decimal;
+    }
     return "";
 }
 

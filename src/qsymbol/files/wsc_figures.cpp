@@ -1,8 +1,10 @@
 #include "qsymbol/files/wsc_figures.h"
 
 #include "base/checked.h"
+#include "qsymbol/files/field_cursor.h"
 
 #include <algorithm>
+#include <array>
 
 namespace qsymbol {
 
@@ -10,10 +12,8 @@ using base::RunTimeError;
 
 namespace {
 
-/// Points that a continuation line with so many fields carries: one, two, three or none.
-std::size_t PointsOf(std::size_t fieldCount) {
-    return fieldCount == 3 || fieldCount == 5 || fieldCount == 7 ? fieldCount / 2 : 0;
-}
+/// Room that a list gets at least when a continuation line makes it grow; after that it doubles.
+constexpr std::size_t kLeastGrowth = 8;
 
 /// Most points that a continuation line can carry; the counter always grows by them.
 constexpr std::size_t kPointsOfLine = 3;
@@ -35,31 +35,31 @@ ElementRecord& WscFigures::Current() {
     return symbol_.elements[opened_ - 1];
 }
 
-void WscFigures::OpenLine(FieldCursor fields) {
+void WscFigures::OpenLine(WscFields fields) {
     OpenPolyline(fields, 2);
 }
 
-void WscFigures::OpenChain(FieldCursor fields) {
+void WscFigures::OpenChain(WscFields fields) {
     OpenPolyline(fields, 3);
     counter_ = 4;
 }
 
-void WscFigures::OpenPolyline(FieldCursor& fields, std::size_t points) {
+void WscFigures::OpenPolyline(WscFields& fields, std::size_t points) {
     ElementRecord& element = OpenElement(ElementType::Poly);
     Resize(element.points, points);
     ReadKeys(fields, wsc_format::kLineKeys, Colour::Line);
     for (qmath::Point& point : element.points)
-        point = ToSymbol(ReadPlace(fields), symbol_.height);
+        point = ToSymbol(fields.Place(), symbol_.height);
 }
 
-void WscFigures::OpenArea(FieldCursor fields) {
+void WscFigures::OpenArea(WscFields fields) {
     OpenElement(ElementType::Poly).lineClosed = true;
     for (std::string_view field; fields.Next(field);)
         ReadKey(field, Colour::LineAndFill);
     counter_ = 1;
 }
 
-void WscFigures::OpenEllipse(FieldCursor fields, bool filled) {
+void WscFigures::OpenEllipse(WscFields fields, bool filled) {
     ElementRecord& element = OpenElement(ElementType::Undefined);
     if (filled)
         ReadKeys(fields, wsc_format::kFilledKeys, Colour::LineAndFill);
@@ -77,7 +77,7 @@ void WscFigures::OpenEllipse(FieldCursor fields, bool filled) {
     box_.Ellipse(std::span<qmath::Point, WscBox::kEllipsePoints>(element.points), symbol_.height);
 }
 
-bool WscFigures::OpenArc(FieldCursor fields) {
+bool WscFigures::OpenArc(WscFields fields) {
     ElementRecord& element = OpenElement(ElementType::Undefined);
     ReadKeys(fields, wsc_format::kLineKeys, Colour::Line);
     ReadBox(fields);
@@ -88,45 +88,53 @@ bool WscFigures::OpenArc(FieldCursor fields) {
     return true;
 }
 
-void WscFigures::OpenPie(FieldCursor fields) {
+void WscFigures::OpenPie(WscFields fields) {
     OpenElement(ElementType::Poly).lineClosed = true;
     ReadKeys(fields, wsc_format::kFilledKeys, Colour::LineAndFill);
     ReadBox(fields);
     pie_ = true;
 }
 
-void WscFigures::AddPoints(FieldCursor fields, std::size_t fieldCount) {
+void WscFigures::AddPoints(WscFields fields) {
     std::vector<qmath::Point>& points = Current().points;
+    std::array<double, 2 * kPointsOfLine> values; // NOLINT: only the first `given` are read
+    std::size_t given = 0;
+    while (given < values.size() && fields.More())
+        values[given++] = fields.Coordinate();
+    const std::size_t count = fields.More() || given % 2 != 0 ? 0 : given / 2;
     const std::size_t start = counter_;
-    const std::size_t count = PointsOf(fieldCount);
     counter_ += kPointsOfLine;
-    Resize(points, points.size() + count);
-    for (std::size_t i = start; i < start + count; ++i) {
+    const std::size_t size = points.size() + count;
+    if (size > points.capacity())
+        Reserve(points, std::max({size, 2 * points.capacity(), kLeastGrowth}));
+    Resize(points, size);
+    for (std::size_t i = 0; i < count; ++i) {
         // After a line with fewer points than three the counter is ahead of the list.
-        if (i < 1 || i > points.size())
+        const std::size_t place = start + i;
+        if (place < 1 || place > points.size())
             base::Raise(RunTimeError::SubscriptOutOfRange);
-        points[i - 1] = ToSymbol(ReadPlace(fields), symbol_.height);
+        points[place - 1] = ToSymbol({values[2 * i], values[2 * i + 1]}, symbol_.height);
     }
 }
 
-void WscFigures::SetArcEnds(FieldCursor fields) {
+void WscFigures::SetArcEnds(WscFields fields) {
     std::vector<qmath::Point>& points = Current().points;
     Resize(points, 3);
-    points[1] = ToSymbol(ReadPlace(fields), symbol_.height);
-    points[2] = ToSymbol(ReadPlace(fields), symbol_.height);
+    points[1] = ToSymbol(fields.Place(), symbol_.height);
+    points[2] = ToSymbol(fields.Place(), symbol_.height);
 }
 
-void WscFigures::SetPieOutline(FieldCursor fields) {
+void WscFigures::SetPieOutline(WscFields fields) {
     ElementRecord& element = Current();
     if (!pie_)
         base::Raise(RunTimeError::SubscriptOutOfRange);
     Resize(element.points, WscBox::kSectorPoints);
-    const WscPlace from = ReadPlace(fields);
-    const WscPlace to = ReadPlace(fields);
+    const WscPlace from = fields.Place();
+    const WscPlace to = fields.Place();
     box_.Sector(from, to, std::span<qmath::Point, WscBox::kSectorPoints>(element.points), symbol_.height);
 }
 
-void WscFigures::ReadKeys(FieldCursor& fields, int count, Colour colour) {
+void WscFigures::ReadKeys(WscFields& fields, int count, Colour colour) {
     for (std::string_view field; count > 0 && fields.Next(field); --count)
         ReadKey(field, colour);
 }
@@ -147,17 +155,9 @@ void WscFigures::ReadKey(std::string_view field, Colour colour) {
     }
 }
 
-WscPlace WscFigures::ReadPlace(FieldCursor& fields) {
-    std::string_view field;
-    fields.Next(field);
-    const double x = numbers_.Coordinate(field);
-    fields.Next(field);
-    return {x, numbers_.Coordinate(field)};
-}
-
-void WscFigures::ReadBox(FieldCursor& fields) {
-    box_.first = ReadPlace(fields);
-    box_.second = ReadPlace(fields);
+void WscFigures::ReadBox(WscFields& fields) {
+    box_.first = fields.Place();
+    box_.second = fields.Place();
 }
 
 void WscFigures::MakeCircle(ElementRecord& element) {
@@ -167,15 +167,18 @@ void WscFigures::MakeCircle(ElementRecord& element) {
 }
 
 void WscFigures::Resize(std::vector<qmath::Point>& points, std::size_t size) {
-    const std::size_t room = points.capacity();
-    if (size > room) {
-        const std::size_t wanted = room == 0 ? size : std::max(size, 2 * room);
-        budget_.Charge(wanted, sizeof(qmath::Point));
-        points.reserve(wanted);
-        if (room != 0)
-            budget_.Release(room, sizeof(qmath::Point));
-    }
+    Reserve(points, size);
     points.resize(size);
+}
+
+void WscFigures::Reserve(std::vector<qmath::Point>& points, std::size_t size) {
+    const std::size_t room = points.capacity();
+    if (size <= room)
+        return;
+    budget_.Charge(size, sizeof(qmath::Point));
+    points.reserve(size);
+    if (room != 0)
+        budget_.Release(room, sizeof(qmath::Point));
 }
 
 } // namespace qsymbol

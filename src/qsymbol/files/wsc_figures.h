@@ -1,8 +1,8 @@
 #pragma once
 
-#include "qsymbol/files/field_cursor.h"
 #include "qsymbol/files/memory_budget.h"
 #include "qsymbol/files/wsc_box.h"
+#include "qsymbol/files/wsc_fields.h"
 #include "qsymbol/files/wsc_format.h"
 #include "qsymbol/files/wsc_numbers.h"
 #include "qsymbol/model/symbol.h"
@@ -22,42 +22,43 @@ public:
         : symbol_(symbol), numbers_(numbers), budget_(budget) {}
 
     /// A straight line of two points (STR).
-    void OpenLine(FieldCursor fields);
+    void OpenLine(WscFields fields);
     /// A chain with its first three points (STF).
-    void OpenChain(FieldCursor fields);
+    void OpenChain(WscFields fields);
     /// A filled area without points yet (FLA).
-    void OpenArea(FieldCursor fields);
+    void OpenArea(WscFields fields);
     /// An ellipse (ELL), filled or not (EFL): a circle when its box is square.
-    void OpenEllipse(FieldCursor fields, bool filled);
+    void OpenEllipse(WscFields fields, bool filled);
     /// An arc (EBO) with its centre only. False for an elliptic one, which cannot be read.
-    bool OpenArc(FieldCursor fields);
+    bool OpenArc(WscFields fields);
     /// A sector (PIE) without points yet.
-    void OpenPie(FieldCursor fields);
+    void OpenPie(WscFields fields);
 
-    /// The next one to three points of a chain or an area (SFF, FLF), as the number of the line's fields
-    /// says.
-    void AddPoints(FieldCursor fields, std::size_t fieldCount);
+    /// The next one to three points of a chain or an area (SFF, FLF); none on a line with another number of
+    /// fields than these have.
+    void AddPoints(WscFields fields);
     /// The start and the end of an arc (EBF).
-    void SetArcEnds(FieldCursor fields);
+    void SetArcEnds(WscFields fields);
     /// The two rays of a sector, which make its outline (PIF). Error 9 when the last figure is none.
-    void SetPieOutline(FieldCursor fields);
+    void SetPieOutline(WscFields fields);
 
 private:
     enum class Colour { Line, LineAndFill };
 
     ElementRecord& OpenElement(ElementType type);
-    void OpenPolyline(FieldCursor& fields, std::size_t points);
+    void OpenPolyline(WscFields& fields, std::size_t points);
     /// The element that the last figure line opened. Error 9 ahead of any.
     ElementRecord& Current();
 
-    void ReadKeys(FieldCursor& fields, int count, Colour colour);
+    void ReadKeys(WscFields& fields, int count, Colour colour);
     void ReadKey(std::string_view field, Colour colour);
-    WscPlace ReadPlace(FieldCursor& fields);
-    void ReadBox(FieldCursor& fields);
+    void ReadBox(WscFields& fields);
     void MakeCircle(ElementRecord& element);
 
-    /// Changes the number of points, keeping those there are; room grows in powers of two.
+    /// Changes the number of points, keeping those there are.
     void Resize(std::vector<qmath::Point>& points, std::size_t size);
+    /// Makes room for so many points in all.
+    void Reserve(std::vector<qmath::Point>& points, std::size_t size);
 
     Symbol& symbol_;
     WscNumbers& numbers_;

@@ -11,7 +11,11 @@ namespace qsymbol {
 /// Reads the numbers of an import file: the first "." counts as ",", then the user's settings decide.
 class WscNumbers {
 public:
-    explicit WscNumbers(const base::RegionalSettings& settings) : numbers_(settings) {}
+    explicit WscNumbers(const base::RegionalSettings& settings)
+        : numbers_(settings), pointIsDecimal_(settings.decimal == ",") {}
+
+    /// True when the file's "." ends up as the user's decimal separator.
+    bool PointIsDecimal() const { return pointIsDecimal_; }
 
     /// A coordinate in logical units, not rounded; 0 for what is no number or too large for a double.
     double Coordinate(std::string_view field);
@@ -25,6 +29,7 @@ private:
     std::string_view WithComma(std::string_view field);
 
     base::NumberReader numbers_;
+    bool pointIsDecimal_;
     std::string scratch_; ///< kept between calls, so that a number costs no memory block of its own
 };
 

@@ -2,16 +2,14 @@
 
 #include "base/error.h"
 #include "base/whole_file.h"
-#include "qsymbol/files/field_cursor.h"
 #include "qsymbol/files/line_cursor.h"
 #include "qsymbol/files/memory_budget.h"
+#include "qsymbol/files/wsc_fields.h"
 #include "qsymbol/files/wsc_figures.h"
 #include "qsymbol/files/wsc_format.h"
 #include "qsymbol/files/wsc_numbers.h"
 #include "qsymbol/files/wsc_survey.h"
 #include "qsymbol/frame/library_error.h"
-
-#include <algorithm>
 
 namespace qsymbol {
 
@@ -19,19 +17,15 @@ using wsc_format::Keyword;
 
 namespace {
 
-std::size_t FieldCount(std::string_view line) {
-    return static_cast<std::size_t>(std::count(line.begin(), line.end(), wsc_format::kSeparator)) + 1;
-}
-
 /// The pass that reads; the survey has seen every line before.
 class WscReader {
 public:
-    WscReader(Symbol& symbol, std::size_t fileSize, const FileEnvironment& environment)
-        : symbol_(symbol), environment_(environment), numbers_(environment.regional), budget_(fileSize),
-          figures_(symbol, numbers_, budget_) {}
+    WscReader(Symbol& symbol, std::string_view bytes, const FileEnvironment& environment)
+        : symbol_(symbol), bytes_(bytes), environment_(environment), numbers_(environment.regional),
+          budget_(bytes.size()), figures_(symbol, numbers_, budget_) {}
 
-    void Read(std::string_view bytes, std::size_t figureCount) {
-        LineCursor lines(bytes);
+    void Read(std::size_t figureCount) {
+        LineCursor lines(bytes_);
         std::string_view line;
         while (lines.Next(line) && line.empty()) {
         }
@@ -47,11 +41,11 @@ public:
 private:
     /// The header is looked at ahead of the table, so that a foreign file is told from one without figures.
     void ReadHeader(std::string_view line, std::size_t figureCount) {
-        FieldCursor fields(line, wsc_format::kSeparator);
+        WscFields fields(line, bytes_, numbers_);
         std::string_view field;
         fields.Next(field);
-        const bool header =
-            wsc_format::KeywordOf(field) == Keyword::Header && FieldCount(line) == wsc_format::kHeaderFields;
+        const bool header = wsc_format::KeywordOf(field) == Keyword::Header &&
+                            WscFields::Count(line) == wsc_format::kHeaderFields;
         if (!header && !line.empty())
             Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromWSCFile", environment_.strings);
         SizeElements(figureCount);
@@ -72,7 +66,7 @@ private:
 
     /// False at an elliptic arc, which ends the import.
     bool ReadLine(std::string_view line) {
-        FieldCursor fields(line, wsc_format::kSeparator);
+        WscFields fields(line, bytes_, numbers_);
         std::string_view keyword;
         fields.Next(keyword);
         switch (wsc_format::KeywordOf(keyword)) {
@@ -84,7 +78,7 @@ private:
         case Keyword::Pie: figures_.OpenPie(fields); break;
         case Keyword::Arc: return figures_.OpenArc(fields);
         case Keyword::ChainPoints:
-        case Keyword::AreaPoints: figures_.AddPoints(fields, FieldCount(line)); break;
+        case Keyword::AreaPoints: figures_.AddPoints(fields); break;
         case Keyword::ArcPoints: figures_.SetArcEnds(fields); break;
         case Keyword::PiePoints: figures_.SetPieOutline(fields); break;
         case Keyword::Header:
@@ -95,6 +89,7 @@ private:
     }
 
     Symbol& symbol_;
+    std::string_view bytes_;
     const FileEnvironment& environment_;
     WscNumbers numbers_;
     MemoryBudget budget_;
@@ -116,7 +111,7 @@ void ParseWsc(Symbol& symbol, std::string_view bytes, const FileEnvironment& env
                                   environment.codePage.Decode(*survey.unknown) + u" --> Abbruch");
         return;
     }
-    WscReader(symbol, bytes.size(), environment).Read(bytes, survey.figures);
+    WscReader(symbol, bytes, environment).Read(survey.figures);
 }
 
 } // namespace qsymbol

@@ -1,0 +1,114 @@
+#include "support/automation_test.h"
+#include "support/message_boxes.h"
+#include "support/shapes.h"
+#include "support/text.h"
+
+namespace {
+
+using support::Answer;
+using support::Dispatch;
+using support::Failure;
+using support::Outcome;
+using support::Ref;
+using support::RunTimeError;
+using support::Value;
+
+class ReportedErrors : public support::AutomationTest {};
+
+/// The same failure through the vtable and by name.
+TEST_F(ReportedErrors, AreTheSameOnBothRoads) {
+    const Ref<_CSymElementColl> elements = support::NewElements({});
+    EXPECT_EQ(Outcome(elements->RemoveOnPos(1)), RunTimeError(5));
+    const Answer late = Dispatch(elements).Call(L"RemoveOnPos", {1});
+    EXPECT_EQ(late.status, DISP_E_EXCEPTION);
+    EXPECT_EQ(late.failure, RunTimeError(5));
+
+    const Ref<_CPtList> list = support::NewPtList({});
+    Ref<_CPt> pt;
+    EXPECT_EQ(Outcome(list->get_Item(1, pt.Put())), RunTimeError(9, L"QMath"));
+    EXPECT_EQ(Dispatch(list).Get(L"Item", {1}).failure, RunTimeError(9, L"QMath"));
+
+    const Ref<_CSymbol> symbol = support::NewSymbol();
+    EXPECT_EQ(Outcome(symbol->ReadFromFile()), support::LibraryError(3501, L"CSymbol.ReadFromFile"));
+    EXPECT_EQ(Dispatch(symbol).Call(L"ReadFromFile").failure,
+              support::LibraryError(3501, L"CSymbol.ReadFromFile"));
+}
+
+TEST_F(ReportedErrors, ASuccessLeavesNoErrorBehind) {
+    const Ref<_CSymElementColl> elements = support::NewElements({});
+    EXPECT_TRUE(FAILED(Dispatch(elements).Call(L"RemoveOnPos", {1}).status));
+    const Answer answer = Dispatch(elements).Get(L"Count");
+    EXPECT_OK(answer.status);
+    EXPECT_EQ(answer.failure, Failure{});
+}
+
+TEST_F(ReportedErrors, AMissingPlaceForAResultIsToldToo) {
+    const Ref<_CPt> pt = support::NewPt(0, 0);
+    const Failure failure = Outcome(pt->get_X(nullptr));
+    EXPECT_EQ(failure.status, E_POINTER);
+    EXPECT_EQ(failure.source, L"QMath");
+    EXPECT_NE(failure.description, L"");
+}
+
+/// A member that this version does not have yet says so; one that it has works.
+class EveryMember : public support::AutomationTest {
+protected:
+    static void ExpectWorksOrSaysSo(const Dispatch& object, const wchar_t* className, const wchar_t* member,
+                                    const std::vector<Value>& arguments) {
+        const Answer answer = object.CallOrGet(member, arguments);
+        if (SUCCEEDED(answer.status))
+            return;
+        const std::wstring source = std::wstring(className) + L"." + member;
+        EXPECT_EQ(answer.failure,
+                  (Failure{E_NOTIMPL, source, source + L" ist in dieser Version noch nicht verfügbar."}));
+    }
+};
+
+TEST_F(EveryMember, OfASymbol) {
+    const Dispatch symbol(support::NewSymbol(0, 0, 10, 10, {{.type = symPoly, .points = {{0, 0}, {1, 1}}}}));
+    const Value trans = support::NewTrans();
+    const Value rect = support::Create<CRect, _CRect>();
+    float x = 0;
+    float y = 0;
+    LONG worldX = 0;
+    LONG worldY = 0;
+    ExpectWorksOrSaysSo(symbol, L"CSymbol", L"DxfExport", {0, 0, 0.0});
+    ExpectWorksOrSaysSo(symbol, L"CSymbol", L"CatchPt",
+                        {Value::Variable(x), Value::Variable(y), Value::Variable(worldX),
+                         Value::Variable(worldY), 0, 0, 0.0, trans, 5});
+    ExpectWorksOrSaysSo(symbol, L"CSymbol", L"GetBoundingRect", {0, 0, 0.0, rect});
+    ExpectWorksOrSaysSo(symbol, L"CSymbol", L"ObjIdentByPt", {0, 0, 0.0, trans, 0, 0});
+    ExpectWorksOrSaysSo(symbol, L"CSymbol", L"ObjIdentByRect", {0, 0, 0.0, trans, rect});
+    ExpectWorksOrSaysSo(symbol, L"CSymbol", L"GetColor2ColNr", {1, true});
+}
+
+TEST_F(EveryMember, OfAnElementCollection) {
+    const Dispatch elements(support::NewElements({}));
+    const Value trans = support::NewTrans();
+    Value rect = support::Create<CRect, _CRect>();
+    Value element = Value::Nothing();
+    Value pt = Value::Nothing();
+    ExpectWorksOrSaysSo(elements, L"CSymElementColl", L"Draw", {Value::Nothing(), trans});
+    ExpectWorksOrSaysSo(elements, L"CSymElementColl", L"DrawTracker", {Value::Nothing(), trans});
+    ExpectWorksOrSaysSo(elements, L"CSymElementColl", L"ObjIdentByPt", {trans, 0, 0});
+    ExpectWorksOrSaysSo(elements, L"CSymElementColl", L"ObjIdentByRect", {trans, Value::Variable(rect)});
+    ExpectWorksOrSaysSo(elements, L"CSymElementColl", L"PtIdent",
+                        {trans, 0, 0, Value::Variable(element), Value::Variable(pt)});
+    const Dispatch single(support::NewElement({}));
+    ExpectWorksOrSaysSo(single, L"CSymElement", L"Draw", {Value::Nothing(), trans});
+    ExpectWorksOrSaysSo(single, L"CSymElement", L"DrawTracker", {Value::Nothing(), trans});
+}
+
+TEST_F(EveryMember, OfACatalogueAndATool) {
+    const Dispatch symbols = Dispatch::Create(L"QSymbol.CSymbolColl");
+    ExpectWorksOrSaysSo(symbols, L"CSymbolColl", L"GetSymInput", {L"fehlt"});
+    const Dispatch tool = Dispatch::Create(L"QSymbol.CSymTool");
+    const Value trans = support::NewTrans();
+    ExpectWorksOrSaysSo(tool, L"CSymTool", L"Ready", {});
+    ExpectWorksOrSaysSo(tool, L"CSymTool", L"SymRefCount", {});
+    ExpectWorksOrSaysSo(tool, L"CSymTool", L"AddSymref", {1, 2, 3, 0.5, support::NewSymbol()});
+    ExpectWorksOrSaysSo(tool, L"CSymTool", L"SetMoveStartPos", {1, 2});
+    ExpectWorksOrSaysSo(tool, L"CSymTool", L"Draw", {Value::Nothing(), trans});
+}
+
+} // namespace
