@@ -101,3 +101,11 @@ benchmark_source() {
     (cd "$folder" && "${apt[@]}" source benchmark 2>/dev/null)
     mv "$folder"/benchmark-*/ "$folder/benchmark"
 }
+
+# german_locale: a German locale of the project's own, so that Wine takes German settings and keeps UTF-8 file names.
+german_locale() {
+    packages locales
+    [ -d build/locale/de_DE.UTF-8 ] && return
+    mkdir -p build/locale
+    localedef --no-archive -i de_DE -f UTF-8 "$ROOT/build/locale/de_DE.UTF-8"
+}

@@ -102,8 +102,8 @@ struct Command {
 constexpr Command kCommands[] = {
     {L"convert", 2, 2, L"TEXTORDNER KATALOGORDNER", Convert},
     {L"plan", 3, 4, L"KATALOGORDNER PLANDATEI BILD.png [BILDBREITE]", Plot},
-    {L"mark", 5, 7, L"KATALOGORDNER PLANDATEI BILD.png X Y [X2 Y2]", Mark},
     {L"dxf", 3, 3, L"KATALOGORDNER PLANDATEI PLAN.dxf", Export},
+    {L"mark", 5, 7, L"KATALOGORDNER PLANDATEI BILD.png X Y [X2 Y2]", Mark},
     {L"sheet", 2, 2, L"KATALOGORDNER BILD.png", ShowCatalogue},
     {L"import", 2, 2, L"WSCORDNER BILD.png", Import},
 };
