@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <numbers>
 
 namespace {
 
@@ -40,8 +39,7 @@ void SetScale(_CSymbol& symbol) {
 void AppendSymbol(const PlacedSymbol& placed, LONG height, _CSymbol& symbol, const Bstr& file) {
     // y grows downwards in the plan and upwards in the file.
     Check(symbol.put_Etagenbreite(height));
-    Check(symbol.DxfExportSym(Logical(placed.at.x), Logical(placed.at.y),
-                              placed.angle * std::numbers::pi / 180, file.Get()),
+    Check(symbol.DxfExportSym(Logical(placed.at.x), Logical(placed.at.y), Radians(placed), file.Get()),
           L"Zeile " + std::to_wstring(placed.line));
 }
 
