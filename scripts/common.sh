@@ -7,6 +7,8 @@ ROOT=$PWD
 JOBS=$(nproc)
 
 export LC_ALL=C.UTF-8
+# Also the compiler cache stays inside the checkout.
+export CCACHE_DIR=$ROOT/build/ccache CCACHE_BASEDIR=$ROOT
 export WINEPREFIX=$ROOT/build/wine WINEARCH=win64 WINEDEBUG=-all
 
 say() { printf '\n== %s\n' "$*"; }
@@ -100,4 +102,12 @@ benchmark_source() {
     "${apt[@]}" update
     (cd "$folder" && "${apt[@]}" source benchmark 2>/dev/null)
     mv "$folder"/benchmark-*/ "$folder/benchmark"
+}
+
+# german_locale: a German locale of the project's own, so that Wine takes German settings and keeps UTF-8 file names.
+german_locale() {
+    packages locales
+    [ -d build/locale/de_DE.UTF-8 ] && return
+    mkdir -p build/locale
+    localedef --no-archive -i de_DE -f UTF-8 "$ROOT/build/locale/de_DE.UTF-8"
 }

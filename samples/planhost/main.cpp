@@ -1,10 +1,13 @@
-// A host of the symbol library: converts symbols, draws a plan with them and shows a catalogue.
+// A host of the symbol library: converts symbols, draws a plan with them, finds them there, exports it and
+// shows a catalogue.
 
 #include "catalogue.h"
 #include "catalogue_sheet.h"
+#include "plan_dxf.h"
 #include "plan_picture.h"
 #include "text.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -12,6 +15,9 @@ namespace {
 
 constexpr int kDefaultPixelWidth = 2000;
 constexpr int kLargestPixelWidth = 10000;
+constexpr int kLargestPixel = 20000; // no picture is higher
+
+[[noreturn]] void FailWithUsage();
 
 using Arguments = std::vector<std::wstring>;
 
@@ -20,22 +26,55 @@ void Convert(const Arguments& arguments) {
     PrintLine(std::to_wstring(count) + L" Symbole nach " + arguments[1] + L" geschrieben.");
 }
 
-int PixelWidth(const std::wstring& argument) {
+/// A number that must lie within bounds; what: what it is, for the message.
+int Number(const std::wstring& argument, int lowest, int highest, const std::wstring& what) {
     wchar_t* end = nullptr;
-    const long width = std::wcstol(argument.c_str(), &end, 10);
-    if (*end != L'\0' || width < 1 || width > kLargestPixelWidth)
-        throw Failure{L"Keine Bildbreite von 1 bis " + std::to_wstring(kLargestPixelWidth) + L": " +
-                      argument};
-    return static_cast<int>(width);
+    const long number = std::wcstol(argument.c_str(), &end, 10);
+    if (argument.empty() || *end != L'\0' || number < lowest || number > highest)
+        throw Failure{L"Keine " + what + L" von " + std::to_wstring(lowest) + L" bis " +
+                      std::to_wstring(highest) + L": " + argument};
+    return static_cast<int>(number);
 }
 
 void Plot(const Arguments& arguments) {
-    const int width = arguments.size() > 3 ? PixelWidth(arguments[3]) : kDefaultPixelWidth;
+    const int width = arguments.size() > 3 ? Number(arguments[3], 1, kLargestPixelWidth, L"Bildbreite")
+                                           : kDefaultPixelWidth;
     const Plan plan = ReadPlan(arguments[1]);
     const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
     DrawPlan(plan, *catalogue.Get(), width, arguments[2]);
     PrintLine(plan.title + L": " + std::to_wstring(plan.symbols.size()) + L" Symbole in " + arguments[2] +
               L" gezeichnet.");
+}
+
+void Mark(const Arguments& arguments) {
+    if (arguments.size() == 6)
+        FailWithUsage();
+    std::vector<int> at;
+    for (std::size_t i = 3; i < arguments.size(); ++i)
+        at.push_back(Number(arguments[i], 0, kLargestPixel, L"Bildkoordinate"));
+    PointedAt place{{at[0], at[1], at[0], at[1]}, true};
+    if (at.size() == 4) {
+        // A rectangle may be drawn up from any of its corners.
+        place = {
+            {std::min(at[0], at[2]), std::min(at[1], at[3]), std::max(at[0], at[2]), std::max(at[1], at[3])},
+            false};
+    }
+    const Plan plan = ReadPlan(arguments[1]);
+    const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
+    const std::vector<std::wstring> names =
+        MarkPlan(plan, *catalogue.Get(), kDefaultPixelWidth, place, arguments[2]);
+    PrintLine(std::to_wstring(names.size()) + (names.size() == 1 ? L" Symbol in " : L" Symbole in ") +
+              arguments[2] + L" markiert.");
+    for (const std::wstring& name : names)
+        PrintLine(L"  " + name);
+}
+
+void Export(const Arguments& arguments) {
+    const Plan plan = ReadPlan(arguments[1]);
+    const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
+    ExportPlan(plan, *catalogue.Get(), arguments[2]);
+    PrintLine(plan.title + L": " + std::to_wstring(plan.symbols.size()) + L" Symbole nach " + arguments[2] +
+              L" geschrieben.");
 }
 
 void DrawSheet(_CSymbolColl& symbols, const std::wstring& picture) {
@@ -63,6 +102,8 @@ struct Command {
 constexpr Command kCommands[] = {
     {L"convert", 2, 2, L"TEXTORDNER KATALOGORDNER", Convert},
     {L"plan", 3, 4, L"KATALOGORDNER PLANDATEI BILD.png [BILDBREITE]", Plot},
+    {L"dxf", 3, 3, L"KATALOGORDNER PLANDATEI PLAN.dxf", Export},
+    {L"mark", 5, 7, L"KATALOGORDNER PLANDATEI BILD.png X Y [X2 Y2]", Mark},
     {L"sheet", 2, 2, L"KATALOGORDNER BILD.png", ShowCatalogue},
     {L"import", 2, 2, L"WSCORDNER BILD.png", Import},
 };

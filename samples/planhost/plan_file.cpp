@@ -3,6 +3,7 @@
 #include "text.h"
 
 #include <fstream>
+#include <numbers>
 
 namespace {
 
@@ -115,6 +116,10 @@ void TakeRecord(Record record, Plan& plan) {
 }
 
 } // namespace
+
+double Radians(const PlacedSymbol& placed) {
+    return placed.angle * std::numbers::pi / 180;
+}
 
 Plan ReadPlan(const std::filesystem::path& file) {
     std::ifstream stream(file);

@@ -46,4 +46,7 @@ struct Plan {
     std::vector<PlacedSymbol> symbols;
 };
 
+/// The angle of a placed symbol as the library takes it.
+double Radians(const PlacedSymbol& placed);
+
 Plan ReadPlan(const std::filesystem::path& file);

@@ -2,17 +2,21 @@
 
 #include "bitmap.h"
 #include "picture_box.h"
+#include "plan_symbols.h"
 #include "text.h"
+#include "wall_outline.h"
 
 #include <QMath.h>
 
+#include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace {
 
 constexpr COLORREF kWallColour = RGB(74, 74, 78);
 constexpr COLORREF kTextColour = RGB(40, 40, 44);
+constexpr LONG kMarkColour = RGB(226, 74, 20);
+constexpr LONG kOwnColours = -1;
 constexpr int kLargestPixelHeight = 20000;
 // Millimetres in the plan.
 constexpr int kLabelHeight = 230;
@@ -41,20 +45,6 @@ Sheet MakeSheet(const Plan& plan, int pixelWidth) {
     return {Bitmap(pixelWidth, static_cast<int>(pixelHeight)), std::move(transformation)};
 }
 
-/// Every symbol that the plan names, in the plan's order; none may be missing.
-std::vector<Ptr<_CSymbol>> FindSymbols(const Plan& plan, _CSymbolColl& catalogue) {
-    std::vector<Ptr<_CSymbol>> symbols;
-    for (const PlacedSymbol& placed : plan.symbols) {
-        Ptr<_CSymbol> symbol;
-        Check(catalogue.get_ItemByIndex(Bstr(placed.name).Get(), symbol.Put()));
-        if (!symbol)
-            throw Failure{L"Zeile " + std::to_wstring(placed.line) + L": Das Symbol \"" + placed.name +
-                          L"\" ist nicht im Katalog."};
-        symbols.push_back(std::move(symbol));
-    }
-    return symbols;
-}
-
 void DrawFloors(const Plan& plan, const Sheet& sheet) {
     for (const Floor& floor : plan.floors) {
         const POINT leftTop = sheet.ToPixel(floor.area.left, floor.area.top);
@@ -66,7 +56,6 @@ void DrawFloors(const Plan& plan, const Sheet& sheet) {
     }
 }
 
-/// A wall is its middle line, widened by half the thickness to both sides.
 void DrawWalls(const Plan& plan, const Sheet& sheet) {
     const HDC dc = sheet.bitmap.Dc();
     const int state = SaveDC(dc);
@@ -75,31 +64,25 @@ void DrawWalls(const Plan& plan, const Sheet& sheet) {
     SetDCPenColor(dc, kWallColour);
     SetDCBrushColor(dc, kWallColour);
     for (const Wall& wall : plan.walls) {
-        const double dx = wall.to.x - wall.from.x;
-        const double dy = wall.to.y - wall.from.y;
-        const double half = wall.thickness / (2 * std::hypot(dx, dy));
-        const double sideX = -dy * half;
-        const double sideY = dx * half;
-        const POINT corners[] = {
-            sheet.ToPixel(wall.from.x + sideX, wall.from.y + sideY),
-            sheet.ToPixel(wall.to.x + sideX, wall.to.y + sideY),
-            sheet.ToPixel(wall.to.x - sideX, wall.to.y - sideY),
-            sheet.ToPixel(wall.from.x - sideX, wall.from.y - sideY),
-        };
+        POINT corners[4];
+        std::ranges::transform(Outline(wall), corners,
+                               [&](const Position& corner) { return sheet.ToPixel(corner.x, corner.y); });
         Polygon(dc, corners, 4);
     }
     RestoreDC(dc, state);
 }
 
-void DrawSymbols(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols, const Sheet& sheet) {
+/// marked: the places of symbols in the plan that are drawn in the mark colour.
+void DrawSymbols(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
+                 const std::vector<std::size_t>& marked, const Sheet& sheet) {
     const Ptr<PictureBox> box =
         PictureBox::Create(sheet.bitmap.Dc(), sheet.bitmap.Width(), sheet.bitmap.Height(), L"PlanBox");
     for (std::size_t i = 0; i < symbols.size(); ++i) {
         const PlacedSymbol& placed = plan.symbols[i];
-        const double angle = placed.angle * std::numbers::pi / 180;
-        LONG ownColours = -1;
-        Check(symbols[i]->Draw(placed.at.x * kUnitsPerMillimetre, placed.at.y * kUnitsPerMillimetre, angle,
-                               box.Get(), sheet.transformation.Get(), 1.0, 1.0, &ownColours),
+        const bool isMarked = std::find(marked.begin(), marked.end(), i) != marked.end();
+        LONG markColour = isMarked ? kMarkColour : kOwnColours;
+        Check(symbols[i]->Draw(placed.at.x * kUnitsPerMillimetre, placed.at.y * kUnitsPerMillimetre,
+                               Radians(placed), box.Get(), sheet.transformation.Get(), 1.0, 1.0, &markColour),
               L"Zeile " + std::to_wstring(placed.line));
     }
 }
@@ -130,15 +113,33 @@ void WriteTitleAndLabels(const Plan& plan, const Sheet& sheet) {
     }
 }
 
+void DrawSheet(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
+               const std::vector<std::size_t>& marked, const Sheet& sheet) {
+    DrawFloors(plan, sheet);
+    DrawWalls(plan, sheet);
+    DrawSymbols(plan, symbols, marked, sheet);
+    WriteTitleAndLabels(plan, sheet);
+}
+
 } // namespace
 
 void DrawPlan(const Plan& plan, _CSymbolColl& catalogue, int pixelWidth,
               const std::filesystem::path& picture) {
     const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, catalogue);
     const Sheet sheet = MakeSheet(plan, pixelWidth);
-    DrawFloors(plan, sheet);
-    DrawWalls(plan, sheet);
-    DrawSymbols(plan, symbols, sheet);
-    WriteTitleAndLabels(plan, sheet);
+    DrawSheet(plan, symbols, {}, sheet);
     sheet.bitmap.SavePng(picture.wstring());
+}
+
+std::vector<std::wstring> MarkPlan(const Plan& plan, _CSymbolColl& catalogue, int pixelWidth,
+                                   const PointedAt& place, const std::filesystem::path& picture) {
+    const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, catalogue);
+    const Sheet sheet = MakeSheet(plan, pixelWidth);
+    const std::vector<std::size_t> marked = SymbolsAt(place, plan, symbols, *sheet.transformation.Get());
+    DrawSheet(plan, symbols, marked, sheet);
+    sheet.bitmap.SavePng(picture.wstring());
+    std::vector<std::wstring> names;
+    for (const std::size_t i : marked)
+        names.push_back(plan.symbols[i].name);
+    return names;
 }

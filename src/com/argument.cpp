@@ -24,10 +24,11 @@ IUnknown* ObjectOf(const VARIANTARG& value) {
 }
 
 HRESULT ConvertObject(const DispatchParameter& parameter, VARIANTARG* from, VARIANT* to) {
-    // Null is how JScript says Nothing.
-    if (V_VT(from) != VT_NULL && !IsObject(V_VT(from) & VT_TYPEMASK))
+    // Null is how JScript says Nothing; a variable that is to receive an object may be empty before.
+    const bool nothing = V_VT(from) == VT_NULL || (V_VT(from) == VT_EMPTY && parameter.byReference);
+    if (!nothing && !IsObject(V_VT(from) & VT_TYPEMASK))
         return DISP_E_TYPEMISMATCH;
-    IUnknown* const object = V_VT(from) == VT_NULL ? nullptr : ObjectOf(*from);
+    IUnknown* const object = nothing ? nullptr : ObjectOf(*from);
     void* wanted = nullptr;
     if (object != nullptr && FAILED(object->QueryInterface(parameter.iid, &wanted)))
         return DISP_E_TYPEMISMATCH;

@@ -1,6 +1,7 @@
 // What dxflib reads from exported symbols.
 
 #include "dxf/dxf_frame.h"
+#include "dxf/dxflib_collector.h"
 #include "qsymbol/export/dxf_export.h"
 #include "qsymbol/files/symbol_file.h"
 #include "qsymbol/geometry/draw_factors.h"
@@ -8,16 +9,13 @@
 #include "support/temp_folder.h"
 #include "support/test_environment.h"
 
-#include <dxflib/dl_creationadapter.h>
-#include <dxflib/dl_dxf.h>
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <complex>
 #include <filesystem>
-#include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -26,64 +24,8 @@ namespace {
 using qsymbol::ElementRecord;
 using qsymbol::ElementType;
 using qsymbol::Symbol;
-
-struct ReadEntity {
-    std::string kind;
-    std::string layer;
-    int colour = 0;
-    std::vector<std::complex<double>> points;
-    double radius = 0, start = 0, end = 0; ///< of an arc; degrees
-    double height = 0, angle = 0;          ///< of a text; as dxflib gives it
-    std::string text;
-    bool ended = false; ///< a polyline's end was seen
-};
-
-/// Keeps everything that dxflib reports.
-class Collector final : public DL_CreationAdapter {
-public:
-    std::vector<ReadEntity> entities;
-    std::vector<std::string> layers;
-
-    void addLayer(const DL_LayerData& data) override { layers.push_back(data.name); }
-    void addPolyline(const DL_PolylineData& data) override {
-        Add("POLYLINE");
-        EXPECT_EQ(data.flags, 0);
-    }
-    void addVertex(const DL_VertexData& data) override {
-        ASSERT_FALSE(entities.empty());
-        EXPECT_EQ(getAttributes().getLayer(), "SYMBOLE");
-        EXPECT_EQ(data.z, 0);
-        EXPECT_EQ(data.bulge, 0);
-        entities.back().points.emplace_back(data.x, data.y);
-    }
-    void endSequence() override {
-        ASSERT_FALSE(entities.empty());
-        entities.back().ended = true;
-    }
-    void addArc(const DL_ArcData& data) override {
-        ReadEntity& entity = Add("ARC");
-        entity.points.emplace_back(data.cx, data.cy);
-        entity.radius = data.radius;
-        entity.start = data.angle1;
-        entity.end = data.angle2;
-    }
-    void addText(const DL_TextData& data) override {
-        ReadEntity& entity = Add("TEXT");
-        entity.points.emplace_back(data.ipx, data.ipy);
-        entity.height = data.height;
-        entity.angle = data.angle;
-        entity.text = data.text;
-    }
-
-private:
-    ReadEntity& Add(const char* kind) {
-        ReadEntity& entity = entities.emplace_back();
-        entity.kind = kind;
-        entity.layer = getAttributes().getLayer();
-        entity.colour = getAttributes().getColor();
-        return entity;
-    }
-};
+using support::DxflibCollector;
+using support::ReadEntity;
 
 /// One placement for all symbols of a test.
 struct Placed {
@@ -119,11 +61,10 @@ protected:
         ASSERT_EQ(left, nullptr);
     }
 
-    Collector Read() {
+    DxflibCollector Read() {
         support::EndDxf(world_.disk, path_);
-        Collector collector;
-        DL_Dxf reader;
-        EXPECT_TRUE(reader.in((folder_.Path() / "a.dxf").string(), &collector));
+        DxflibCollector collector;
+        EXPECT_TRUE(collector.Read((folder_.Path() / "a.dxf").string()));
         return collector;
     }
 
@@ -150,7 +91,10 @@ void ExpectEntity(const ReadEntity& entity, const Symbol& symbol, const ElementR
     switch (element.type) {
     case ElementType::Poly:
         EXPECT_EQ(entity.kind, "POLYLINE");
+        EXPECT_EQ(entity.flags, 0);
         EXPECT_TRUE(entity.ended);
+        EXPECT_TRUE(entity.flat);
+        EXPECT_EQ(entity.vertexLayers, std::set<std::string>{"SYMBOLE"});
         ExpectPoints(entity, symbol, element, placed, element.points.size() + (element.lineClosed ? 1 : 0));
         break;
     case ElementType::Circle:
@@ -195,7 +139,7 @@ TEST_F(Dxflib, ReadsEverySymbolOfTheCatalogue) {
     }
     ASSERT_FALSE(symbols.empty());
 
-    const Collector found = Read();
+    const DxflibCollector found = Read();
     EXPECT_NE(std::find(found.layers.begin(), found.layers.end(), "SYMBOLE"), found.layers.end());
     std::size_t next = 0;
     for (const Symbol& symbol : symbols) {
@@ -216,7 +160,7 @@ TEST_F(Dxflib, ReadsColoursTextsAndAngles) {
     symbol.elements[2].text = u"Küche 5 m²";
     symbol.elements[2].textAngle = std::acos(-1.0) / 4;
     Append(symbol, {.at = {0, 0}, .angle = std::acos(-1.0) / 2, .factor = 1, .mirror = 0});
-    const Collector found = Read();
+    const DxflibCollector found = Read();
     ASSERT_EQ(found.entities.size(), 3U);
     EXPECT_EQ(found.entities[0].colour, 1);
     EXPECT_EQ(found.entities[1].colour, 7);

@@ -1,5 +1,5 @@
 #include "drawing/drawing_fixture.h"
-#include "drawing/message_boxes.h"
+#include "support/message_boxes.h"
 
 /// Draw2PBox: the whole symbol as large as the box allows, without a margin.
 
@@ -8,16 +8,17 @@ namespace {
 using namespace drawing;
 using support::ElementSpec;
 
+/// A filled frame of the symbol's size and a line across it.
+std::vector<ElementSpec> Frame(LONG width, LONG height) {
+    return {{.type = symPoly,
+             .points = {{0, 0}, {width, 0}, {width, height}, {0, height}},
+             .closed = true,
+             .fillColor = kGreen},
+            {.type = symPoly, .points = {{0, 0}, {width, height}}, .mainColor = kRed}};
+}
+
 class FittedDrawing : public DrawingTest {
 protected:
-    /// A filled frame of the symbol's size and a line across it.
-    static std::vector<ElementSpec> Frame(LONG width, LONG height) {
-        return {{.type = symPoly,
-                 .points = {{0, 0}, {width, 0}, {width, height}, {0, height}},
-                 .closed = true,
-                 .fillColor = kGreen},
-                {.type = symPoly, .points = {{0, 0}, {width, height}}, .mainColor = kRed}};
-    }
     void DrawFrame(LONG width, LONG height) {
         const auto symbol = support::NewSymbol(width / 3, height / 2, width, height, Frame(width, height));
         EXPECT_OK(symbol->Draw2PBox(box.Get()));
@@ -29,10 +30,9 @@ protected:
         expected.UsePen(PS_SOLID, 1, kRed);
         Line({{0, 0}, {width, height}});
         ExpectSame();
-        EXPECT_TRUE(boxes.Shown().empty());
     }
 
-    MessageBoxes boxes;
+    support::MessageBoxes none; ///< each box that is shown is a failure
 };
 
 TEST_F(FittedDrawing, AWideSymbolFillsTheWidth) {
@@ -116,7 +116,6 @@ TEST_F(FittedDrawing, AnEmptyBoxAnEmptySymbolAndNoBoxDrawNothing) {
     EXPECT_OK(support::NewSymbol(0, 0, 100, 0, {{.type = symUndefined}})->Draw2PBox(box.Get()));
     EXPECT_OK(support::NewSymbol(0, 0, 10, 10, Frame(10, 10))->Draw2PBox(nullptr));
     ExpectNothingDrawn();
-    EXPECT_TRUE(boxes.Shown().empty());
 }
 
 TEST_F(FittedDrawing, LateBoundTheFactorOfTheMainDrawingAreaIsOne) {
@@ -126,30 +125,31 @@ TEST_F(FittedDrawing, LateBoundTheFactorOfTheMainDrawingAreaIsOne) {
     ExpectFrame(240, 50);
 }
 
-TEST_F(FittedDrawing, ErrorsAreShownAndGoNoFurther) {
+class FailingFittedDrawing : public DrawingTest {
+protected:
+    Ref<_CSymbol> symbol = support::NewSymbol(0, 0, 10, 10, Frame(10, 10));
+};
+
+TEST_F(FailingFittedDrawing, IsShownAndGoesNoFurther) {
+    const support::MessageBoxes boxes{IDOK, IDOK, IDOK, IDOK, IDOK, IDOK, IDOK, IDOK};
     const support::Failure failure{support::Numbered(481), L"Gastgeber", L"Ungültiges Bild"};
-    const ShownBox shown = OkBox(L"CSymbol.Draw2PBox\r\nUngültiges Bild", "stop");
-    const auto symbol = support::NewSymbol(0, 0, 10, 10, Frame(10, 10));
-    std::vector<ShownBox> all;
     for (const char* access : {"get ScaleWidth", "get ScaleHeight", "get hDC", "get Name", "get DrawMode",
                                "put ForeColor", "put FillStyle"}) {
         StartAgain();
         box->Fail(access, failure);
         const HRESULT status = symbol->Draw2PBox(box.Get());
         EXPECT_EQ(support::Outcome(status), support::Failure{}) << access;
-        all.push_back(shown);
     }
     EXPECT_OK(support::Dispatch(symbol).Call(L"Draw2PBox", {box}).status);
-    all.push_back(shown);
-    EXPECT_EQ(boxes.Shown(), all);
+    EXPECT_EQ(boxes.Seen(), std::vector(8, support::ErrorBox(L"CSymbol.Draw2PBox\r\nUngültiges Bild")));
 }
 
-TEST_F(FittedDrawing, AnObjectThatIsNoBox) {
-    const auto symbol = support::NewSymbol(0, 0, 10, 10, Frame(10, 10));
+TEST_F(FailingFittedDrawing, OnAnObjectThatIsNoBox) {
+    const support::MessageBoxes boxes{IDOK};
     EXPECT_OK(symbol->Draw2PBox(symbol.Get()));
-    EXPECT_EQ(boxes.Shown(),
-              std::vector{OkBox(
-                  L"CSymbol.Draw2PBox\r\nObjekt unterstützt diese Eigenschaft oder Methode nicht", "stop")});
+    EXPECT_EQ(boxes.Seen(),
+              std::vector{support::ErrorBox(
+                  L"CSymbol.Draw2PBox\r\nObjekt unterstützt diese Eigenschaft oder Methode nicht")});
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "drawing/drawing_fixture.h"
+#include "support/text.h"
 
 #include <cmath>
 
@@ -20,7 +21,8 @@ struct SurfaceCase {
 };
 
 void PrintTo(const SurfaceCase& sample, std::ostream* out) {
-    *out << support::Failure{0, sample.name, sample.type} << ' ' << sample.printer << ' ' << sample.screen;
+    *out << support::Narrow(sample.type) << ' ' << support::Narrow(sample.name) << " with factors "
+         << sample.printer << " and " << sample.screen;
 }
 
 class Surfaces : public DrawingTest, public testing::WithParamInterface<SurfaceCase> {

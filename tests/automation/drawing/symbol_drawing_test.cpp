@@ -12,15 +12,13 @@ using support::ElementSpec;
 using support::FontSpec;
 using support::Value;
 
-enum class Binding { Vtable, Late };
-
 struct Way {
-    Binding binding;
+    bool isLate;
     double angle;
 };
 
 void PrintTo(const Way& way, std::ostream* out) {
-    *out << (way.binding == Binding::Late ? "late bound" : "by the vtable") << " at " << way.angle;
+    *out << (way.isLate ? "late bound" : "by the vtable") << " at " << way.angle;
 }
 
 /// A symbol with reference point (100, 50), drawn in the middle of an ordinary picture box.
@@ -30,14 +28,12 @@ protected:
         const auto symbol = support::NewSymbol(place.reference.x, place.reference.y, 1000, 1000, elements);
         const auto trans = Trans();
         // Factors that this kind of surface does not follow.
-        if (GetParam().binding == Binding::Vtable) {
+        if (!GetParam().isLate) {
             EXPECT_OK(symbol->Draw(place.at.x, place.at.y, place.angle, box.Get(), trans.Get(), 3, 5, &mark));
         } else {
-            const support::Dispatch object(symbol);
-            EXPECT_OK(object
-                          .Call(L"Draw", {place.at.x, place.at.y, place.angle, box, trans, 3.0, 5.0,
-                                          Value::Variable(mark)})
-                          .status);
+            const std::vector<Value> arguments{place.at.x, place.at.y, place.angle, box,
+                                               trans,      3.0,        5.0,         Value::Variable(mark)};
+            EXPECT_OK(support::Dispatch(symbol).Call(L"Draw", arguments).status);
         }
     }
     POINT At(LONG x, LONG y) const { return Pixel(view, World(place, {x, y})); }
@@ -56,9 +52,8 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Ways, SymbolDrawing,
-                         testing::Values(Way{Binding::Vtable, 0}, Way{Binding::Vtable, 0.3},
-                                         Way{Binding::Vtable, -2.5}, Way{Binding::Late, 0},
-                                         Way{Binding::Late, std::numbers::pi / 2}));
+                         testing::Values(Way{false, 0}, Way{false, 0.3}, Way{false, -2.5}, Way{true, 0},
+                                         Way{true, std::numbers::pi / 2}));
 
 TEST_P(SymbolDrawing, AnOpenPolylineWithAllItsPoints) {
     Draw({{.type = symPoly, .points = shape, .lineWidth = 30, .mainColor = kRed}});

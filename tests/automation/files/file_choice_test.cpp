@@ -112,7 +112,8 @@ TEST_P(Overwriting, ATextFileIsReplacedABinaryOneIsOverlaid) {
 
 TEST_P(Overwriting, AFileInUseIsRefusedAfterTheQuestion) {
     support::WriteBytes(path, "alt");
-    const HANDLE user = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    const HANDLE user =
+        CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     MessageBoxes boxes{IDYES};
     EXPECT_EQ(Outcome(SymbolAt(path)->Write2File()), support::RunTimeError(70));
     CloseHandle(user);

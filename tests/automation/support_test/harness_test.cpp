@@ -61,6 +61,23 @@ TEST(Harness, ThePictureBoxActsOnItsContext) {
     EXPECT_EQ(late.Get(L"Caption").status, DISP_E_UNKNOWNNAME);
 }
 
+TEST(Harness, ThePictureBoxDrawsALineInBothForms) {
+    support::Canvas canvas(20, 20);
+    const auto box = support::PictureBox::Create(canvas);
+    box->SetProperty(L"ForeColor", 0x0000FF);
+    const support::Dispatch late(box);
+    const support::Value flags = static_cast<SHORT>(0);
+    EXPECT_OK(late.Call(L"Line", {2.0F, 5.0F, 18.0F, 5.0F}).status);
+    EXPECT_EQ(GetPixel(canvas.Dc(), 10, 5), 0x0000FFU);
+    EXPECT_EQ(late.Call(L"Line", {flags, 2.0F, 9.0F, 18.0F, 9.0F, 0x0000FF}).status, DISP_E_BADPARAMCOUNT);
+    EXPECT_NE(GetPixel(canvas.Dc(), 10, 9), 0x0000FFU);
+    box->SetLineArguments(6);
+    EXPECT_OK(late.Call(L"Line", {flags, 2.0F, 9.0F, 18.0F, 9.0F, 0x0000FF}).status);
+    EXPECT_EQ(GetPixel(canvas.Dc(), 10, 9), 0x0000FFU);
+    EXPECT_EQ(late.Call(L"Line", {2.0F, 5.0F, 18.0F, 5.0F}).status, DISP_E_BADPARAMCOUNT);
+    EXPECT_EQ(box->Log().back(), "call Line 2 5 18 5");
+}
+
 TEST(Harness, ThePictureBoxHasATypeName) {
     support::Canvas canvas(2, 2);
     const auto box = support::PictureBox::Create(canvas, L"Drucker", L"Printer");

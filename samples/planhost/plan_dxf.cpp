@@ -1,0 +1,91 @@
+#include "plan_dxf.h"
+
+#include "dxf_file.h"
+#include "plan_symbols.h"
+#include "text.h"
+#include "wall_outline.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr double kMillimetresPerUnit = 10;
+// Millimetres in the plan; letters of a DXF text are as tall as its height.
+constexpr double kLabelHeight = 160;
+constexpr double kTitleHeight = 240;
+constexpr double kTitleMargin = 700;
+
+/// The library writes lengths / 100000, which makes hundredths of a millimetre metres, and the size of a font
+/// in points / 30. Thirty points are about a centimetre: with everything a hundred times as large, lengths
+/// come out in centimetres too and the texts fit.
+constexpr int kScale = 100;
+
+/// A length of the plan in the library's units.
+LONG Logical(long millimetres) {
+    constexpr long kUnits = kUnitsPerMillimetre * kScale;
+    if (std::abs(millimetres) > std::numeric_limits<LONG>::max() / kUnits)
+        throw Failure{std::to_wstring(millimetres) + L" mm sind für die DXF-Datei zu weit."};
+    return millimetres * kUnits;
+}
+
+/// Sets the factor by which exported symbols are scaled: that of the last drawing, here one without a
+/// surface.
+void SetScale(_CSymbol& symbol) {
+    LONG ownColours = -1;
+    Check(symbol.Draw(0, 0, 0, nullptr, nullptr, 1.0, kScale, &ownColours));
+}
+
+void AppendSymbol(const PlacedSymbol& placed, LONG height, _CSymbol& symbol, const Bstr& file) {
+    // y grows downwards in the plan and upwards in the file.
+    Check(symbol.put_Etagenbreite(height));
+    Check(symbol.DxfExportSym(Logical(placed.at.x), Logical(placed.at.y), Radians(placed), file.Get()),
+          L"Zeile " + std::to_wstring(placed.line));
+}
+
+/// A place of the sheet in the units of the file.
+Position InFile(const Plan& plan, Position place) {
+    return {place.x / kMillimetresPerUnit, (plan.height - place.y) / kMillimetresPerUnit};
+}
+
+void WriteWalls(const Plan& plan, DxfFile& file) {
+    for (const Wall& wall : plan.walls) {
+        std::array<Position, 4> corners = Outline(wall);
+        std::ranges::transform(corners, corners.begin(),
+                               [&](const Position& corner) { return InFile(plan, corner); });
+        file.ClosedLine("WAENDE", corners);
+    }
+}
+
+void WriteTitleAndLabels(const Plan& plan, DxfFile& file) {
+    const auto at = [&](double x, double y) { return InFile(plan, {x, y}); };
+    file.Text("RAEUME", at(kTitleMargin, kTitleMargin - kTitleHeight / 2), kTitleHeight / kMillimetresPerUnit,
+              plan.title, false);
+    for (const Room& room : plan.rooms)
+        file.Text("RAEUME", at(room.middle.x, room.middle.y + kLabelHeight / 2),
+                  kLabelHeight / kMillimetresPerUnit, room.name, true);
+}
+
+} // namespace
+
+void ExportPlan(const Plan& plan, _CSymbolColl& catalogue, const std::filesystem::path& path) {
+    const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, catalogue);
+    {
+        DxfFile file(path, DxfFile::New);
+        file.Begin(InFile(plan, {static_cast<double>(plan.width), 0}), {"WAENDE", "RAEUME", "SYMBOLE"});
+        WriteWalls(plan, file);
+        file.Close();
+    }
+    // The library appends each symbol on its own; the file is closed meanwhile, so nothing of ours comes
+    // between.
+    const Bstr name(path.wstring());
+    for (std::size_t i = 0; i < symbols.size(); ++i) {
+        if (i == 0)
+            SetScale(*symbols[i].Get());
+        AppendSymbol(plan.symbols[i], Logical(plan.height), *symbols[i].Get(), name);
+    }
+    DxfFile file(path, DxfFile::Continue);
+    WriteTitleAndLabels(plan, file);
+    file.End();
+    file.Close();
+}

@@ -1,0 +1,40 @@
+#include "plan_hits.h"
+
+namespace {
+
+Ptr<_CRect> MakeRect(const RECT& pixels) {
+    Ptr<_CRect> rect = Create<_CRect>(__uuidof(CRect));
+    Check(rect->put_Left(pixels.left));
+    Check(rect->put_Top(pixels.top));
+    Check(rect->put_Right(pixels.right));
+    Check(rect->put_Bottom(pixels.bottom));
+    return rect;
+}
+
+} // namespace
+
+/// A symbol is hit by its outline box, turned and placed as it was drawn. The library scales the box by the
+/// screen factor of the last drawing; before the first one that is none, as in this plan.
+std::vector<std::size_t> SymbolsAt(const PointedAt& place, const Plan& plan,
+                                   const std::vector<Ptr<_CSymbol>>& symbols, _CTrans& transformation) {
+    const Ptr<_CRect> rect = MakeRect(place.pixels);
+    std::vector<std::size_t> found;
+    // What is drawn last lies on top.
+    for (std::size_t i = symbols.size(); i-- > 0;) {
+        const PlacedSymbol& placed = plan.symbols[i];
+        const LONG x = placed.at.x * kUnitsPerMillimetre;
+        const LONG y = placed.at.y * kUnitsPerMillimetre;
+        VARIANT_BOOL isHit = VARIANT_FALSE;
+        if (place.isPoint)
+            Check(symbols[i]->ObjIdentByPt(x, y, Radians(placed), &transformation, place.pixels.left,
+                                           place.pixels.top, &isHit));
+        else
+            Check(symbols[i]->ObjIdentByRect(x, y, Radians(placed), &transformation, rect.Get(), &isHit));
+        if (isHit == VARIANT_FALSE)
+            continue;
+        found.push_back(i);
+        if (place.isPoint)
+            break;
+    }
+    return found;
+}

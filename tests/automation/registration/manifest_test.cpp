@@ -1,0 +1,75 @@
+#include "support/automation_test.h"
+#include "support/servers.h"
+
+namespace {
+
+using support::Dispatch;
+using support::QMathServer;
+using support::QSymbolServer;
+
+/// Activates the assembly manifest beside the DLLs for the running thread.
+class ActiveManifest {
+public:
+    ActiveManifest() {
+        const std::wstring path = support::ProgramFolder() + L"QSymbol.X.manifest";
+        ACTCTXW description{};
+        description.cbSize = sizeof description;
+        description.lpSource = path.c_str();
+        context_ = CreateActCtxW(&description);
+        EXPECT_NE(context_, INVALID_HANDLE_VALUE) << GetLastError();
+        EXPECT_TRUE(ActivateActCtx(context_, &cookie_));
+    }
+    ActiveManifest(const ActiveManifest&) = delete;
+    ActiveManifest& operator=(const ActiveManifest&) = delete;
+    ~ActiveManifest() {
+        DeactivateActCtx(0, cookie_);
+        ReleaseActCtx(context_);
+    }
+
+private:
+    HANDLE context_ = INVALID_HANDLE_VALUE;
+    ULONG_PTR cookie_ = 0;
+};
+
+class WithoutRegistration : public support::AutomationTest {
+protected:
+    void SetUp() override {
+        ASSERT_OK(QSymbolServer().Unregister());
+        ASSERT_OK(QMathServer().Unregister());
+    }
+    void TearDown() override {
+        EXPECT_OK(QMathServer().Register());
+        EXPECT_OK(QSymbolServer().Register());
+    }
+};
+
+TEST_F(WithoutRegistration, NothingCanBeCreated) {
+    EXPECT_FALSE(Dispatch::Create(L"QSymbol.CSymbol"));
+    EXPECT_FALSE(Dispatch::Create(L"QMath.CPt"));
+}
+
+TEST_F(WithoutRegistration, TheManifestServesAHost) {
+    const ActiveManifest manifest;
+    for (const wchar_t* progId :
+         {L"QMath.CTrans", L"QMath.CPt", L"QMath.CPtList", L"QMath.CRect", L"QMath.CPolygon",
+          L"QMath.CMatrix", L"QMath.CMathUtil", L"QMath.CStrUtil", L"QMath.CFontSelector", L"QMath.CSettings",
+          L"QSymbol.CSymbol", L"QSymbol.CSymbolColl", L"QSymbol.CSymElement", L"QSymbol.CSymElementColl",
+          L"QSymbol.CSymTool"})
+        EXPECT_TRUE(Dispatch::Create(progId)) << progId;
+    EXPECT_FALSE(Dispatch::Create(L"QSymbol.CSymInput")) << "only a catalogue makes one";
+}
+
+TEST_F(WithoutRegistration, TheLibrariesFindEachOther) {
+    const ActiveManifest manifest;
+    const Dispatch symbol = Dispatch::Create(L"QSymbol.CSymbol");
+    ASSERT_TRUE(symbol);
+    support::Value rect = support::Value::Nothing();
+    // The rectangle is an object of QMath that QSymbol makes.
+    EXPECT_OK(symbol.Call(L"GetBoundingRect", {10, 20, 0.0, support::Value::Variable(rect)}).status);
+    const Dispatch bounds(rect.Object());
+    ASSERT_TRUE(bounds);
+    EXPECT_EQ(bounds.Get(L"Left").value.Long(), 10);
+    EXPECT_EQ(bounds.Get(L"Top").value.Long(), 20);
+}
+
+} // namespace
