@@ -21,9 +21,9 @@ struct Digits {
 
 Digits ToDigits(double magnitude) {
     std::array<char, 40> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
-                                   std::chars_format::scientific, kSignificant - 1)
-                         .ptr;
+    const auto* const end = std::to_chars(text.data(), text.data() + text.size(), magnitude,
+                                          std::chars_format::scientific, kSignificant - 1)
+                                .ptr;
     Digits result;
     const char* at = text.data();
     for (; at != end && *at != 'e'; ++at) {

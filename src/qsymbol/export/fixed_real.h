@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <string_view>
 
 namespace qsymbol {
 
@@ -15,8 +16,8 @@ inline constexpr std::size_t kLongestFixedReal = 1 + 10 + 1 + 14;
 /// base::AppendDecimals finds in its double, at a fraction of the cost.
 inline char* PutFixedReal(char* out, std::int64_t value) {
     constexpr std::uint64_t kUnit = 100000;
-    constexpr char kPadding[] = "000000000";
-    std::uint64_t magnitude = static_cast<std::uint64_t>(value);
+    constexpr std::string_view kPadding = "000000000";
+    auto magnitude = static_cast<std::uint64_t>(value);
     if (value < 0) {
         *out++ = '-';
         magnitude = 0 - magnitude;
@@ -28,8 +29,8 @@ inline char* PutFixedReal(char* out, std::int64_t value) {
         out[place] = static_cast<char>('0' + decimals % 10);
         decimals /= 10;
     }
-    std::memcpy(out + 6, kPadding, sizeof kPadding - 1);
-    return out + 6 + sizeof kPadding - 1;
+    std::memcpy(out + 6, kPadding.data(), kPadding.size());
+    return out + 6 + kPadding.size();
 }
 
 } // namespace qsymbol

@@ -27,7 +27,7 @@ void TagSink::Real(std::string_view code, double value) {
 
 void TagSink::Grow(std::size_t count) {
     const std::size_t capacity = std::max({kFirstCapacity, 2 * capacity_, size_ + count});
-    auto bytes = std::make_unique_for_overwrite<char[]>(capacity);
+    auto bytes = std::make_unique_for_overwrite<char[]>(capacity); // NOLINT(*-avoid-c-arrays)
     std::copy_n(bytes_.get(), size_, bytes.get());
     bytes_ = std::move(bytes);
     capacity_ = capacity;

@@ -57,7 +57,7 @@ private:
     void Take(const char* end) { size_ = static_cast<std::size_t>(end - bytes_.get()); }
     void Grow(std::size_t count);
 
-    std::unique_ptr<char[]> bytes_;
+    std::unique_ptr<char[]> bytes_; // NOLINT(*-avoid-c-arrays): a block that grows without being cleared
     std::size_t size_ = 0;
     std::size_t capacity_ = 0;
     std::string scratch_;
