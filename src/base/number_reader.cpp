@@ -33,7 +33,7 @@ int SingleByte(const std::string& separator) {
 
 /// Digits collected from a text: an integer mantissa while it is exact, and the digits themselves beyond
 /// that.
-class Mantissa {
+class Mantissa { // NOLINT(cppcoreguidelines-pro-type-member-init)
 public:
     void Add(char digit, bool fraction) {
         if (fraction)
@@ -58,7 +58,7 @@ public:
             return 0.0;
         exponent += exponent_;
         if (count_ <= kExactDigits && exponent >= -22 && exponent <= 22) {
-            const double exact = static_cast<double>(value_);
+            const auto exact = static_cast<double>(value_);
             const double power = kPowersOfTen[static_cast<std::size_t>(exponent < 0 ? -exponent : exponent)];
             return exponent < 0 ? exact / power : exact * power;
         }

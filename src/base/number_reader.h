@@ -48,7 +48,7 @@ private:
         const std::int64_t whole = DigitsValue(text.data() + sign, size - 3 - sign);
         const unsigned tens = static_cast<unsigned char>(text[size - 2]) - unsigned{'0'};
         const unsigned ones = static_cast<unsigned char>(text[size - 1]) - unsigned{'0'};
-        const std::int64_t value = whole * 100 + tens * 10 + ones;
+        const std::int64_t value = whole * 100 + std::int64_t{tens} * 10 + ones;
         hundredths = static_cast<std::int32_t>(negative ? -value : value);
         return whole >= 0 && tens <= 9 && ones <= 9 && value <= INT32_MAX;
     }

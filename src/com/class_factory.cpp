@@ -2,37 +2,18 @@
 
 #include "com/com_ptr.h"
 #include "com/module.h"
+#include "com/unknown_object.h"
 
-#include <atomic>
 #include <new>
 
 namespace com {
 
 namespace {
 
-class ClassFactory final : public IClassFactory {
+class ClassFactory final : public UnknownObject<IClassFactory> {
 public:
-    explicit ClassFactory(const ClassEntry& entry) : entry_(entry) { TheModule().Lock(); }
-    ClassFactory(const ClassFactory&) = delete;
-    ClassFactory& operator=(const ClassFactory&) = delete;
+    explicit ClassFactory(const ClassEntry& entry) : entry_(entry) {}
 
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        if (object == nullptr)
-            return E_POINTER;
-        *object = nullptr;
-        if (iid != IID_IUnknown && iid != IID_IClassFactory)
-            return E_NOINTERFACE;
-        *object = static_cast<IClassFactory*>(this);
-        AddRef();
-        return S_OK;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-    STDMETHODIMP_(ULONG) Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
     STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** object) override {
         if (object == nullptr)
             return E_POINTER;
@@ -48,10 +29,7 @@ public:
     }
 
 private:
-    virtual ~ClassFactory() { TheModule().Unlock(); }
-
     const ClassEntry& entry_;
-    std::atomic<ULONG> references_ = 1;
 };
 
 } // namespace

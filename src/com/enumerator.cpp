@@ -2,44 +2,22 @@
 
 #include "com/error_info.h"
 #include "com/module.h"
+#include "com/unknown_object.h"
 
 #include <windows.h>
 
 #include <oleauto.h>
 
-#include <atomic>
 #include <utility>
 
 namespace com {
 
 namespace {
 
-class Enumerator final : public IEnumVARIANT {
+class Enumerator final : public UnknownObject<IEnumVARIANT> {
 public:
     Enumerator(ComPtr<IUnknown> collection, NextItem next, std::uint64_t cursor)
-        : collection_(std::move(collection)), next_(std::move(next)), cursor_(cursor) {
-        TheModule().Lock();
-    }
-    Enumerator(const Enumerator&) = delete;
-    Enumerator& operator=(const Enumerator&) = delete;
-
-    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
-        if (object == nullptr)
-            return E_POINTER;
-        *object = nullptr;
-        if (iid != IID_IUnknown && iid != IID_IEnumVARIANT)
-            return E_NOINTERFACE;
-        *object = static_cast<IEnumVARIANT*>(this);
-        AddRef();
-        return S_OK;
-    }
-    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-    STDMETHODIMP_(ULONG) Release() override {
-        const ULONG left = --references_;
-        if (left == 0)
-            delete this;
-        return left;
-    }
+        : collection_(std::move(collection)), next_(std::move(next)), cursor_(cursor) {}
 
     STDMETHODIMP Next(ULONG count, VARIANT* items, ULONG* fetched) override {
         ULONG got = 0;
@@ -80,12 +58,9 @@ public:
     }
 
 private:
-    virtual ~Enumerator() { TheModule().Unlock(); }
-
     ComPtr<IUnknown> collection_;
     NextItem next_;
     std::uint64_t cursor_;
-    std::atomic<ULONG> references_ = 1;
 };
 
 } // namespace

@@ -42,7 +42,7 @@ double WscFields::AnyCoordinate() {
     }
     at_ = at;
     Pass();
-    double value = static_cast<double>(static_cast<std::int64_t>(number));
+    auto value = static_cast<double>(static_cast<std::int64_t>(number));
     if (decimals > 0)
         value /= kPowersOfTen[static_cast<std::size_t>(decimals)];
     return negative ? -value : value;
