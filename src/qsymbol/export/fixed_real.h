@@ -24,11 +24,13 @@ inline char* PutFixedReal(char* out, std::int64_t value) {
     }
     out = std::to_chars(out, out + 10, magnitude / kUnit).ptr;
     *out = '.';
-    auto decimals = static_cast<std::uint32_t>(magnitude % kUnit);
-    for (int place = 5; place > 0; --place) {
-        out[place] = static_cast<char>('0' + decimals % 10);
-        decimals /= 10;
-    }
+    // Five divisions that do not wait for one another.
+    const auto decimals = static_cast<std::uint32_t>(magnitude % kUnit);
+    out[1] = static_cast<char>('0' + decimals / 10000);
+    out[2] = static_cast<char>('0' + decimals / 1000 % 10);
+    out[3] = static_cast<char>('0' + decimals / 100 % 10);
+    out[4] = static_cast<char>('0' + decimals / 10 % 10);
+    out[5] = static_cast<char>('0' + decimals % 10);
     std::memcpy(out + 6, kPadding.data(), kPadding.size());
     return out + 6 + kPadding.size();
 }

@@ -9,7 +9,7 @@ namespace qsymbol {
 namespace {
 
 constexpr int kDecimals = 14;
-constexpr std::size_t kFirstCapacity = 8192;
+constexpr std::size_t kFirstSize = 8192;
 
 } // namespace
 
@@ -26,11 +26,7 @@ void TagSink::Real(std::string_view code, double value) {
 }
 
 void TagSink::Grow(std::size_t count) {
-    const std::size_t capacity = std::max({kFirstCapacity, 2 * capacity_, size_ + count});
-    auto bytes = std::make_unique_for_overwrite<char[]>(capacity); // NOLINT(*-avoid-c-arrays)
-    std::copy_n(bytes_.get(), size_, bytes.get());
-    bytes_ = std::move(bytes);
-    capacity_ = capacity;
+    bytes_.resize(std::max({kFirstSize, 2 * bytes_.size(), size_ + count}));
 }
 
 } // namespace qsymbol

@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -18,7 +17,7 @@ namespace qsymbol {
 class TagSink {
 public:
     /// What was collected so far.
-    std::string_view Bytes() const { return {bytes_.get(), size_}; }
+    std::string_view Bytes() const { return {bytes_.data(), size_}; }
 
     void Text(std::string_view code, std::string_view value) {
         char* at = Line(Room(code.size() + value.size() + 2 * kLineEnd), code);
@@ -50,16 +49,15 @@ private:
 
     /// The end of what was collected, with so many free bytes behind it.
     char* Room(std::size_t count) {
-        if (capacity_ - size_ < count)
+        if (bytes_.size() - size_ < count)
             Grow(count);
-        return bytes_.get() + size_;
+        return bytes_.data() + size_;
     }
-    void Take(const char* end) { size_ = static_cast<std::size_t>(end - bytes_.get()); }
+    void Take(const char* end) { size_ = static_cast<std::size_t>(end - bytes_.data()); }
     void Grow(std::size_t count);
 
-    std::unique_ptr<char[]> bytes_; // NOLINT(*-avoid-c-arrays): a block that grows without being cleared
+    std::string bytes_; ///< collected so far, then free room up to its size
     std::size_t size_ = 0;
-    std::size_t capacity_ = 0;
     std::string scratch_;
 };
 
