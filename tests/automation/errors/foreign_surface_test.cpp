@@ -57,6 +57,11 @@ HRESULT Raise(EXCEPINFO* exception, WORD number, const wchar_t* source, const wc
     return DISP_E_EXCEPTION;
 }
 
+HRESULT STDAPICALLTYPE FillInLate(EXCEPINFO* exception) {
+    Raise(exception, 77, L"Spät", L"erst jetzt");
+    return S_OK;
+}
+
 class ForeignSurface : public support::AutomationTest {
 protected:
     Failure Draw() const {
@@ -79,11 +84,7 @@ TEST_F(ForeignSurface, AnErrorByNumberKeepsNumberSourceAndDescription) {
 TEST_F(ForeignSurface, ADeferredErrorIsFilledIn) {
     surface.answer = [](WORD, VARIANT*, EXCEPINFO* exception) {
         *exception = {};
-        exception->pfnDeferredFillIn = [](EXCEPINFO* late) {
-            late->pfnDeferredFillIn = nullptr;
-            Raise(late, 77, L"Spät", L"erst jetzt");
-            return S_OK;
-        };
+        exception->pfnDeferredFillIn = FillInLate;
         return DISP_E_EXCEPTION;
     };
     EXPECT_EQ(Draw(), (Failure{Numbered(77), L"Spät", L"erst jetzt"}));
