@@ -9,7 +9,7 @@ import time
 
 import screen
 
-LIMIT = 120  # seconds
+LIMIT = float(os.environ.get("LIMIT", 120))  # seconds
 PAUSE = 0.05  # between two looks
 NAME = "test"  # of the Windows desktop
 
@@ -145,7 +145,7 @@ class Desktop:
         self._event("key", *keys)
 
     def type(self, text):
-        self._event("type", text)
+        self._event("type", "--", text)
 
     @staticmethod
     def wait_for_picture(what, condition):

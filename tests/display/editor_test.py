@@ -22,7 +22,7 @@ def require_symbol(actual, name, at, degrees):
 
 def require_map(editor):
     """The picture shows the plan where this test believes it does: the outer corner of the room's walls."""
-    corner = editor.pixel(280, 280)
+    corner = editor.pixel(280, 1080)
     picture = editor.picture()
     require(picture.at(corner[0] + 2, corner[1] + 2) == WALL, "no wall at", corner)
     for beside in ((corner[0] - 2, corner[1] + 2), (corner[0] + 2, corner[1] - 2)):
@@ -38,15 +38,24 @@ def placing():
         empty = editor.picture()
         editor.save_picture("opened")
 
-        editor.click_at(editor.pixel(4500, 3300))
+        editor.click_at(editor.pixel(4500, 4100))
         editor.wait_for_count("4 Symbole, 1 markiert")
         editor.key("F3")
         editor.wait_for_hint("Sessel: Klick setzt")
-        target = editor.pixel(6000, 3600)
+        target = editor.pixel(6000, 4400)
         editor.point_at(target)
         editor.wait_for_direction(30)
         for key, degrees in (("Prior", 40), ("Up", 41), ("Down", 40), ("Next", 30), ("End", 300), ("Home", 30),
-                             ("0", 30), ("ctrl+Home", 0), ("Down", 359), ("Home", 89), ("Next", 79)):  # fmt: skip
+                             ("0", 30), ("Left", 30)):  # fmt: skip
+            editor.key(key)
+            editor.wait_for_direction(degrees)
+        editor.desktop.hold("ctrl")
+        editor.key("Home")
+        editor.wait_for_direction(0)
+        editor.key("Prior")
+        editor.wait_for_direction(10)
+        editor.desktop.let_go("ctrl")
+        for key, degrees in (("Next", 0), ("Down", 359), ("Home", 89), ("Next", 79)):
             editor.key(key)
             editor.wait_for_direction(degrees)
         editor.save_picture("following")
@@ -64,7 +73,7 @@ def placing():
         placed = editor.picture()
         editor.key("F3")
         editor.wait_for_hint("Sessel: Klick setzt")
-        far = editor.pixel(1500, 2700)
+        far = editor.pixel(1500, 3500)
         editor.point_at(far)
         middle = ((target[0] + far[0]) // 2, (target[1] + far[1]) // 2)
         around = range(middle[1] - 2, middle[1] + 3)
@@ -79,7 +88,7 @@ def placing():
         # Shift catches the middle of the stool from some pixels beside it.
         editor.key("F3")
         editor.wait_for_hint("Sessel: Klick setzt")
-        stool = editor.pixel(6500, 1500)
+        stool = editor.pixel(6500, 2300)
         editor.desktop.hold("shift")
         editor.point_at((stool[0] + 7, stool[1] - 6))
         editor.save_picture("caught")
@@ -87,14 +96,14 @@ def placing():
         editor.wait_for_count("6 Symbole")
         editor.desktop.let_go("shift")
         editor.save()
-        require_symbol(symbols_of(editor.plan)[5], "Sessel", (6500, 1500), 79)
+        require_symbol(symbols_of(editor.plan)[5], "Sessel", (6500, 2300), 79)
         editor.quit()
 
 
 def marking():
     """A click marks the topmost symbol, a rectangle all; Ctrl adds and takes away; marks are seen."""
     with Editor(copy_of(ROOM)) as editor:
-        inside = {"Kommode": editor.pixel(2000, 800), "Sessel": editor.pixel(4350, 3250), "Hocker": editor.pixel(6500, 1500)}
+        inside = {"Kommode": editor.pixel(2000, 1600), "Sessel": editor.pixel(4350, 4050), "Hocker": editor.pixel(6500, 2300)}
         marked = lambda picture, name: picture.at(*inside[name]) == MARK
         editor.click_at(inside["Kommode"])
         editor.wait_for_count("4 Symbole, 1 markiert")
@@ -113,10 +122,10 @@ def marking():
         editor.wait_for_picture("the other mark", lambda now: marked(now, "Hocker") and not marked(now, "Kommode"))
 
         # From the lower right to the upper left, over the chest and the armchair.
-        editor.point_at(editor.pixel(4800, 3400))
+        editor.point_at(editor.pixel(4800, 4200))
         editor.desktop.press()
-        editor.point_at(editor.pixel(3000, 2000))
-        editor.point_at(editor.pixel(1000, 700))
+        editor.point_at(editor.pixel(3000, 2800))
+        editor.point_at(editor.pixel(1000, 1500))
         editor.save_picture("rubber-band")
         editor.desktop.release()
         editor.wait_for_count("4 Symbole, 2 markiert")
@@ -153,11 +162,11 @@ def moving():
     with Editor(copy_of(ROOM)) as editor:
         before = symbols_of(editor.plan)
         # Chest and armchair: the chest, standing at 0°, is the first.
-        editor.drag(editor.pixel(1000, 700), editor.pixel(4800, 3400))
+        editor.drag(editor.pixel(1000, 1500), editor.pixel(4800, 4200))
         editor.wait_for_count("4 Symbole, 2 markiert")
         editor.key("ctrl+m")
         editor.wait_for_hint("Verschieben: Klick setzt")
-        target = editor.pixel(4000, 3500)
+        target = editor.pixel(4000, 4300)
         editor.point_at(target)
         editor.wait_for_direction(0)
         # With Num Lock, without it, the signs of the keypad and those beside the letters.
@@ -214,7 +223,7 @@ def moving():
         # A copy; then everything is taken back, step by step.
         editor.key("ctrl+d")
         editor.wait_for_hint("Duplizieren: Klick setzt")
-        copy = editor.pixel(5000, 4000)
+        copy = editor.pixel(5000, 4800)
         editor.click_at(copy)
         editor.wait_for_count("6 Symbole, 2 markiert")
         editor.save()

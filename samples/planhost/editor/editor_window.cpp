@@ -141,6 +141,10 @@ LRESULT EditorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
             Do([&] { editor_.Cancel(); });
         return 0;
     case WM_RBUTTONDOWN: Do([&] { Cancel(); }); return 0;
+    case WM_KEYDOWN:
+        if (wParam == VK_ESCAPE) // no accelerator: those rest while the mouse draws a rubber band
+            Execute(IDM_CANCEL);
+        return 0;
     case WM_KEYUP: Do([&] { editor_.KeyUp(wParam, lParam); }); return 0;
     case WM_SETCURSOR:
         if (LOWORD(lParam) != HTCLIENT)
