@@ -79,6 +79,30 @@ wine_prefix() {
 # wine_run PROGRAM ARGUMENT…: in the project's prefix; Wine's own advice about 32 bits is left out.
 wine_run() { wine "$@" 2> >(grep -vE 'wine32|multiarch|dpkg --add-arch|execute|^$' >&2); }
 
+# on_display NAME COMMAND…: runs a command with an X display of its own. DISPLAY leads to it, and its screen can be read
+# from the file SCREEN (tests/display/screen.py); SCREEN_SIZE is what a window may cover at most.
+on_display() (
+    folder=$ROOT/build/display/$1
+    shift
+    packages xvfb xdotool python3
+    rm -rf "$folder"
+    mkdir -p "$folder"
+    export SCREEN=$folder/Xvfb_screen0 SCREEN_SIZE=1280x900
+    # The server takes a free number, and writes it when it is ready.
+    exec {ready}< <(exec Xvfb -displayfd 1 -screen 0 "${SCREEN_SIZE}x24" -nolisten tcp -fbdir "$folder" 2>"$folder/log")
+    server=$!
+    trap 'kill "$server" 2>/dev/null' EXIT
+    if ! read -r number <&"$ready"; then
+        cat "$folder/log" >&2
+        exit 1
+    fi
+    DISPLAY=:$number "$@"
+)
+
+# wine_desktop NAME PROGRAM ARGUMENT…: a program with real windows, on a display and on a Windows desktop of its own that
+# gives them focus and keyboard without a window manager. Everything else in the prefix stays without a display.
+wine_desktop() { wine_run explorer "/desktop=$1,$SCREEN_SIZE,x11" "${@:2}"; }
+
 # register FOLDER: enters both DLLs of a folder in the prefix.
 register() {
     local name
