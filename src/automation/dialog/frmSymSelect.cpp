@@ -20,6 +20,7 @@ namespace dialog {
 namespace {
 
 constexpr LONG kJpegQuality = 100;
+constexpr int kBorder = 1;                  // round the picture, as round the list
 constexpr std::size_t kManyEntries = 88888; // as wide as any number of entries that a list can hold well
 constexpr UINT kDpiChanged = 0x02E0;        // WM_DPICHANGED, from Windows 8.1 on
 
@@ -72,9 +73,7 @@ INT_PTR frmSymSelect::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         SetSymColl(oldName_);
         return TRUE;
     case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return TRUE;
-    case WM_DRAWITEM:
-        pict_->Picture().Show(reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hDC);
-        return TRUE;
+    case WM_DRAWITEM: Paint(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
     case WM_SIZE:
         if (wParam != SIZE_MINIMIZED)
             NewPicture();
@@ -220,6 +219,11 @@ void frmSymSelect::DrawSymbol() {
         NewPicture();
 }
 
+void frmSymSelect::Paint(const DRAWITEMSTRUCT& item) const {
+    FrameRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_3DSHADOW));
+    pict_->Picture().Show(item.hDC, {kBorder, kBorder});
+}
+
 void frmSymSelect::NewPicture() {
     Handle(u"frmSymSelect.lbSymbole_Click", [&] {
         arrangement_.PlaceControls(window_);
@@ -228,7 +232,7 @@ void frmSymSelect::NewPicture() {
             return;
         RECT area{};
         GetClientRect(Control(IDC_SymPict), &area);
-        pict_->Resize({area.right, area.bottom}, arrangement_.PreviewMargin());
+        pict_->Resize({area.right - 2 * kBorder, area.bottom - 2 * kBorder}, arrangement_.PreviewMargin());
         InvalidateRect(Control(IDC_SymPict), nullptr, FALSE);
         DrawSymbol();
     });

@@ -43,6 +43,7 @@ private:
     void EnableOk(bool enable);
     void DrawSymbol();
     void NewPicture();
+    void Paint(const DRAWITEMSTRUCT& item) const;
     void Measure();
     void SetResolution(const RECT& place);
     void ExportAll(const ExportDisplay& display);

@@ -93,6 +93,12 @@ int lbSymbole::Find(std::u16string_view name) const {
 
 void lbSymbole::Select(int entry) {
     SendMessageW(list_, LB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+    // The neighbours on both sides are of interest.
+    RECT area{};
+    GetClientRect(list_, &area);
+    const auto rows =
+        area.bottom / std::max(static_cast<LONG>(SendMessageW(list_, LB_GETITEMHEIGHT, 0, 0)), 1L);
+    SendMessageW(list_, LB_SETTOPINDEX, static_cast<WPARAM>(std::max(entry - (rows - 1) / 2, 0L)), 0);
 }
 
 int lbSymbole::Selected() const {

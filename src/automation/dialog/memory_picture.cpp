@@ -50,8 +50,8 @@ void MemoryPicture::Clear() {
     PatBlt(context_, 0, 0, size_.cx, size_.cy, WHITENESS);
 }
 
-void MemoryPicture::Show(HDC target) const {
-    BitBlt(target, 0, 0, size_.cx, size_.cy, context_, 0, 0, SRCCOPY);
+void MemoryPicture::Show(HDC target, POINT corner) const {
+    BitBlt(target, corner.x, corner.y, size_.cx, size_.cy, context_, 0, 0, SRCCOPY);
 }
 
 MemoryPicture::Bitmap::Bitmap(const MemoryPicture& picture)

@@ -19,8 +19,8 @@ public:
     /// A new white bitmap of at least one pixel. Error 7; the old one stays then.
     void Resize(SIZE size);
     void Clear();
-    /// Puts the picture into the top left corner of another context.
-    void Show(HDC target) const;
+    /// Copies the picture to a place in another context.
+    void Show(HDC target, POINT corner) const;
 
     /// The bitmap out of its context, as other users want it, for as long as this object lives.
     class Bitmap {
