@@ -4,6 +4,7 @@
 #include "automation/qsymbol/library.h"
 #include "automation/qsymbol/name_list.h"
 #include "automation/qsymbol/object_list.h"
+#include "automation/qsymbol/symbol_selection.h"
 #include "com/bstr.h"
 #include "qsymbol/catalog/catalog_loader.h"
 
@@ -104,6 +105,11 @@ STDMETHODIMP CSymbolColl::GetSymInput(BSTR stSymName, _CSymInput** value) {
     });
 }
 
-STDMETHODIMP CSymbolColl::SelectSymNameDlg(BSTR /*stOldName*/, BSTR* /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymbolColl.SelectSymNameDlg"); });
+STDMETHODIMP CSymbolColl::SelectSymNameDlg(BSTR stOldName, BSTR* value) {
+    return Return(value, [&] {
+        std::u16string name;
+        library::ReportAndSwallow(u"CSymbolColl.SelectSymDlg",
+                                  [&] { name = SelectSymbolName(*this, com::View(stOldName)); });
+        return com::NewBstr(name);
+    });
 }

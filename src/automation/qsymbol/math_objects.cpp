@@ -73,4 +73,10 @@ com::ComPtr<_CRect> NewRect(const qmath::Rect& rect) {
     return object;
 }
 
+double UnitFactor() {
+    double factor = 0;
+    com::Check(New<_CSettings>(*Factory(__uuidof(CSettings)).Get())->get_UnitFactor(&factor));
+    return factor;
+}
+
 } // namespace math_objects

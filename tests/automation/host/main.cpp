@@ -9,8 +9,9 @@
 #include <cstdio>
 #include <map>
 
-// A host program for what the library does once in a process. It works in its current folder, writes what it
-// sees to the standard output, and ends with 0 when nothing failed that should not.
+// A host program for what the library does once in a process. It works in its current folder or in one that
+// it is told, writes what it sees to the standard output, and ends with 0 when nothing failed that should
+// not.
 
 namespace {
 
@@ -57,13 +58,26 @@ void TellMessagesAroundARename() {
     TellMessages();
 }
 
+/// The selection dialog as a user sees it, on a desktop of any resolution; what he chose.
+void Choose() {
+    SetProcessDPIAware();
+    const auto catalogue = support::Create<CSymbolColl, _CSymbolColl>();
+    EXPECT_OK(catalogue->ReadKatalog(support::Bstr(Here(L"katalog"))));
+    support::Bstr chosen;
+    EXPECT_OK(catalogue->SelectSymNameDlg(support::Bstr(L"Sofa+" + Here(L"bilder")), chosen.Put()));
+    Tell(L"chosen: " + chosen.Text());
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::map<std::string, void (*)()> scenarios = {
-        {"messages", TellMessages}, {"catalogue", TellCatalogueBox}, {"rename", TellMessagesAroundARename}};
+    const std::map<std::string, void (*)()> scenarios = {{"messages", TellMessages},
+                                                         {"catalogue", TellCatalogueBox},
+                                                         {"rename", TellMessagesAroundARename},
+                                                         {"choose", Choose}};
     testing::InitGoogleTest();
-    if (argc != 2 || !scenarios.contains(argv[1]) ||
+    if (argc < 2 || argc > 3 || !scenarios.contains(argv[1]) ||
+        (argc == 3 && SetCurrentDirectoryA(argv[2]) == FALSE) ||
         FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)))
         return 2;
     scenarios.at(argv[1])();

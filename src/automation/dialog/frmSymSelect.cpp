@@ -1,0 +1,307 @@
+#include "automation/dialog/frmSymSelect.h"
+
+#include "automation/dialog/control_ids.h"
+#include "automation/dialog/export_display.h"
+#include "automation/dialog/message_pump.h"
+#include "automation/dialog/system_dpi.h"
+#include "automation/dialog/window_text.h"
+#include "com/bstr.h"
+#include "com/error_info.h"
+#include "platform/win32/jpeg_file.h"
+#include "qsymbol/dialog/picture_path.h"
+#include "qsymbol/dialog/preview_offset.h"
+#include "qsymbol/dialog/progress_text.h"
+#include "qsymbol/dialog/size_text.h"
+
+#include <utility>
+
+namespace dialog {
+
+namespace {
+
+constexpr LONG kJpegQuality = 100;
+constexpr int kBorder = 1;                  // round the picture, as round the list
+constexpr std::size_t kManyEntries = 88888; // as wide as any number of entries that a list can hold well
+constexpr UINT kDpiChanged = 0x02E0;        // WM_DPICHANGED, from Windows 8.1 on
+
+/// Captions that the resource library may replace; control 0 is the form itself.
+struct ReplaceableCaption {
+    int control;
+    std::int32_t string;
+};
+constexpr ReplaceableCaption kCaptions[] = {
+    {0, 11001}, {IDC_Frame, 11002}, {IDC_Label, 11008}, {IDC_pbJPG, 11009}};
+
+} // namespace
+
+template <class Body>
+bool frmSymSelect::Handle(std::u16string_view source, Body&& body) noexcept {
+    try {
+        body();
+        return true;
+    } catch (...) {
+        services_.report(source);
+        return false;
+    }
+}
+
+frmSymSelect::frmSymSelect(const Services& services, std::u16string folder)
+    : services_(services), folder_(std::move(folder)), pict_(SymPict::Create()) {}
+
+std::u16string frmSymSelect::ShowModal(_CSymbolColl& catalogue, std::u16string_view oldName) {
+    catalogue_ = com::ComPtr<_CSymbolColl>(&catalogue);
+    oldName_ = oldName;
+    if (DialogBoxParamW(services_.instance, MAKEINTRESOURCEW(IDD_frmSymSelect), GetActiveWindow(), Procedure,
+                        reinterpret_cast<LPARAM>(this)) == -1)
+        com::ThrowPendingError(HRESULT_FROM_WIN32(GetLastError()));
+    return result_;
+}
+
+INT_PTR CALLBACK frmSymSelect::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+        SetWindowLongPtrW(window, DWLP_USER, lParam);
+        reinterpret_cast<frmSymSelect*>(lParam)->window_ = window;
+    }
+    auto* const form = reinterpret_cast<frmSymSelect*>(GetWindowLongPtrW(window, DWLP_USER));
+    return form == nullptr ? FALSE : form->OnMessage(message, wParam, lParam);
+}
+
+INT_PTR frmSymSelect::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_INITDIALOG:
+        Form_Load();
+        SetSymColl(oldName_);
+        return TRUE;
+    case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return TRUE;
+    case WM_DRAWITEM: Paint(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
+    case WM_SIZE:
+        if (wParam != SIZE_MINIMIZED)
+            NewPicture();
+        return TRUE;
+    case WM_GETMINMAXINFO: {
+        const SIZE minimum = arrangement_.MinimumWindow(window_);
+        reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {minimum.cx, minimum.cy};
+        return TRUE;
+    }
+    case kDpiChanged: SetResolution(*reinterpret_cast<const RECT*>(lParam)); return TRUE;
+    case WM_DESTROY: Form_Unload(); return TRUE;
+    default: return FALSE;
+    }
+}
+
+void frmSymSelect::OnCommand(int control, int notification) {
+    if (ended_)
+        return;
+    if (control == IDC_lbSymbole) {
+        if (notification == LBN_SELCHANGE)
+            lbSymbole_Click();
+        else if (notification == LBN_DBLCLK)
+            pbOk_Click();
+        return;
+    }
+    if (notification != BN_CLICKED)
+        return;
+    switch (control) {
+    case IDC_pbOk: pbOk_Click(); break;
+    case IDC_pbCancel: pbCancel_Click(); break;
+    case IDC_pbJPG: pbJPG_Click(); break;
+    default: break;
+    }
+}
+
+void frmSymSelect::Form_Load() {
+    Handle(u"frmSymSelect.Form_Load", [&] {
+        FollowResolutionItself(window_);
+        for (const ReplaceableCaption& caption : kCaptions)
+            if (const std::u16string text = services_.strings.LoadResString(caption.string); !text.empty())
+                SetWindowText(caption.control == 0 ? window_ : Control(caption.control), text);
+        list_.Attach(Control(IDC_lbSymbole));
+        Measure();
+        arrangement_.PlaceWindow(window_);
+        NewPicture();
+    });
+}
+
+void frmSymSelect::Measure() {
+    arrangement_.Prepare(window_, {WindowText(Control(IDC_pbJPG)), kStopCaption},
+                         qsymbol::ProgressText(kManyEntries, kManyEntries));
+}
+
+void frmSymSelect::SetResolution(const RECT& place) {
+    Handle(u"frmSymSelect.Form_Load", [&] {
+        Measure();
+        SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left,
+                     place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+        NewPicture();
+    });
+}
+
+void frmSymSelect::Form_Unload() {
+    Handle(u"frmSymSelect.Form_Unload", [&] {
+        shown_.Reset();
+        window_ = nullptr;
+    });
+}
+
+void frmSymSelect::SetSymColl(std::u16string_view oldName) {
+    Handle(u"frmSymSelect.SetSymColl", [&] {
+        list_.Fill(*catalogue_.Get());
+        if (list_.Names().empty())
+            return;
+        const int old = oldName.empty() ? -1 : list_.Find(oldName);
+        list_.Select(old < 0 ? 0 : old);
+        lbSymbole_Click();
+    });
+}
+
+bool frmSymSelect::lbSymbole_Click() {
+    return Handle(u"frmSymSelect.lbSymbole_Click", [&] { ShowEntry(list_.Selected()); });
+}
+
+bool frmSymSelect::ShowEntry(int entry) {
+    const unsigned show = ++shows_;
+    pict_->Clear();
+    InvalidateRect(Control(IDC_SymPict), nullptr, FALSE);
+    SetWindowText(Control(IDC_txBreite), {});
+    SetWindowText(Control(IDC_txHoehe), {});
+    com::ComPtr<_CSymbol> symbol;
+    if (entry >= 0) {
+        const com::Bstr name(list_.Names()[static_cast<std::size_t>(entry)]);
+        com::Check(catalogue_->get_ItemByIndex(name.Get(), symbol.Put()));
+    }
+    shown_ = symbol;
+    EnableOk(static_cast<bool>(symbol));
+    if (!symbol)
+        return true;
+    // A symbol of the host's own may let the user go on while it draws.
+    DrawSymbol();
+    if (show != shows_)
+        return false;
+    ShowSizes(*symbol.Get());
+    return show == shows_;
+}
+
+void frmSymSelect::ShowSizes(_CSymbol& symbol) {
+    LONG width = 0;
+    LONG height = 0;
+    com::Check(symbol.get_Width(&width));
+    com::Check(symbol.get_Height(&height));
+    const double unitFactor = services_.unitFactor();
+    const std::u16string decimal = services_.decimal();
+    SetWindowText(Control(IDC_txBreite), qsymbol::SizeText(width, unitFactor, decimal));
+    SetWindowText(Control(IDC_txHoehe), qsymbol::SizeText(height, unitFactor, decimal));
+}
+
+void frmSymSelect::EnableOk(bool enable) {
+    const HWND ok = Control(IDC_pbOk);
+    // A disabled control must not keep the focus: the keyboard would be dead.
+    if (!enable && GetFocus() == ok)
+        SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(IDC_lbSymbole)), TRUE);
+    EnableWindow(ok, enable ? TRUE : FALSE);
+}
+
+void frmSymSelect::DrawSymbol() {
+    const com::ComPtr<_CSymbol> symbol = shown_;
+    if (!symbol)
+        return;
+    LONG width = 0;
+    LONG height = 0;
+    if (FAILED(symbol->get_Width(&width)) || FAILED(symbol->get_Height(&height)))
+        width = height = 0; // told when the sizes are shown
+    const SIZE box = pict_->Scale();
+    const qmath::Point offset = qsymbol::PreviewOffset(width, height, box.cx, box.cy);
+    {
+        const SymPict::Drawing drawing(*pict_.Get(), {offset.x, offset.y});
+        com::Check(symbol->Draw2PBox(pict_.Get()));
+    }
+    InvalidateRect(Control(IDC_SymPict), nullptr, FALSE);
+    if (std::exchange(pictureWaits_, false))
+        NewPicture();
+}
+
+void frmSymSelect::Paint(const DRAWITEMSTRUCT& item) const {
+    FrameRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_3DSHADOW));
+    pict_->Picture().Show(item.hDC, {kBorder, kBorder});
+}
+
+void frmSymSelect::NewPicture() {
+    Handle(u"frmSymSelect.lbSymbole_Click", [&] {
+        arrangement_.PlaceControls(window_);
+        pictureWaits_ = pict_->IsBeingDrawnOn();
+        if (pictureWaits_)
+            return;
+        RECT area{};
+        GetClientRect(Control(IDC_SymPict), &area);
+        pict_->Resize({area.right - 2 * kBorder, area.bottom - 2 * kBorder}, arrangement_.PreviewMargin());
+        InvalidateRect(Control(IDC_SymPict), nullptr, FALSE);
+        DrawSymbol();
+    });
+}
+
+void frmSymSelect::pbOk_Click() {
+    Handle(u"frmSymSelect.pbOk_Click", [&] {
+        const int entry = list_.Selected();
+        if (entry < 0 || IsWindowEnabled(Control(IDC_pbOk)) == FALSE)
+            return;
+        result_ = list_.Names()[static_cast<std::size_t>(entry)];
+        End();
+    });
+}
+
+void frmSymSelect::pbCancel_Click() {
+    Handle(u"frmSymSelect.pbCancel_Click", [&] {
+        result_.clear();
+        End();
+    });
+}
+
+void frmSymSelect::End() {
+    ended_ = true;
+    EndDialog(window_, 0);
+}
+
+void frmSymSelect::pbJPG_Click() {
+    if (exporting_) {
+        stop_ = true;
+        return;
+    }
+    exporting_ = true;
+    stop_ = false;
+    constexpr std::u16string_view kSource = u"CSymbolColl.SelectSymDlg";
+    Handle(kSource, [&] {
+        const ExportDisplay display(window_, list_.Names().size());
+        // An error is shown while the display still tells the entry.
+        Handle(kSource, [&] { ExportAll(display); });
+    });
+    exporting_ = false;
+    if (!ended_ && window_ != nullptr)
+        lbSymbole_Click(); // what is shown is again what is selected
+}
+
+void frmSymSelect::ExportAll(const ExportDisplay& display) {
+    const std::size_t count = list_.Names().size();
+    for (std::size_t i = 0; i < count; ++i) {
+        display.Tell(i + 1);
+        if (!ShowForExport(static_cast<int>(i)))
+            return;
+        SavePicture(list_.Names()[i]);
+        if (!ProcessPendingMessages(window_) || !ExportGoesOn())
+            return;
+    }
+}
+
+bool frmSymSelect::ShowForExport(int entry) {
+    bool shown = false;
+    // A picture of what could not be shown helps nobody: then the export ends.
+    while (!shown && ExportGoesOn())
+        if (!Handle(u"frmSymSelect.lbSymbole_Click", [&] { shown = ShowEntry(entry); }))
+            return false;
+    return shown && ExportGoesOn();
+}
+
+void frmSymSelect::SavePicture(const std::u16string& name) const {
+    const MemoryPicture::Bitmap picture(pict_->Picture());
+    platform::SaveJpeg(picture.Get(), qsymbol::PicturePath(folder_, name), kJpegQuality);
+}
+
+} // namespace dialog

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "qsymbol/frame/resource_strings.h"
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+namespace dialog {
+
+/// What the dialog needs of the library that shows it.
+struct Services {
+    HINSTANCE instance; ///< of the module with the dialog's resources
+    const qsymbol::ResourceStrings& strings;
+    /// Shows the exception being handled under a source.
+    void (*report)(std::u16string_view source) noexcept;
+    /// Logical units in a unit that the user sees; asked for each symbol, as the host may change it.
+    double (*unitFactor)();
+    /// The user's decimal separator.
+    std::u16string (*decimal)();
+};
+
+} // namespace dialog
