@@ -3,7 +3,7 @@
 #include "qmath/math_util.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 
 namespace qsymbol {
 
@@ -18,13 +18,14 @@ constexpr std::int16_t kHome = 36;
 constexpr std::int16_t kDigit0 = 48;
 constexpr std::int16_t kCtrl = 2;
 
-constexpr TurningKey kTurningKeys[] = {
-    {kHome, 90}, {35, -90}, // End
-    {33, 10},               // Page Up
-    {34, -10},              // Page Down
-    {38, 1},                // Up
-    {40, -1},               // Down
-};
+constexpr std::array<TurningKey, 6> kTurningKeys{{
+    {kHome, 90},
+    {35, -90}, // End
+    {33, 10},  // Page Up
+    {34, -10}, // Page Down
+    {38, 1},   // Up
+    {40, -1},  // Down
+}};
 
 } // namespace
 
@@ -35,9 +36,9 @@ void SymbolInput::KeyUp(std::int16_t keyCode, std::int16_t shift, DrawingTarget&
         return TurnTo(Angle(), target);
     if (keyCode == kHome && shift == kCtrl)
         return TurnTo(0, target);
-    const auto* const key = std::find_if(std::begin(kTurningKeys), std::end(kTurningKeys),
+    const auto* const key = std::find_if(kTurningKeys.begin(), kTurningKeys.end(),
                                          [&](const TurningKey& entry) { return entry.code == keyCode; });
-    if (key != std::end(kTurningKeys))
+    if (key != kTurningKeys.end())
         TurnTo(qmath::NormalizeAngle(Angle() + qmath::DegToRad(key->degrees)), target);
 }
 

@@ -4,7 +4,7 @@
 #include "qmath/math_util.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 #include <utility>
 
 namespace qsymbol {
@@ -23,7 +23,7 @@ struct TurningKey {
 };
 
 /// The numeric pad. Plus turns clockwise and minus counter-clockwise: hosts rely on it.
-constexpr TurningKey kTurningKeys[] = {
+constexpr std::array<TurningKey, 12> kTurningKeys{{
     {107, Turn::Step, -1},       // +
     {109, Turn::Step, 1},        // -
     {106, Turn::Step, -10},      // *
@@ -36,7 +36,7 @@ constexpr TurningKey kTurningKeys[] = {
     {99, Turn::Direction, 225},  // 3
     {102, Turn::Direction, 270}, // 6
     {105, Turn::Direction, 315}, // 9
-};
+}};
 
 /// Error 91 for a reference that is not there.
 const CSymRef& Found(const CSymRefColl::Reference& reference) {
@@ -63,9 +63,9 @@ void SymbolTool::KeyUp(std::int16_t keyCode, DrawingTarget& target) {
 }
 
 std::optional<double> SymbolTool::AngleAfter(std::int16_t keyCode) const {
-    const auto* const key = std::find_if(std::begin(kTurningKeys), std::end(kTurningKeys),
+    const auto* const key = std::find_if(kTurningKeys.begin(), kTurningKeys.end(),
                                          [&](const TurningKey& entry) { return entry.code == keyCode; });
-    if (key == std::end(kTurningKeys))
+    if (key == kTurningKeys.end())
         return {};
     const double turn = qmath::DegToRad(key->degrees);
     return key->turn == Turn::Step ? Angle() + turn : turn - Found(references_.ItemByPos(1)).Angle();
