@@ -16,6 +16,7 @@ MARK = (226, 74, 20)
 WALL = (74, 74, 78)
 MARGIN = 8  # pixels round the sheet
 UNITS = 100  # in a millimetre
+NEW_SHEET = (12000, 9000)
 
 
 def folder():
@@ -54,16 +55,17 @@ def symbols_of(plan):
 class Editor:
     """A running editor with a plan; the map from plan to pixels is worked out here once more, from the sizes alone."""
 
-    def __init__(self, plan=None, sheet=None):
+    def __init__(self, plan=None):
+        """Without a plan: with the new one that the editor makes."""
         catalogue = make_catalogue()
         self.plan = plan
         arguments = [windows_path(catalogue)] + ([windows_path(plan)] if plan else [])
         self.desktop = Desktop(str(PROGRAM), "edit", *arguments)
-        self.sheet = sheet or sheet_of(plan)
+        self.sheet = sheet_of(plan) if plan else NEW_SHEET
 
     def __enter__(self):
         self.desktop.__enter__()
-        self.wait_for_window()
+        self.wait_for_window(f"{self.plan.name if self.plan else 'Unbenannt'} – Planhost")
         return self
 
     def __exit__(self, *error):
@@ -160,6 +162,25 @@ class Editor:
 
     def key(self, *keys):
         self.desktop.key(*keys)
+
+    def answer(self, text, *keys):
+        """Waits for a message or a dialog with this text, and gives it these keys."""
+        self.desktop.window("#32770", text)
+        self.key(*keys)
+
+    def answer_with_file(self, title, path):
+        """Types a path into a file dialog."""
+        self.desktop.window("#32770", title)
+        self.desktop.type(windows_path(path))
+        self.key("Return")
+
+    def double_click_caption(self):
+        """Maximises the window or gives it its size back; waits for the new size."""
+        before = self.area
+        self.desktop.move(before[0] + 300, before[1] - 30)
+        self.desktop.click()
+        self.desktop.click()
+        wait_for("another size", lambda: self.wait_for_window().area != before)
 
     def save(self):
         self.key("ctrl+s")

@@ -1,8 +1,10 @@
 """editor_test.py SCENARIO: what a planner does with the plan editor, with mouse and keyboard, and what comes of it."""
 
+import shutil
 import sys
 
-from editor import MARK, ROOT, WALL, Editor, copy_of, symbols_of, turned
+from desktop import Desktop, wait_for, windows_path
+from editor import MARK, PICTURES, PROGRAM, ROOT, WALL, Editor, copy_of, folder, symbols_of, turned
 
 ROOM = ROOT / "tests/display/zimmer.plan"
 FLAT = ROOT / "samples/planhost/wohnung.plan"
@@ -254,13 +256,13 @@ def traces():
         clean = editor.picture()
 
         # The car and the scale with its numbers, one after the other.
-        for name, x, y in (("Auto", 15000, 8000), ("Maßstab", 13300, 13450)):
+        for name, picture, x, y in (("Auto", "car", 15000, 8000), ("Maßstab", "scale", 13300, 13450)):
             editor.click_at(editor.pixel(x, y))
             editor.wait_for_count("107 Symbole, 1 markiert")
             editor.key("F3")
             editor.wait_for_hint(name + ": Klick setzt")
             wander(editor, ["Prior", "Home", "0", "Up", "End", "Next", "Down", "Prior", "ctrl+Home"])
-            editor.save_picture("placing-" + name)
+            editor.save_picture("placing-" + picture)
             editor.key("Escape")
             editor.wait_for_hint("markiert Symbole")
             editor.park()
@@ -299,8 +301,203 @@ def traces():
         editor.quit()
 
 
-SCENARIOS = {scenario.__name__: scenario for scenario in (placing, marking, moving, traces)}
+def choose(desktop, width, height):
+    """Goes down the list until the preview has this size."""
+
+    def shown():
+        texts = [control[1] for control in desktop.window("#32770", "Symbol auswählen").controls]
+        entries = [text for text in texts if text.isdecimal()]
+        return (entries[0], width in texts and height in texts) if entries else None
+
+    now = wait_for("the list", shown)
+    while not now[1]:
+        desktop.key("Down")
+        now = wait_for("the next entry", lambda: (next_ := shown()) and next_[0] != now[0] and next_)
+
+
+def choosing():
+    """A symbol chosen in the library's dialog comes into a new plan, which is saved under a name."""
+    with Editor() as editor:
+        editor.wait_for_count("0 Symbole")
+        editor.key("F2")
+        choose(editor.desktop, "1600.00", "900.00")
+        editor.save_picture("dialog")
+        editor.key("Return")
+        editor.wait_for_hint("Sofa zweisitzig: Klick setzt")
+        target = editor.pixel(4000, 3000)
+        editor.click_at(target)
+        editor.wait_for_count("1 Symbol")
+        editor.park()
+        editor.save_picture("placed")
+
+        # Given up, nothing comes of it; the dialog opens at the last choice.
+        editor.key("F2")
+        editor.answer("1600.00", "Escape")
+        editor.wait_for_hint("markiert Symbole")
+
+        editor.plan = folder() / "neu.plan"
+        editor.key("ctrl+s")
+        editor.answer_with_file("Save", editor.plan)
+        editor.wait_for_window("neu.plan – Planhost")
+        require(len(symbols_of(editor.plan)) == 1, "symbols")
+        require_symbol(symbols_of(editor.plan)[0], "Sofa zweisitzig", editor.place(target), 0)
+
+        # Pictures of the whole catalogue come beside the plan.
+        editor.key("F2")
+        editor.answer("Symbol auswählen", "alt+j")
+        wait_for("95 pictures", lambda: len(list(folder().glob("*.JPG"))) == 95)
+        editor.answer("Symbol auswählen", "Escape")
+        editor.wait_for_hint("markiert Symbole")
+        editor.quit()
+
+
+def files():
+    """What is deleted is deleted in the file, and only that; what is not saved is asked about."""
+    plan = copy_of(FLAT)
+    lines = plan.read_text(encoding="utf-8").splitlines()
+    car = next(line for line in lines if line.startswith("SYMBOL;Auto;"))
+    with Editor(plan) as editor:
+        editor.click_at(editor.pixel(15000, 8000))
+        editor.wait_for_count("107 Symbole, 1 markiert")
+        editor.key("Delete")
+        editor.wait_for_count("106 Symbole")
+        editor.wait_for_window("wohnung.plan* – Planhost")
+        editor.key("alt+F4")
+        editor.desktop.window("#32770", "\"wohnung.plan\" ist geändert. Änderungen speichern?")
+        editor.save_picture("question")
+        editor.key("Escape")
+        editor.wait_for_window("wohnung.plan* – Planhost")
+        editor.save()
+        editor.park()
+        editor.wait_for_picture("the lawn", lambda picture: picture.at(*editor.pixel(15000, 8000)) == (226, 226, 224))
+        saved = editor.picture()
+        editor.save_picture("saved")
+        editor.quit()
+    lines.remove(car)
+    require(plan.read_text(encoding="utf-8").splitlines() == lines, "more than the car has changed")
+
+    for keys, is_saved in ((("n",), False), (("Return",), True)):
+        with Editor(plan) as editor:
+            editor.wait_for_count("106 Symbole")
+            editor.park()
+            editor.wait_for_same("the saved plan", saved)
+            editor.click_at(editor.pixel(13300, 13450))
+            editor.wait_for_count("106 Symbole, 1 markiert")
+            editor.key("Delete")
+            editor.wait_for_count("105 Symbole")
+            editor.key("alt+F4")
+            editor.answer("Änderungen speichern?", *keys)
+            editor.desktop.wait_for_end()
+        require(len(symbols_of(plan)) == (105 if is_saved else 106), "saved or not", keys)
+
+
+def menus():
+    """Save under another name, open, export, start anew; after the export symbols are hit as before."""
+    with Editor(copy_of(ROOM)) as editor:
+        other = folder() / "zwei.plan"
+        editor.key("ctrl+shift+s")
+        editor.answer_with_file("Save", other)
+        editor.wait_for_window("zwei.plan – Planhost")
+        require(other.read_bytes() == editor.plan.read_bytes(), "not the same plan")
+
+        drawing = folder() / "zimmer.dxf"
+        editor.key("ctrl+e")
+        editor.answer_with_file("Save", drawing)
+        wait_for("the drawing", lambda: drawing.exists() and drawing.read_bytes().endswith(b"EOF\r\n"))
+        editor.wait_for_hint("markiert Symbole")
+        editor.click_at(editor.pixel(6500, 2300))
+        editor.wait_for_count("4 Symbole, 1 markiert")
+        editor.click_at(editor.pixel(6500, 2300 + 250))  # just below the stool
+        editor.wait_for_count("4 Symbole")
+
+        editor.key("ctrl+n")
+        editor.wait_for_window("Unbenannt – Planhost")
+        editor.wait_for_count("0 Symbole")
+        editor.key("ctrl+o")
+        editor.answer_with_file("Open", other)
+        editor.wait_for_window("zwei.plan – Planhost")
+        editor.wait_for_count("4 Symbole")
+
+        # By the menu alone: everything marked, then the program left.
+        editor.key("alt+b")
+        editor.desktop.window("#32768")
+        editor.key("a")
+        editor.wait_for_count("4 Symbole, 4 markiert")
+        editor.key("alt+p")
+        editor.desktop.window("#32768")
+        editor.key("b")
+        editor.desktop.wait_for_end()
+
+
+def resizing():
+    """The plan is fitted into every size, with the image of the tool that is at work."""
+    with Editor(copy_of(ROOM)) as editor:
+        editor.park()
+        small = editor.picture()
+        editor.click_at(editor.pixel(4500, 4100))
+        editor.wait_for_count("4 Symbole, 1 markiert")
+        editor.key("F3")
+        editor.wait_for_hint("Sessel: Klick setzt")
+        editor.point_at(editor.pixel(2000, 3000))
+        editor.double_click_caption()
+        require(editor.area[2] > 1200, editor.area)
+        require_map(editor)
+        editor.point_at(editor.pixel(6000, 5000))
+        editor.save_picture("maximised")
+        editor.key("Escape")
+        editor.wait_for_hint("markiert Symbole")
+        editor.double_click_caption()
+        editor.park()
+        editor.wait_for_same("the first size", small)
+        editor.quit()
+
+
+def failures():
+    """What cannot be done is said, and the editor goes on with what it had."""
+    missing = folder() / "fehlt.plan"
+    with Editor(copy_of(ROOM)) as editor:
+        editor.key("ctrl+o")
+        broken = folder() / "kaputt.plan"
+        broken.write_text("PLAN;Kaputt;5000;5000\nSYMBOL;Einhorn;10;20;0\n", encoding="utf-8")
+        editor.answer_with_file("Open", broken)
+        editor.answer("Zeile 2: Das Symbol \"Einhorn\" ist nicht im Katalog.", "Return")
+        editor.wait_for_window("zimmer.plan – Planhost")
+        editor.wait_for_count("4 Symbole")
+
+        # The folder of the plan is gone when it is to be saved.
+        place = folder() / "weg"
+        place.mkdir()
+        editor.key("ctrl+shift+s")
+        editor.answer_with_file("Save", place / "zimmer.plan")
+        wait_for("the plan", lambda: (place / "zimmer.plan").exists())
+        editor.wait_for_window("zimmer.plan – Planhost")
+        editor.key("ctrl+a", "Delete")
+        editor.wait_for_count("0 Symbole")
+        shutil.rmtree(place)
+        editor.key("ctrl+s")
+        editor.answer("Der Plan kann nicht geschrieben werden", "Return")
+        editor.wait_for_window("zimmer.plan* – Planhost")
+        editor.key("ctrl+z")
+        editor.wait_for_count("4 Symbole")
+        editor.quit()
+
+    with Desktop(str(PROGRAM), "edit", windows_path(folder() / "katalog"), windows_path(missing)) as desktop:
+        desktop.window("#32770", "Plan nicht gefunden")
+        desktop.key("Return")
+        desktop.window("PlanhostEditor", "Unbenannt – Planhost")
+        desktop.key("alt+F4")
+        desktop.wait_for_end()
+
+    with Desktop(str(PROGRAM), "edit", windows_path(missing)) as desktop:
+        desktop.window("#32770", "Ordner nicht gefunden")
+        desktop.key("Return")
+        desktop.wait_for_end()
+
+
+SCENARIOS = {f.__name__: f for f in (placing, marking, moving, traces, choosing, files, menus, resizing, failures)}
 
 if __name__ == "__main__":
+    for old in PICTURES.glob(f"{sys.argv[1]}-*.png"):
+        old.unlink()
     SCENARIOS[sys.argv[1]]()
     print(f"{sys.argv[1]}: passed")

@@ -1,9 +1,9 @@
 // window_reader DESKTOP: tells what the windows of a desktop say. Each line read from the standard input is
 // answered by one line for every visible window, top-level windows from the front to the back, each followed
 // by its controls, and an empty line. Fields are separated by tabs, UTF-8:
-//   window  class  text  left  top  right  bottom      the client area, in pixels of the screen
-//   control class  text  left  top  right  bottom      the whole control
-//   part    number text                                of the status bar before it
+//   window  class  text left top right bottom    the client area, in pixels of the screen
+//   control class  text left top right bottom    the whole; the text of a list box is the number of the entry
+//   part    number text                          of the status bar before it
 
 #include <windows.h>
 
@@ -47,8 +47,10 @@ std::wstring TextOf(HWND window) {
 }
 
 void Print(const char* kind, HWND window, const RECT& place) {
-    std::printf("%s\t%s\t%s\t%ld\t%ld\t%ld\t%ld\n", kind, Utf8(ClassOf(window)).c_str(),
-                Utf8(TextOf(window)).c_str(), place.left, place.top, place.right, place.bottom);
+    const std::wstring text =
+        ClassOf(window) == L"ListBox" ? std::to_wstring(Ask(window, LB_GETCURSEL, 0, 0)) : TextOf(window);
+    std::printf("%s\t%s\t%s\t%ld\t%ld\t%ld\t%ld\n", kind, Utf8(ClassOf(window)).c_str(), Utf8(text).c_str(),
+                place.left, place.top, place.right, place.bottom);
 }
 
 /// The parts' texts are written into the memory of the window's own process.
