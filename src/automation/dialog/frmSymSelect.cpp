@@ -3,6 +3,7 @@
 #include "automation/dialog/control_ids.h"
 #include "automation/dialog/export_display.h"
 #include "automation/dialog/message_pump.h"
+#include "automation/dialog/modal_owner.h"
 #include "automation/dialog/system_dpi.h"
 #include "automation/dialog/window_text.h"
 #include "com/bstr.h"
@@ -51,7 +52,8 @@ frmSymSelect::frmSymSelect(const Services& services, std::u16string folder)
 std::u16string frmSymSelect::ShowModal(_CSymbolColl& catalogue, std::u16string_view oldName) {
     catalogue_ = com::ComPtr<_CSymbolColl>(&catalogue);
     oldName_ = oldName;
-    if (DialogBoxParamW(services_.instance, MAKEINTRESOURCEW(IDD_frmSymSelect), GetActiveWindow(), Procedure,
+    const ModalOwner owner;
+    if (DialogBoxParamW(services_.instance, MAKEINTRESOURCEW(IDD_frmSymSelect), owner.Get(), Procedure,
                         reinterpret_cast<LPARAM>(this)) == -1)
         com::ThrowPendingError(HRESULT_FROM_WIN32(GetLastError()));
     return result_;

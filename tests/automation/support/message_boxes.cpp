@@ -79,7 +79,8 @@ LRESULT CALLBACK MessageBoxes::Hook(int code, WPARAM window, LPARAM details) {
 }
 
 void MessageBoxes::Answer(HWND window) {
-    if (ClassOf(window) != L"#32770" ||
+    const bool resizable = (GetWindowLongPtrW(window, GWL_STYLE) & WS_THICKFRAME) != 0; // a dialog of its own
+    if (ClassOf(window) != L"#32770" || resizable ||
         std::find(answered_.begin(), answered_.end(), window) != answered_.end())
         return;
     answered_.push_back(window);
