@@ -207,6 +207,7 @@ void WritePlan(const Plan& plan, const std::filesystem::path& file) {
     std::filesystem::path unfinished = file;
     unfinished += L".neu";
     std::ofstream stream(unfinished, std::ios::binary);
+    const bool isOpen = stream.is_open();
     for (const std::string& line : lines)
         stream << line << '\n';
     stream.close();
@@ -215,6 +216,7 @@ void WritePlan(const Plan& plan, const std::filesystem::path& file) {
         std::filesystem::rename(unfinished, file, error);
     if (stream && !error)
         return;
-    std::filesystem::remove(unfinished, error);
+    if (isOpen)
+        std::filesystem::remove(unfinished, error);
     throw Failure{L"Der Plan kann nicht geschrieben werden: " + file.wstring()};
 }

@@ -1,4 +1,6 @@
-"""editor_test.py SCENARIO: what a planner does with the plan editor, with mouse and keyboard, and what comes of it."""
+"""editor_test.py SCENARIO: what a planner does with the plan editor, with mouse and keyboard, and what comes of it.
+
+Without a scenario it names them all."""
 
 import shutil
 import sys
@@ -497,6 +499,9 @@ def failures():
 SCENARIOS = {f.__name__: f for f in (placing, marking, moving, traces, choosing, files, menus, resizing, failures)}
 
 if __name__ == "__main__":
+    if len(sys.argv) < 2:
+        print("\n".join(SCENARIOS))
+        sys.exit()
     for old in PICTURES.glob(f"{sys.argv[1]}-*.png"):
         old.unlink()
     SCENARIOS[sys.argv[1]]()

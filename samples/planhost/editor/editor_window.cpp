@@ -11,10 +11,18 @@ namespace {
 
 constexpr wchar_t kClassName[] = L"PlanhostEditor";
 constexpr wchar_t kTitle[] = L"Planhost";
+// In pixels of a screen with 96 to the inch.
 constexpr SIZE kFirstSize{1120, 840};
-// Pixels of the status bar's parts.
-constexpr int kPositionWidth = 220;
+constexpr int kPositionWidth = 220; // of the status bar's parts
 constexpr int kCountWidth = 170;
+
+/// The same length on this screen.
+int OnScreen(int pixels) {
+    const HDC screen = GetDC(nullptr);
+    const int perInch = GetDeviceCaps(screen, LOGPIXELSX);
+    ReleaseDC(nullptr, screen);
+    return MulDiv(pixels, perInch, 96);
+}
 
 POINT PointOf(LPARAM lParam) {
     return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
@@ -81,8 +89,8 @@ EditorWindow::EditorWindow(Ptr<_CSymbolColl> catalogue) : editor_(std::move(cata
     InitCommonControlsEx(&controls);
     RegisterWindowClass(OnMessage);
     CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
-                    CW_USEDEFAULT, kFirstSize.cx, kFirstSize.cy, nullptr, nullptr, GetModuleHandleW(nullptr),
-                    this);
+                    CW_USEDEFAULT, OnScreen(kFirstSize.cx), OnScreen(kFirstSize.cy), nullptr, nullptr,
+                    GetModuleHandleW(nullptr), this);
     if (window_ == nullptr)
         throw Failure{L"Das Fenster lässt sich nicht öffnen."};
     ShowWindow(window_, SW_SHOWDEFAULT);
@@ -186,8 +194,8 @@ void EditorWindow::Resize() {
     SendMessageW(status_, WM_SIZE, 0, 0);
     GetClientRect(window_, &client);
     GetWindowRect(status_, &bar);
-    const int ends[] = {std::max(0L, client.right - kPositionWidth - kCountWidth),
-                        std::max(0L, client.right - kCountWidth), -1};
+    const int countStart = client.right - OnScreen(kCountWidth);
+    const int ends[] = {std::max(0, countStart - OnScreen(kPositionWidth)), std::max(0, countStart), -1};
     SendMessageW(status_, SB_SETPARTS, std::size(ends), reinterpret_cast<LPARAM>(ends));
     editor_.Resize({client.right, client.bottom - (bar.bottom - bar.top)});
 }

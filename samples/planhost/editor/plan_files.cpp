@@ -48,7 +48,7 @@ std::wstring PlanName(const PlanDocument& document) {
 bool MayLeave(HWND owner, PlanDocument& document) {
     if (!document.IsModified())
         return true;
-    const std::wstring question = L"\"" + PlanName(document) + L"\" ist geändert. Änderungen speichern?";
+    const std::wstring question = L"\"" + PlanName(document) + L"\" ist geändert.\nÄnderungen speichern?";
     switch (MessageBoxW(owner, question.c_str(), L"Planhost", MB_YESNOCANCEL | MB_ICONQUESTION)) {
     case IDYES: return SavePlan(owner, document);
     case IDNO: return true;
