@@ -101,7 +101,7 @@ on_display() (
 
 # wine_desktop NAME PROGRAM ARGUMENT…: a program with real windows, on a display and on a Windows desktop of its own that
 # gives them focus and keyboard without a window manager. Everything else in the prefix stays without a display.
-wine_desktop() { wine_run explorer "/desktop=$1,$SCREEN_SIZE,x11" "${@:2}"; }
+wine_desktop() { wine_run explorer "/desktop=$1,${SCREEN_SIZE:-1280x900},x11" "${@:2}"; }
 
 # register FOLDER: enters both DLLs of a folder in the prefix.
 register() {
