@@ -1,13 +1,11 @@
 #pragma once
 
 #include "com.h"
+#include "millimetres.h"
 
 #include <QSymbol.h>
 
 #include <filesystem>
-
-/// The world unit of the libraries' fonts and files.
-constexpr int kUnitsPerMillimetre = 100;
 
 /// Loads all binary symbols of a folder.
 Ptr<_CSymbolColl> OpenCatalogue(const std::filesystem::path& folder);

@@ -1,8 +1,9 @@
-// A host of the symbol library: converts symbols, draws a plan with them, finds them there, exports it and
-// shows a catalogue.
+// A host of the symbol library: converts symbols, draws a plan with them, finds them there, exports it, shows
+// a catalogue and edits a plan in a window.
 
 #include "catalogue.h"
 #include "catalogue_sheet.h"
+#include "editor/run_editor.h"
 #include "plan_dxf.h"
 #include "plan_picture.h"
 #include "text.h"
@@ -92,6 +93,10 @@ void Import(const Arguments& arguments) {
     DrawSheet(*ImportFolder(arguments[0]).Get(), arguments[1]);
 }
 
+void Edit(const Arguments& arguments) {
+    RunEditor(arguments[0], arguments.size() > 1 ? arguments[1] : L"");
+}
+
 struct Command {
     const wchar_t* name;
     std::size_t fewest, most; ///< arguments
@@ -106,6 +111,7 @@ constexpr Command kCommands[] = {
     {L"mark", 5, 7, L"KATALOGORDNER PLANDATEI BILD.png X Y [X2 Y2]", Mark},
     {L"sheet", 2, 2, L"KATALOGORDNER BILD.png", ShowCatalogue},
     {L"import", 2, 2, L"WSCORDNER BILD.png", Import},
+    {L"edit", 1, 2, L"KATALOGORDNER [PLANDATEI]", Edit},
 };
 
 [[noreturn]] void FailWithUsage() {

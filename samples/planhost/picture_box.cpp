@@ -6,8 +6,9 @@
 
 namespace {
 
-constexpr const wchar_t* kNames[] = {L"DrawMode",  L"ForeColor", L"FillColor",  L"FillStyle",   L"DrawStyle",
-                                     L"DrawWidth", L"hDC",       L"ScaleWidth", L"ScaleHeight", L"Name"};
+constexpr const wchar_t* kNames[] = {L"DrawMode",    L"ForeColor", L"FillColor", L"FillStyle",
+                                     L"DrawStyle",   L"DrawWidth", L"hDC",       L"ScaleWidth",
+                                     L"ScaleHeight", L"Name",      L"Line"};
 
 // Values of DrawStyle; 0 to 4 are the GDI's solid, dashed and dotted pens.
 constexpr LONG kInvisible = 5;
@@ -87,6 +88,8 @@ STDMETHODIMP PictureBox::Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS*
                                 EXCEPINFO*, UINT*) {
     if (flags & DISPATCH_PROPERTYPUT)
         return arguments->cArgs == 1 ? Put(id, arguments->rgvarg[0]) : DISP_E_BADPARAMCOUNT;
+    if (id == Line)
+        return DrawLine(*arguments);
     if (arguments->cArgs != 0 || result == nullptr)
         return DISP_E_BADPARAMCOUNT;
     return Get(id, *result);
@@ -122,6 +125,26 @@ HRESULT PictureBox::Put(DISPID id, VARIANT& value) {
         values_[id] = V_I4(&number);
         Apply(id);
     }
+    return S_OK;
+}
+
+/// From one pixel to another, in the pen and the draw mode of the moment.
+HRESULT PictureBox::DrawLine(const DISPPARAMS& arguments) const {
+    LONG ends[4];
+    if (arguments.cArgs != std::size(ends))
+        return DISP_E_BADPARAMCOUNT;
+    for (UINT i = 0; i < arguments.cArgs; ++i) {
+        VARIANT number;
+        VariantInit(&number);
+        // The last argument comes first.
+        const HRESULT status =
+            VariantChangeType(&number, &arguments.rgvarg[arguments.cArgs - 1 - i], 0, VT_I4);
+        if (FAILED(status))
+            return status;
+        ends[i] = V_I4(&number);
+    }
+    MoveToEx(dc_, ends[0], ends[1], nullptr);
+    LineTo(dc_, ends[2], ends[3]);
     return S_OK;
 }
 

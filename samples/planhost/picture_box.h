@@ -5,8 +5,9 @@
 #include <array>
 
 /// A picture box as drawing libraries know it from Basic: an object with late-bound properties, each of which
-/// takes effect on the device context at once, because the library goes on with plain GDI calls there.
-/// The device context must outlive the box; the box leaves it as it found it.
+/// takes effect on the device context at once, because the library goes on with plain GDI calls there; and
+/// with a method that draws a line. The device context must outlive the box; the box leaves it as it found
+/// it.
 class PictureBox final : public IDispatch {
 public:
     /// A box of this size in pixels, from the origin of the device context on.
@@ -24,7 +25,7 @@ public:
                         EXCEPINFO* exception, UINT* badArgument) override;
 
 private:
-    /// The properties in the order of their dispatch ids; those up to DrawWidth can be put.
+    /// The properties and the method in the order of their dispatch ids; those up to DrawWidth can be put.
     enum Property {
         DrawMode,
         ForeColor,
@@ -35,7 +36,8 @@ private:
         HDc,
         ScaleWidth,
         ScaleHeight,
-        Name
+        Name,
+        Line
     };
 
     PictureBox(HDC dc, int width, int height, std::wstring name);
@@ -43,6 +45,7 @@ private:
 
     HRESULT Get(DISPID id, VARIANT& result) const;
     HRESULT Put(DISPID id, VARIANT& value);
+    HRESULT DrawLine(const DISPPARAMS& arguments) const;
     void Apply(DISPID id);
     void UsePen();
     void UseBrush();

@@ -21,12 +21,12 @@ constexpr double kTitleMargin = 700;
 /// come out in centimetres too and the texts fit.
 constexpr int kScale = 100;
 
-/// A length of the plan in the library's units.
-LONG Logical(long millimetres) {
-    constexpr long kUnits = kUnitsPerMillimetre * kScale;
-    if (std::abs(millimetres) > std::numeric_limits<LONG>::max() / kUnits)
-        throw Failure{std::to_wstring(millimetres) + L" mm sind für die DXF-Datei zu weit."};
-    return millimetres * kUnits;
+/// A length of the plan, in units, as it is exported.
+LONG Exported(long long units) {
+    if (std::abs(units) > std::numeric_limits<LONG>::max() / kScale)
+        throw Failure{MillimetresText(static_cast<long>(units), L',') +
+                      L" mm sind für die DXF-Datei zu weit."};
+    return static_cast<LONG>(units * kScale);
 }
 
 /// Sets the factor by which exported symbols are scaled: that of the last drawing, here one without a
@@ -39,8 +39,8 @@ void SetScale(_CSymbol& symbol) {
 void AppendSymbol(const PlacedSymbol& placed, LONG height, _CSymbol& symbol, const Bstr& file) {
     // y grows downwards in the plan and upwards in the file.
     Check(symbol.put_Etagenbreite(height));
-    Check(symbol.DxfExportSym(Logical(placed.at.x), Logical(placed.at.y), Radians(placed), file.Get()),
-          L"Zeile " + std::to_wstring(placed.line));
+    Check(symbol.DxfExportSym(Exported(placed.at.x), Exported(placed.at.y), Radians(placed), file.Get()),
+          Describe(placed));
 }
 
 /// A place of the sheet in the units of the file.
@@ -82,7 +82,7 @@ void ExportPlan(const Plan& plan, _CSymbolColl& catalogue, const std::filesystem
     for (std::size_t i = 0; i < symbols.size(); ++i) {
         if (i == 0)
             SetScale(*symbols[i].Get());
-        AppendSymbol(plan.symbols[i], Logical(plan.height), *symbols[i].Get(), name);
+        AppendSymbol(plan.symbols[i], Exported(plan.height * kUnitsPerMillimetre), *symbols[i].Get(), name);
     }
     DxfFile file(path, DxfFile::Continue);
     WriteTitleAndLabels(plan, file);

@@ -1,14 +1,16 @@
 #include "plan_file.h"
 
+#include "millimetres.h"
 #include "text.h"
 
+#include <cmath>
+#include <cstdio>
 #include <fstream>
 #include <numbers>
 
 namespace {
 
-/// Larger coordinates, in hundredths of a millimetre, would leave the 32 bits of the library.
-constexpr long kLongest = 10'000'000;
+constexpr char kSymbolKind[] = "SYMBOL;";
 
 /// The fields of one line, taken from left to right.
 class Record {
@@ -38,13 +40,29 @@ public:
     }
     long Length() {
         const long value = Number();
-        if (value < -kLongest || value > kLongest)
+        if (value < -kLongestMillimetres || value > kLongestMillimetres)
             Fail(std::to_wstring(value) + L" mm liegt außerhalb des Blattes.");
         return value;
     }
     POINT Point() {
         const long x = Length();
         return {x, Length()};
+    }
+    /// A length in the libraries' units.
+    long Units() {
+        const std::wstring& field = fields_[next_++];
+        const std::optional<long> units = UnitsFromText(field, L'.');
+        if (!units)
+            Fail(L"\"" + field + L"\" ist keine Länge in Millimetern, die auf ein Blatt passt.");
+        return *units;
+    }
+    double Degrees() {
+        const std::wstring& field = fields_[next_++];
+        wchar_t* end = nullptr;
+        const double value = std::wcstod(field.c_str(), &end);
+        if (field.empty() || *end != L'\0' || !std::isfinite(value))
+            Fail(L"\"" + field + L"\" ist kein Winkel in Grad.");
+        return value;
     }
 
     [[noreturn]] void Fail(const std::wstring& reason) const {
@@ -92,8 +110,9 @@ void TakeRoom(Record& record, Plan& plan) {
 void TakeSymbol(Record& record, Plan& plan) {
     record.RequireFields(4);
     const std::wstring name = record.Text();
-    const POINT at = record.Point();
-    plan.symbols.push_back({name, at, record.Number(), record.Line()});
+    const LONG x = record.Units();
+    const POINT at{x, record.Units()};
+    plan.symbols.push_back({name, at, record.Degrees(), record.Line()});
 }
 
 struct RecordKind {
@@ -115,27 +134,87 @@ void TakeRecord(Record record, Plan& plan) {
     record.Fail(L"Unbekannte Zeilenart \"" + record.Kind() + L"\".");
 }
 
+/// Degrees with as many decimals as they need, six at most.
+std::string DegreesText(double degrees) {
+    char text[64];
+    std::snprintf(text, sizeof text, "%.6f", degrees);
+    std::string trimmed = text;
+    trimmed.erase(trimmed.find_last_not_of('0') + 1);
+    if (trimmed.back() == '.')
+        trimmed.pop_back();
+    return trimmed;
+}
+
+std::string SymbolLine(const PlacedSymbol& placed) {
+    if (placed.name.find_first_of(L";\r\n") != std::wstring::npos)
+        throw Failure{L"Der Name \"" + placed.name + L"\" lässt sich nicht in eine Plandatei schreiben."};
+    return kSymbolKind + ToUtf8(placed.name) + ';' + ToUtf8(MillimetresText(placed.at.x, L'.')) + ';' +
+           ToUtf8(MillimetresText(placed.at.y, L'.')) + ';' + DegreesText(placed.angle);
+}
+
+/// The file's lines with the symbols as they are now.
+std::vector<std::string> LinesOf(const Plan& plan) {
+    const std::string end = !plan.lines.empty() && plan.lines.front().ends_with('\r') ? "\r" : "";
+    std::vector<const PlacedSymbol*> known(plan.lines.size() + 1);
+    for (const PlacedSymbol& placed : plan.symbols)
+        known[placed.line] = &placed;
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < plan.lines.size(); ++i) {
+        if (!plan.lines[i].starts_with(kSymbolKind))
+            lines.push_back(plan.lines[i]);
+        else if (known[i + 1] != nullptr)
+            lines.push_back(SymbolLine(*known[i + 1]) + end);
+    }
+    for (const PlacedSymbol& placed : plan.symbols) {
+        if (placed.line == 0)
+            lines.push_back(SymbolLine(placed) + end);
+    }
+    return lines;
+}
+
 } // namespace
 
 double Radians(const PlacedSymbol& placed) {
     return placed.angle * std::numbers::pi / 180;
 }
 
+std::wstring Describe(const PlacedSymbol& placed) {
+    return placed.line == 0 ? L"\"" + placed.name + L"\"" : L"Zeile " + std::to_wstring(placed.line);
+}
+
 Plan ReadPlan(const std::filesystem::path& file) {
-    std::ifstream stream(file);
+    std::ifstream stream(file, std::ios::binary);
     if (!stream)
         throw Failure{L"Plan nicht gefunden: " + file.wstring()};
     Plan plan;
     std::string bytes;
     for (int line = 1; std::getline(stream, bytes); ++line) {
-        if (!bytes.empty() && bytes.back() == '\r')
-            bytes.pop_back();
         if (line == 1 && bytes.starts_with("\xEF\xBB\xBF")) // the mark that some editors put before UTF-8
             bytes.erase(0, 3);
+        plan.lines.push_back(bytes);
+        if (!bytes.empty() && bytes.back() == '\r')
+            bytes.pop_back();
         if (!bytes.empty() && bytes.front() != '#')
             TakeRecord(Record(FromUtf8(bytes), line), plan);
     }
     if (plan.width == 0)
         throw Failure{L"Im Plan fehlt die Zeile PLAN: " + file.wstring()};
     return plan;
+}
+
+void WritePlan(const Plan& plan, const std::filesystem::path& file) {
+    const std::vector<std::string> lines = LinesOf(plan);
+    std::filesystem::path unfinished = file;
+    unfinished += L".neu";
+    std::ofstream stream(unfinished, std::ios::binary);
+    for (const std::string& line : lines)
+        stream << line << '\n';
+    stream.close();
+    std::error_code error;
+    if (stream)
+        std::filesystem::rename(unfinished, file, error);
+    if (stream && !error)
+        return;
+    std::filesystem::remove(unfinished, error);
+    throw Failure{L"Der Plan kann nicht geschrieben werden: " + file.wstring()};
 }

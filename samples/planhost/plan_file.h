@@ -13,6 +13,7 @@
 //   WALL;x1;y1;x2;y2;thickness
 //   ROOM;name;x;y
 //   SYMBOL;name;x;y;angle
+// Place and angle of a symbol may have decimals behind a point, the place two at most.
 
 struct Floor {
     COLORREF colour;
@@ -31,9 +32,14 @@ struct Room {
 
 struct PlacedSymbol {
     std::wstring name;
-    POINT at;
-    long angle;
-    int line; ///< in the plan file, for messages
+    POINT at;     ///< in the libraries' units, hundredths of a millimetre
+    double angle; ///< in degrees
+    int line = 0; ///< in the plan file; 0: not there yet
+
+    bool operator==(const PlacedSymbol& other) const {
+        return name == other.name && at.x == other.at.x && at.y == other.at.y && angle == other.angle &&
+               line == other.line;
+    }
 };
 
 struct Plan {
@@ -43,10 +49,18 @@ struct Plan {
     std::vector<Floor> floors;
     std::vector<Wall> walls;
     std::vector<Room> rooms;
-    std::vector<PlacedSymbol> symbols;
+    std::vector<PlacedSymbol> symbols; ///< what stands later lies on top
+    std::vector<std::string> lines;    ///< of the file, as they were read
 };
 
 /// The angle of a placed symbol as the library takes it.
 double Radians(const PlacedSymbol& placed);
 
+/// Which symbol it is, for messages.
+std::wstring Describe(const PlacedSymbol& placed);
+
 Plan ReadPlan(const std::filesystem::path& file);
+
+/// Writes the lines of the plan back, with the symbols as they are now: what is not a symbol stays as it was
+/// read, comments too; new symbols come last. The old file is there until the new one is complete.
+void WritePlan(const Plan& plan, const std::filesystem::path& file);

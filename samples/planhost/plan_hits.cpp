@@ -22,8 +22,7 @@ std::vector<std::size_t> SymbolsAt(const PointedAt& place, const Plan& plan,
     // What is drawn last lies on top.
     for (std::size_t i = symbols.size(); i-- > 0;) {
         const PlacedSymbol& placed = plan.symbols[i];
-        const LONG x = placed.at.x * kUnitsPerMillimetre;
-        const LONG y = placed.at.y * kUnitsPerMillimetre;
+        const auto [x, y] = placed.at;
         VARIANT_BOOL isHit = VARIANT_FALSE;
         if (place.isPoint)
             Check(symbols[i]->ObjIdentByPt(x, y, Radians(placed), &transformation, place.pixels.left,

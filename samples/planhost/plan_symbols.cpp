@@ -8,8 +8,7 @@ std::vector<Ptr<_CSymbol>> FindSymbols(const Plan& plan, _CSymbolColl& catalogue
         Ptr<_CSymbol> symbol;
         Check(catalogue.get_ItemByIndex(Bstr(placed.name).Get(), symbol.Put()));
         if (!symbol)
-            throw Failure{L"Zeile " + std::to_wstring(placed.line) + L": Das Symbol \"" + placed.name +
-                          L"\" ist nicht im Katalog."};
+            throw Failure{Describe(placed) + L": Das Symbol \"" + placed.name + L"\" ist nicht im Katalog."};
         symbols.push_back(std::move(symbol));
     }
     return symbols;

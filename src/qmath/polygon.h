@@ -13,9 +13,6 @@ public:
     Polygon() = default;
     explicit Polygon(std::vector<Point> points) : points_(std::move(points)) {}
 
-    void SetPoints(std::vector<Point> points) { points_ = std::move(points); }
-    const std::vector<Point>& Points() const { return points_; }
-
     /// A point on the outline is inside.
     bool PtInside(Point point) const { return OutlineContains(points_, point); }
     /// True when polygon and rectangle share at least one point.

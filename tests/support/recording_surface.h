@@ -17,6 +17,10 @@ public:
     qsymbol::SurfaceKind kind = qsymbol::SurfaceKind::PictureBox;
     std::u16string name = u"Picture1";
     std::int32_t drawMode = 13;
+    std::int32_t drawWidth = 1;
+    std::int32_t drawStyle = 0;
+    std::int32_t foreColor = 0;
+    std::int32_t fillStyle = 1;
     /// The call that fails with error 438 instead of being noted, "" for none.
     std::string failing;
 
@@ -29,20 +33,17 @@ public:
         return name;
     }
     std::int32_t DrawMode() override { return Get("DrawMode?", drawMode); }
-    std::int32_t DrawWidth() override { return Get("DrawWidth?", 1); }
-    std::int32_t DrawStyle() override { return Get("DrawStyle?", 0); }
-    std::int32_t ForeColor() override { return Get("ForeColor?", 0); }
-    std::int32_t FillStyle() override { return Get("FillStyle?", 1); }
+    std::int32_t DrawWidth() override { return Get("DrawWidth?", drawWidth); }
+    std::int32_t DrawStyle() override { return Get("DrawStyle?", drawStyle); }
+    std::int32_t ForeColor() override { return Get("ForeColor?", foreColor); }
+    std::int32_t FillStyle() override { return Get("FillStyle?", fillStyle); }
 
-    void PutDrawMode(std::int32_t value) override {
-        Put("DrawMode", value);
-        drawMode = value;
-    }
-    void PutDrawWidth(std::int32_t value) override { Put("DrawWidth", value); }
-    void PutDrawStyle(std::int32_t value) override { Put("DrawStyle", value); }
-    void PutForeColor(std::int32_t value) override { Put("ForeColor", value); }
+    void PutDrawMode(std::int32_t value) override { Keep("DrawMode", drawMode, value); }
+    void PutDrawWidth(std::int32_t value) override { Keep("DrawWidth", drawWidth, value); }
+    void PutDrawStyle(std::int32_t value) override { Keep("DrawStyle", drawStyle, value); }
+    void PutForeColor(std::int32_t value) override { Keep("ForeColor", foreColor, value); }
     void PutFillColor(std::int32_t value) override { Put("FillColor", value); }
-    void PutFillStyle(std::int32_t value) override { Put("FillStyle", value); }
+    void PutFillStyle(std::int32_t value) override { Keep("FillStyle", fillStyle, value); }
 
     void Line(qmath::Point from, qmath::Point to) override { Note("Line" + Text(from) + Text(to)); }
     void Polygon(std::span<const qmath::Point> points) override { Note("Polygon" + Text(points)); }
@@ -88,6 +89,10 @@ private:
     }
     void Put(const std::string& property, std::int32_t value) {
         Note(property + "=" + std::to_string(value));
+    }
+    void Keep(const std::string& property, std::int32_t& place, std::int32_t value) {
+        Put(property, value);
+        place = value;
     }
     std::int32_t Get(const std::string& property, std::int32_t value) {
         Note(property);

@@ -1,5 +1,6 @@
 #include "automation/qsymbol/CSymbolColl.h"
 
+#include "automation/qsymbol/CSymInput.h"
 #include "automation/qsymbol/library.h"
 #include "automation/qsymbol/name_list.h"
 #include "automation/qsymbol/object_list.h"
@@ -93,8 +94,15 @@ STDMETHODIMP CSymbolColl::ReadKatalog(BSTR stFolderPath) {
     return Do([&] { qsymbol::ReadKatalog(com::View(stFolderPath), *this, library::FileEnvironmentNow()); });
 }
 
-STDMETHODIMP CSymbolColl::GetSymInput(BSTR /*stSymName*/, _CSymInput** /*value*/) {
-    return Do([] { library::NotImplemented(u"CSymbolColl.GetSymInput"); });
+STDMETHODIMP CSymbolColl::GetSymInput(BSTR stSymName, _CSymInput** value) {
+    return Return(value, [&] {
+        com::ComPtr<CSymInput> input;
+        library::ReportAndSwallow(u"CSymbolColl.GetSymInput", [&] {
+            if (const com::ComPtr<_CSymbol>* const symbol = Find(stSymName))
+                input = CSymInput::CreateFor(*symbol->Get());
+        });
+        return input.Detach();
+    });
 }
 
 STDMETHODIMP CSymbolColl::SelectSymNameDlg(BSTR stOldName, BSTR* value) {

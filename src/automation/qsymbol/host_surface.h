@@ -11,6 +11,9 @@ public:
     /// Reads the control's hDC.
     explicit HostSurface(IDispatch& control);
 
+    /// The host's object itself, for a symbol that draws in its own way.
+    IDispatch& Control() const { return control_; }
+
     qsymbol::SurfaceKind Kind() override;
     std::u16string Name() override;
 

@@ -10,6 +10,9 @@ class HostTransformation final : public qsymbol::Transformation {
 public:
     explicit HostTransformation(_CTrans& trans) : trans_(trans) {}
 
+    /// The host's object itself, for a symbol that draws in its own way.
+    _CTrans& Trans() const { return trans_; }
+
     void WorldToScreen(qmath::Point& point) const override {
         LONG x = point.x;
         LONG y = point.y;

@@ -39,6 +39,16 @@ void ReportAndSwallow(std::u16string_view source, Body&& body) noexcept {
     }
 }
 
+/// Runs the body of an operation whose errors nobody is told.
+template <class Body>
+void Swallow(Body&& body) noexcept {
+    try {
+        body();
+    } catch (...) { // NOLINT(bugprone-empty-catch): that is the contract
+        return;
+    }
+}
+
 /// For members that this version does not have yet: E_NOTIMPL with a description.
 [[noreturn]] void NotImplemented(std::u16string_view member);
 

@@ -5,6 +5,7 @@
 /// Values of surface properties and modes, as hosts and the GDI number them.
 namespace qsymbol {
 
+inline constexpr std::int32_t kDrawModeNotXor = 10;
 inline constexpr std::int32_t kDrawModeCopy = 13;
 inline constexpr std::int32_t kDrawStyleSolid = 0;
 inline constexpr std::int32_t kDrawStyleInvisible = 5;

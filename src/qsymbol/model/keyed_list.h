@@ -5,6 +5,7 @@
 #include "qsymbol/model/key_index.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -54,7 +55,7 @@ public:
         return Holds(position) ? &entries_[static_cast<std::size_t>(position) - 1]->value : nullptr;
     }
     const T* ItemByPos(std::int32_t position) const {
-        return const_cast<KeyedList*>(this)->ItemByPos(position);
+        return Holds(position) ? &entries_[static_cast<std::size_t>(position) - 1]->value : nullptr;
     }
 
     /// The value under a key; nullptr when there is none. Valid until that entry goes.
@@ -62,13 +63,16 @@ public:
         Entry* const entry = index_.Find(base::UpperCase(key));
         return entry == nullptr ? nullptr : &entry->value;
     }
-    const T* ItemByKey(std::u16string_view key) const { return const_cast<KeyedList*>(this)->ItemByKey(key); }
+    const T* ItemByKey(std::u16string_view key) const {
+        const Entry* const entry = index_.Find(base::UpperCase(key));
+        return entry == nullptr ? nullptr : &entry->value;
+    }
 
     /// Removes the entry at a position from 1. Error 5 when there is none.
     void RemoveByPos(std::int32_t position) {
         if (!Holds(position))
             base::Raise(base::RunTimeError::InvalidCall);
-        Remove(entries_.begin() + (position - 1));
+        Remove(static_cast<std::size_t>(position) - 1);
     }
 
     /// Removes the entry under a key. Error 5 when there is none.
@@ -87,11 +91,12 @@ public:
 
     /// The first entry with a larger serial number; nullptr at the end. 0 starts from the front. O(log n).
     Item* NextAfter(std::uint64_t serial) {
-        const auto at = FirstAfter(serial);
-        return at == entries_.end() ? nullptr : at->get();
+        const std::size_t at = FirstAfter(serial);
+        return at == entries_.size() ? nullptr : entries_[at].get();
     }
     const Item* NextAfter(std::uint64_t serial) const {
-        return const_cast<KeyedList*>(this)->NextAfter(serial);
+        const std::size_t at = FirstAfter(serial);
+        return at == entries_.size() ? nullptr : entries_[at].get();
     }
 
 private:
@@ -112,15 +117,16 @@ private:
             entries_.reserve(std::max<std::size_t>(8, 2 * entries_.size()));
     }
 
-    typename Entries::iterator FirstAfter(std::uint64_t serial) {
-        return std::upper_bound(
+    std::size_t FirstAfter(std::uint64_t serial) const {
+        const auto at = std::upper_bound(
             entries_.begin(), entries_.end(), serial,
             [](std::uint64_t wanted, const std::unique_ptr<Entry>& entry) { return wanted < entry->serial; });
+        return static_cast<std::size_t>(at - entries_.begin());
     }
 
-    void Remove(typename Entries::iterator at) {
-        const std::unique_ptr<Entry> gone = std::move(*at);
-        entries_.erase(at);
+    void Remove(std::size_t at) {
+        const std::unique_ptr<Entry> gone = std::move(entries_[at]);
+        entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(at));
         if (gone->keyed)
             index_.Erase(gone.get());
     }

@@ -35,6 +35,8 @@ public:
 
     /// Accesses that begin with "get Name" or "put ForeColor" fail from now on.
     void Fail(const std::string& beginning, const Failure& failure) { failures_[beginning] = failure; }
+    /// Nothing fails any more.
+    void Heal() { failures_.clear(); }
     /// Called at each access, before it takes effect.
     void OnAccess(std::function<void(const std::string& access)> action) { action_ = std::move(action); }
 

@@ -1,0 +1,252 @@
+#include "editor_window.h"
+
+#include "../text.h"
+#include "plan_files.h"
+#include "resource.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+namespace {
+
+constexpr wchar_t kClassName[] = L"PlanhostEditor";
+constexpr wchar_t kTitle[] = L"Planhost";
+constexpr SIZE kFirstSize{1120, 840};
+// Pixels of the status bar's parts.
+constexpr int kPositionWidth = 220;
+constexpr int kCountWidth = 170;
+
+POINT PointOf(LPARAM lParam) {
+    return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+void RegisterWindowClass(WNDPROC onMessage) {
+    WNDCLASSEXW form{};
+    form.cbSize = sizeof form;
+    form.lpfnWndProc = onMessage;
+    form.hInstance = GetModuleHandleW(nullptr);
+    form.hIcon = LoadIconW(nullptr, IDI_APPLICATION);
+    form.lpszMenuName = MAKEINTRESOURCEW(IDR_EDITOR);
+    form.lpszClassName = kClassName;
+    RegisterClassExW(&form);
+}
+
+} // namespace
+
+/// A menu command, and when it can be chosen.
+struct EditorWindow::Command {
+    int id;
+    bool (*isPossible)(const EditorWindow& window);
+    void (*run)(EditorWindow& window);
+};
+
+bool EditorWindow::HasMarks(const EditorWindow& window) {
+    return !window.editor_.Document().Marks().IsEmpty();
+}
+
+const EditorWindow::Command EditorWindow::kCommands[] = {
+    {IDM_NEW, Always,
+     [](EditorWindow& w) {
+         StartNewPlan(w.window_, w.editor_.Document());
+         w.editor_.Redraw();
+     }},
+    {IDM_OPEN, Always,
+     [](EditorWindow& w) {
+         OpenPlan(w.window_, w.editor_.Document());
+         w.editor_.Redraw();
+     }},
+    {IDM_SAVE, Always, [](EditorWindow& w) { SavePlan(w.window_, w.editor_.Document()); }},
+    {IDM_SAVE_AS, Always, [](EditorWindow& w) { SavePlanAs(w.window_, w.editor_.Document()); }},
+    {IDM_EXPORT, Always,
+     [](EditorWindow& w) {
+         ExportAsDxf(w.window_, w.editor_.Document());
+         w.editor_.Redraw(); // symbols are hit in the size of their last drawing, and that was the export's
+     }},
+    {IDM_QUIT, Always, [](EditorWindow& w) { PostMessageW(w.window_, WM_CLOSE, 0, 0); }},
+    {IDM_UNDO, [](const EditorWindow& w) { return w.editor_.Document().CanUndo(); },
+     [](EditorWindow& w) { w.editor_.Undo(); }},
+    {IDM_MOVE, HasMarks, [](EditorWindow& w) { w.editor_.MoveMarked(); }},
+    {IDM_MOVE_BY, HasMarks, [](EditorWindow& w) { w.MoveBy(); }},
+    {IDM_DUPLICATE, HasMarks, [](EditorWindow& w) { w.editor_.DuplicateMarked(); }},
+    {IDM_REMOVE, HasMarks, [](EditorWindow& w) { w.editor_.RemoveMarked(); }},
+    {IDM_MARK_ALL, Always, [](EditorWindow& w) { w.editor_.MarkAll(); }},
+    {IDM_CHOOSE, Always, [](EditorWindow& w) { w.editor_.Choose(); }},
+    {IDM_AGAIN, [](const EditorWindow& w) { return w.editor_.CanPlaceAgain(); },
+     [](EditorWindow& w) { w.editor_.PlaceAgain(); }},
+    {IDM_CANCEL, Always, [](EditorWindow& w) { w.Cancel(); }},
+};
+
+EditorWindow::EditorWindow(Ptr<_CSymbolColl> catalogue) : editor_(std::move(catalogue)) {
+    const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_BAR_CLASSES};
+    InitCommonControlsEx(&controls);
+    RegisterWindowClass(OnMessage);
+    CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
+                    CW_USEDEFAULT, kFirstSize.cx, kFirstSize.cy, nullptr, nullptr, GetModuleHandleW(nullptr),
+                    this);
+    if (window_ == nullptr)
+        throw Failure{L"Das Fenster lässt sich nicht öffnen."};
+    ShowWindow(window_, SW_SHOWDEFAULT);
+    ShowState();
+}
+
+void EditorWindow::Open(const std::filesystem::path& plan) {
+    Do([&] {
+        editor_.Document().Open(plan);
+        editor_.Redraw();
+    });
+}
+
+void EditorWindow::Run() {
+    const HACCEL keys = LoadAcceleratorsW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDR_EDITOR));
+    MSG message;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+        if (TranslateAcceleratorW(window_, keys, &message))
+            continue;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+LRESULT CALLBACK EditorWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        auto* self = static_cast<EditorWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        self->window_ = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
+    }
+    auto* self = reinterpret_cast<EditorWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    return self != nullptr ? self->Handle(message, wParam, lParam)
+                           : DefWindowProcW(window, message, wParam, lParam);
+}
+
+LRESULT EditorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_CREATE:
+        status_ = CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0,
+                                  0, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+        return status_ != nullptr ? 0 : -1;
+    case WM_SIZE: Do([&] { Resize(); }); return 0;
+    case WM_PAINT: Paint(); return 0;
+    case WM_ERASEBKGND: return 1; // the picture covers everything
+    case WM_MOUSEMOVE: Do([&] { editor_.MouseMove(PointOf(lParam)); }); return 0;
+    case WM_LBUTTONDOWN:
+        SetCapture(window_);
+        Do([&] { editor_.MouseDown(PointOf(lParam)); });
+        return 0;
+    case WM_LBUTTONUP:
+        Do([&] { editor_.MouseUp(PointOf(lParam)); });
+        ReleaseCapture();
+        return 0;
+    case WM_CAPTURECHANGED:
+        if (!editor_.HasTool())
+            Do([&] { editor_.Cancel(); });
+        return 0;
+    case WM_RBUTTONDOWN: Do([&] { Cancel(); }); return 0;
+    case WM_KEYDOWN:
+        if (wParam == VK_ESCAPE) // no accelerator: those rest while the mouse draws a rubber band
+            Execute(IDM_CANCEL);
+        return 0;
+    case WM_KEYUP: Do([&] { editor_.KeyUp(wParam, lParam); }); return 0;
+    case WM_SETCURSOR:
+        if (LOWORD(lParam) != HTCLIENT)
+            break;
+        SetCursor(LoadCursorW(nullptr, editor_.HasTool() ? IDC_CROSS : IDC_ARROW));
+        return TRUE;
+    case WM_COMMAND: Execute(LOWORD(wParam)); return 0;
+    case WM_INITMENUPOPUP: EnableCommands(reinterpret_cast<HMENU>(wParam)); return 0;
+    case WM_CLOSE:
+        if (MayClose())
+            DestroyWindow(window_);
+        return 0;
+    case WM_QUERYENDSESSION: return MayClose();
+    case WM_DESTROY: PostQuitMessage(0); return 0;
+    default: break;
+    }
+    return DefWindowProcW(window_, message, wParam, lParam);
+}
+
+template <class Action>
+void EditorWindow::Do(const Action& action) {
+    const auto explain = [this](const std::wstring& message) {
+        ReleaseCapture();
+        editor_.Abandon();
+        MessageBoxW(window_, message.c_str(), kTitle, MB_ICONEXCLAMATION);
+    };
+    try {
+        action();
+    } catch (const Failure& failure) {
+        explain(failure.message);
+    } catch (const std::exception& error) {
+        explain(FromUtf8(error.what()));
+    }
+    ShowState();
+}
+
+void EditorWindow::Resize() {
+    RECT client, bar;
+    SendMessageW(status_, WM_SIZE, 0, 0);
+    GetClientRect(window_, &client);
+    GetWindowRect(status_, &bar);
+    const int ends[] = {std::max(0L, client.right - kPositionWidth - kCountWidth),
+                        std::max(0L, client.right - kCountWidth), -1};
+    SendMessageW(status_, SB_SETPARTS, std::size(ends), reinterpret_cast<LPARAM>(ends));
+    editor_.Resize({client.right, client.bottom - (bar.bottom - bar.top)});
+}
+
+void EditorWindow::Paint() {
+    PAINTSTRUCT paint;
+    editor_.Paint(BeginPaint(window_, &paint));
+    EndPaint(window_, &paint);
+}
+
+void EditorWindow::Execute(int id) {
+    for (const Command& command : kCommands) {
+        if (command.id != id)
+            continue;
+        Do([&] {
+            if (id != IDM_CANCEL)
+                editor_.Cancel();
+            command.run(*this);
+            // The tool's image appears where the mouse is already.
+            POINT mouse;
+            GetCursorPos(&mouse);
+            ScreenToClient(window_, &mouse);
+            editor_.MouseMove(mouse);
+        });
+    }
+}
+
+void EditorWindow::EnableCommands(HMENU menu) const {
+    for (const Command& command : kCommands)
+        EnableMenuItem(menu, command.id, command.isPossible(*this) ? MF_ENABLED : MF_GRAYED);
+}
+
+void EditorWindow::ShowState() {
+    const std::wstring texts[] = {editor_.Hint(), editor_.PositionText(), editor_.CountText()};
+    for (std::size_t i = 0; i < std::size(texts); ++i)
+        SendMessageW(status_, SB_SETTEXTW, i, reinterpret_cast<LPARAM>(texts[i].c_str()));
+    const std::wstring title =
+        PlanName(editor_.Document()) + (editor_.Document().IsModified() ? L"* – " : L" – ") + kTitle;
+    SetWindowTextW(window_, title.c_str());
+    InvalidateRect(window_, nullptr, FALSE);
+}
+
+void EditorWindow::Cancel() {
+    if (editor_.IsBusy())
+        editor_.Cancel();
+    else
+        editor_.Unmark();
+}
+
+void EditorWindow::MoveBy() {
+    if (const std::optional<TypedMove> move = AskForMove(window_))
+        editor_.MoveMarked(*move);
+}
+
+bool EditorWindow::MayClose() {
+    bool mayClose = false;
+    Do([&] {
+        editor_.Cancel();
+        mayClose = MayLeave(window_, editor_.Document());
+    });
+    return mayClose;
+}

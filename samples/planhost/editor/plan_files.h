@@ -1,0 +1,18 @@
+#pragma once
+
+#include "plan_document.h"
+
+// What the menu "Plan" does, with the questions that belong to it. owner: the window that asks.
+
+/// What the user calls the plan: the name of its file.
+std::wstring PlanName(const PlanDocument& document);
+
+/// Asks whether to save changes; false when the user wants to stay.
+bool MayLeave(HWND owner, PlanDocument& document);
+
+void StartNewPlan(HWND owner, PlanDocument& document);
+void OpenPlan(HWND owner, PlanDocument& document);
+/// Return false when the user did not choose a file.
+bool SavePlan(HWND owner, PlanDocument& document);
+bool SavePlanAs(HWND owner, PlanDocument& document);
+void ExportAsDxf(HWND owner, const PlanDocument& document);

@@ -1,0 +1,101 @@
+#include "plan_drawing.h"
+
+#include "picture_box.h"
+#include "wall_outline.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr COLORREF kWallColour = RGB(74, 74, 78);
+constexpr COLORREF kTextColour = RGB(40, 40, 44);
+constexpr LONG kMarkColour = RGB(226, 74, 20);
+constexpr LONG kOwnColours = -1;
+// Millimetres in the plan.
+constexpr int kLabelHeight = 230;
+constexpr int kTitleHeight = 340;
+constexpr int kTitleMargin = 700;
+
+void DrawFloors(const Plan& plan, const Canvas& canvas) {
+    for (const Floor& floor : plan.floors) {
+        const POINT leftTop = ToPixel(canvas, floor.area.left, floor.area.top);
+        const POINT rightBottom = ToPixel(canvas, floor.area.right, floor.area.bottom);
+        const RECT area{leftTop.x, leftTop.y, rightBottom.x, rightBottom.y};
+        const HBRUSH brush = CreateSolidBrush(floor.colour);
+        FillRect(canvas.dc, &area, brush);
+        DeleteObject(brush);
+    }
+}
+
+void DrawWalls(const Plan& plan, const Canvas& canvas) {
+    const HDC dc = canvas.dc;
+    const int state = SaveDC(dc);
+    SelectObject(dc, GetStockObject(DC_PEN));
+    SelectObject(dc, GetStockObject(DC_BRUSH));
+    SetDCPenColor(dc, kWallColour);
+    SetDCBrushColor(dc, kWallColour);
+    for (const Wall& wall : plan.walls) {
+        POINT corners[4];
+        std::ranges::transform(Outline(wall), corners,
+                               [&](const Position& corner) { return ToPixel(canvas, corner.x, corner.y); });
+        Polygon(dc, corners, 4);
+    }
+    RestoreDC(dc, state);
+}
+
+/// marked: the places of symbols in the plan that are drawn in the mark colour.
+void DrawSymbols(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
+                 const std::vector<std::size_t>& marked, const Canvas& canvas) {
+    const Ptr<PictureBox> box = PictureBox::Create(canvas.dc, canvas.size.cx, canvas.size.cy, L"PlanBox");
+    for (std::size_t i = 0; i < symbols.size(); ++i) {
+        const PlacedSymbol& placed = plan.symbols[i];
+        const bool isMarked = std::find(marked.begin(), marked.end(), i) != marked.end();
+        LONG markColour = isMarked ? kMarkColour : kOwnColours;
+        Check(symbols[i]->Draw(placed.at.x, placed.at.y, Radians(placed), box.Get(), &canvas.transformation,
+                               1.0, 1.0, &markColour),
+              Describe(placed));
+    }
+}
+
+void WriteText(const Canvas& canvas, const std::wstring& text, POINT at, int height, UINT align) {
+    const HDC dc = canvas.dc;
+    const int state = SaveDC(dc);
+    LONG pixels = height * kUnitsPerMillimetre;
+    Check(canvas.transformation.LengthToScreen(&pixels));
+    const HFONT font = CreateFontW(-pixels, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, 0, 0,
+                                   ANTIALIASED_QUALITY, 0, L"Arial");
+    SelectObject(dc, font);
+    SetTextColor(dc, kTextColour);
+    SetBkMode(dc, TRANSPARENT);
+    SetTextAlign(dc, align | TA_BASELINE);
+    const POINT anchor = ToPixel(canvas, at.x, at.y);
+    TextOutW(dc, anchor.x, anchor.y, text.c_str(), static_cast<int>(text.size()));
+    RestoreDC(dc, state);
+    DeleteObject(font);
+}
+
+void WriteTitleAndLabels(const Plan& plan, const Canvas& canvas) {
+    WriteText(canvas, plan.title, {kTitleMargin, kTitleMargin - kTitleHeight / 2}, kTitleHeight, TA_LEFT);
+    for (const Room& room : plan.rooms) {
+        // Capitals are about two thirds of the height: this puts them round the middle.
+        const POINT baseline{room.middle.x, room.middle.y + kLabelHeight / 3};
+        WriteText(canvas, room.name, baseline, kLabelHeight, TA_CENTER);
+    }
+}
+
+} // namespace
+
+POINT ToPixel(const Canvas& canvas, double x, double y) {
+    POINT point{std::lround(x * kUnitsPerMillimetre), std::lround(y * kUnitsPerMillimetre)};
+    Check(canvas.transformation.WorldToScreen(&point.x, &point.y));
+    return point;
+}
+
+void DrawPlanOn(const Canvas& canvas, const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
+                const std::vector<std::size_t>& marked) {
+    DrawFloors(plan, canvas);
+    DrawWalls(plan, canvas);
+    DrawSymbols(plan, symbols, marked, canvas);
+    WriteTitleAndLabels(plan, canvas);
+}

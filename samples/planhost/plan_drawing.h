@@ -1,0 +1,23 @@
+#pragma once
+
+#include "catalogue.h"
+#include "plan_file.h"
+
+#include <QMath.h>
+
+#include <vector>
+
+/// What a plan is drawn on. The map from plan to pixels is the one that the libraries get as well.
+struct Canvas {
+    HDC dc;
+    SIZE size; ///< in pixels
+    _CTrans& transformation;
+};
+
+/// The pixel of a place in millimetres.
+POINT ToPixel(const Canvas& canvas, double x, double y);
+
+/// Draws floors, walls, symbols and names, in this order. symbols: those of the plan, in its order; marked:
+/// the places of those that get the mark colour.
+void DrawPlanOn(const Canvas& canvas, const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
+                const std::vector<std::size_t>& marked);

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "automation/qsymbol/host_surface.h"
+#include "automation/qsymbol/host_transformation.h"
+#include "qsymbol/tools/drawing_target.h"
+
+#include <optional>
+
+/// The control and the transformation of one event of a host.
+class HostTarget final : public qsymbol::DrawingTarget {
+public:
+    HostTarget(IDispatch* control, _CTrans* trans) : control_(control), trans_(trans) {}
+
+    HostSurface& OpenSurface() override;
+    const HostTransformation& OpenTransformation() override;
+
+private:
+    IDispatch* control_;
+    _CTrans* trans_;
+    std::optional<HostSurface> surface_;
+    std::optional<HostTransformation> transformation_;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "qsymbol/draw/surface.h"
+#include "qsymbol/geometry/symbol_position.h"
+#include "qsymbol/geometry/transformation.h"
+
+#include <memory>
+
+namespace qsymbol {
+
+/// Contract: a symbol as the placing tools know it. Its holders share it, so that a change of the symbol by
+/// its owner shows with the next draw.
+class DrawableSymbol {
+public:
+    virtual ~DrawableSymbol() = default;
+
+    /// Draws the symbol at the place, in its own colours and unscaled. Errors pass through.
+    virtual void Draw(const SymbolPosition& place, Surface& surface,
+                      const Transformation& transformation) const = 0;
+    /// A symbol of its own with path, reference point and elements; its size is 0.
+    virtual std::shared_ptr<const DrawableSymbol> Copy() const = 0;
+};
+
+} // namespace qsymbol

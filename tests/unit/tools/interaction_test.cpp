@@ -1,0 +1,24 @@
+#include "unit/tools/native_tool_host.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::filesystem::path kFolder = std::filesystem::path(QSYMBOL_SOURCE_DIR) / "tests/data/interactions";
+
+class Interaction : public testing::TestWithParam<std::filesystem::path> {};
+
+TEST_P(Interaction, GoesAsRecorded) {
+    tools::NativeToolHost host;
+    interactions::Play(interactions::ReadScript(GetParam()), host);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Interaction, testing::ValuesIn(interactions::ScriptsIn(kFolder)),
+                         [](const auto& test) { return test.param.stem().string(); });
+
+/// Scripts that nobody finds would prove nothing.
+TEST(Interactions, AreThere) {
+    EXPECT_GE(interactions::ScriptsIn(kFolder).size(), 10U);
+}
+
+} // namespace
