@@ -1,5 +1,6 @@
 #include "automation/counting_box.h"
 #include "automation/gdi_recording.h"
+#include "automation/narrow_arguments.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
@@ -142,15 +143,8 @@ private:
 } // namespace
 
 int wmain(int argc, wchar_t** wideArguments) {
-    std::vector<std::string> texts;
-    for (int i = 0; i < argc; ++i) {
-        const std::wstring wide(wideArguments[i]);
-        texts.emplace_back(wide.begin(), wide.end());
-    }
-    std::vector<char*> arguments;
-    for (std::string& text : texts)
-        arguments.push_back(text.data());
-    benchmark::Initialize(&argc, arguments.data());
+    NarrowArguments arguments(argc, wideArguments);
+    benchmark::Initialize(&argc, arguments.Data());
     if (argc < 2) {
         std::puts("usage: draw_bench FOLDER_OF_TEXT_SYMBOLS");
         return 2;

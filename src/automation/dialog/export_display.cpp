@@ -9,27 +9,28 @@
 namespace dialog {
 
 ExportDisplay::ExportDisplay(HWND dialog, std::size_t count)
-    : dialog_(dialog), count_(count), caption_(WindowText(Control(IDC_pbJPG))) {
-    SetWindowText(Control(IDC_pbJPG), kStopCaption);
-    SendMessageW(Control(IDC_Progress), PBM_SETRANGE32, 0, static_cast<LPARAM>(count_));
-    SendMessageW(Control(IDC_Progress), PBM_SETPOS, 0, 0);
-    SetWindowText(Control(IDC_txProgress), {});
+    : button_(GetDlgItem(dialog, IDC_pbJPG)), bar_(GetDlgItem(dialog, IDC_Progress)),
+      text_(GetDlgItem(dialog, IDC_txProgress)), count_(count), caption_(WindowText(button_)) {
+    SetWindowText(button_, kStopCaption);
+    SendMessageW(bar_, PBM_SETRANGE32, 0, static_cast<LPARAM>(count_));
+    SendMessageW(bar_, PBM_SETPOS, 0, 0);
+    SetWindowText(text_, {});
     ShowProgress(true);
 }
 
 ExportDisplay::~ExportDisplay() {
     ShowProgress(false);
-    SetWindowText(Control(IDC_pbJPG), caption_);
+    SetWindowText(button_, caption_);
 }
 
 void ExportDisplay::ShowProgress(bool show) const {
-    for (const int id : {IDC_Progress, IDC_txProgress})
-        ShowWindow(Control(id), show ? SW_SHOWNA : SW_HIDE);
+    for (const HWND control : {bar_, text_})
+        ShowWindow(control, show ? SW_SHOWNA : SW_HIDE);
 }
 
 void ExportDisplay::Tell(std::size_t current) const {
-    SendMessageW(Control(IDC_Progress), PBM_SETPOS, current, 0);
-    SetWindowText(Control(IDC_txProgress), qsymbol::ProgressText(current, count_));
+    SendMessageW(bar_, PBM_SETPOS, current, 0);
+    SetWindowText(text_, qsymbol::ProgressText(current, count_));
 }
 
 } // namespace dialog

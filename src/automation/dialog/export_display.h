@@ -22,10 +22,11 @@ public:
     void Tell(std::size_t current) const;
 
 private:
-    HWND Control(int id) const { return GetDlgItem(dialog_, id); }
     void ShowProgress(bool show) const;
 
-    HWND dialog_;
+    HWND button_;
+    HWND bar_;
+    HWND text_;
     std::size_t count_;
     std::u16string caption_;
 };

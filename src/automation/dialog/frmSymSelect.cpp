@@ -118,6 +118,7 @@ void frmSymSelect::Form_Load() {
             if (const std::u16string text = services_.strings.LoadResString(caption.string); !text.empty())
                 SetWindowText(caption.control == 0 ? window_ : Control(caption.control), text);
         list_.Attach(Control(IDC_lbSymbole));
+        controls_ = {Control(IDC_SymPict), Control(IDC_txBreite), Control(IDC_txHoehe), Control(IDC_pbOk)};
         Measure();
         arrangement_.PlaceWindow(window_);
         NewPicture();
@@ -163,9 +164,9 @@ bool frmSymSelect::lbSymbole_Click() {
 bool frmSymSelect::ShowEntry(int entry) {
     const unsigned show = ++shows_;
     pict_->Clear();
-    InvalidateRect(Control(IDC_SymPict), nullptr, FALSE);
-    SetWindowText(Control(IDC_txBreite), {});
-    SetWindowText(Control(IDC_txHoehe), {});
+    InvalidateRect(controls_.SymPict, nullptr, FALSE);
+    SetWindowText(controls_.txBreite, {});
+    SetWindowText(controls_.txHoehe, {});
     com::ComPtr<_CSymbol> symbol;
     if (entry >= 0) {
         const com::Bstr name(list_.Names()[static_cast<std::size_t>(entry)]);
@@ -190,12 +191,14 @@ void frmSymSelect::ShowSizes(_CSymbol& symbol) {
     com::Check(symbol.get_Height(&height));
     const double unitFactor = services_.unitFactor();
     const std::u16string decimal = services_.decimal();
-    SetWindowText(Control(IDC_txBreite), qsymbol::SizeText(width, unitFactor, decimal));
-    SetWindowText(Control(IDC_txHoehe), qsymbol::SizeText(height, unitFactor, decimal));
+    SetWindowText(controls_.txBreite, qsymbol::SizeText(width, unitFactor, decimal));
+    SetWindowText(controls_.txHoehe, qsymbol::SizeText(height, unitFactor, decimal));
 }
 
 void frmSymSelect::EnableOk(bool enable) {
-    const HWND ok = Control(IDC_pbOk);
+    const HWND ok = controls_.pbOk;
+    if (enable == (IsWindowEnabled(ok) != FALSE))
+        return;
     // A disabled control must not keep the focus: the keyboard would be dead.
     if (!enable && GetFocus() == ok)
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(IDC_lbSymbole)), TRUE);
@@ -216,7 +219,7 @@ void frmSymSelect::DrawSymbol() {
         const SymPict::Drawing drawing(*pict_.Get(), {offset.x, offset.y});
         com::Check(symbol->Draw2PBox(pict_.Get()));
     }
-    InvalidateRect(Control(IDC_SymPict), nullptr, FALSE);
+    InvalidateRect(controls_.SymPict, nullptr, FALSE);
     if (std::exchange(pictureWaits_, false))
         NewPicture();
 }
@@ -233,9 +236,9 @@ void frmSymSelect::NewPicture() {
         if (pictureWaits_)
             return;
         RECT area{};
-        GetClientRect(Control(IDC_SymPict), &area);
+        GetClientRect(controls_.SymPict, &area);
         pict_->Resize({area.right - 2 * kBorder, area.bottom - 2 * kBorder}, arrangement_.PreviewMargin());
-        InvalidateRect(Control(IDC_SymPict), nullptr, FALSE);
+        InvalidateRect(controls_.SymPict, nullptr, FALSE);
         DrawSymbol();
     });
 }
@@ -243,7 +246,7 @@ void frmSymSelect::NewPicture() {
 void frmSymSelect::pbOk_Click() {
     Handle(u"frmSymSelect.pbOk_Click", [&] {
         const int entry = list_.Selected();
-        if (entry < 0 || IsWindowEnabled(Control(IDC_pbOk)) == FALSE)
+        if (entry < 0 || IsWindowEnabled(controls_.pbOk) == FALSE)
             return;
         result_ = list_.Names()[static_cast<std::size_t>(entry)];
         End();

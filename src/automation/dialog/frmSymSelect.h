@@ -64,6 +64,13 @@ private:
     std::u16string result_;
 
     HWND window_ = nullptr;
+    /// Those that change with every entry that is shown.
+    struct {
+        HWND SymPict;
+        HWND txBreite;
+        HWND txHoehe;
+        HWND pbOk;
+    } controls_{};
     Arrangement arrangement_;
     lbSymbole list_;
     com::ComPtr<SymPict> pict_;

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,7 +17,7 @@ struct Services {
     /// Shows the exception being handled under a source.
     void (*report)(std::u16string_view source) noexcept;
     /// Logical units in a unit that the user sees; asked for each symbol, as the host may change it.
-    double (*unitFactor)();
+    std::function<double()> unitFactor;
     /// The user's decimal separator.
     std::u16string (*decimal)();
 };

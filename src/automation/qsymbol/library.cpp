@@ -64,9 +64,4 @@ void ReportCurrentError(std::u16string_view source) noexcept {
     }
 }
 
-void NotImplemented(std::u16string_view member) {
-    throw base::Error::FromStatus(static_cast<std::uint32_t>(E_NOTIMPL), std::u16string(member),
-                                  std::u16string(member) + u" ist in dieser Version noch nicht verfügbar.");
-}
-
 } // namespace library

@@ -49,7 +49,4 @@ void Swallow(Body&& body) noexcept {
     }
 }
 
-/// For members that this version does not have yet: E_NOTIMPL with a description.
-[[noreturn]] void NotImplemented(std::u16string_view member);
-
 } // namespace library

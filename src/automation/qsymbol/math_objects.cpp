@@ -73,10 +73,8 @@ com::ComPtr<_CRect> NewRect(const qmath::Rect& rect) {
     return object;
 }
 
-double UnitFactor() {
-    double factor = 0;
-    com::Check(New<_CSettings>(*Factory(__uuidof(CSettings)).Get())->get_UnitFactor(&factor));
-    return factor;
+com::ComPtr<_CSettings> Settings() {
+    return New<_CSettings>(*Factory(__uuidof(CSettings)).Get());
 }
 
 } // namespace math_objects

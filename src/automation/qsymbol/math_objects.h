@@ -19,7 +19,7 @@ com::ComPtr<_CPtList> NewPointList(std::span<const qmath::Point> points);
 
 com::ComPtr<_CRect> NewRect(const qmath::Rect& rect);
 
-/// Logical units in a unit that the user sees, from the settings that all components share.
-double UnitFactor();
+/// The settings that all components share.
+com::ComPtr<_CSettings> Settings();
 
 } // namespace math_objects

@@ -3,9 +3,25 @@
 #include "automation/dialog/select_symbol.h"
 #include "automation/qsymbol/library.h"
 #include "automation/qsymbol/math_objects.h"
+#include "com/error_info.h"
 #include "com/module.h"
 
 namespace {
+
+/// The unit factor as it is when it is asked for, from one settings object.
+class UnitFactor {
+public:
+    double operator()() {
+        if (!settings_)
+            settings_ = math_objects::Settings();
+        double factor = 0;
+        com::Check(settings_->get_UnitFactor(&factor));
+        return factor;
+    }
+
+private:
+    com::ComPtr<_CSettings> settings_;
+};
 
 std::u16string DecimalSeparator() {
     return library::CodePage().Decode(library::FileEnvironmentNow().regional.decimal);
@@ -18,6 +34,6 @@ std::u16string SelectSymbolName(_CSymbolColl& catalogue, std::u16string_view req
                                 {.instance = com::TheModule().Instance(),
                                  .strings = library::FileEnvironmentNow().strings,
                                  .report = library::ReportCurrentError,
-                                 .unitFactor = math_objects::UnitFactor,
+                                 .unitFactor = UnitFactor(),
                                  .decimal = DecimalSeparator});
 }

@@ -41,17 +41,6 @@ bool Contains(const RECT& outer, const RECT& inner) {
            inner.bottom <= outer.bottom;
 }
 
-long TextWidth(const SelectionDialog& dialog, int id) {
-    const HDC dc = GetDC(dialog.Window());
-    const HGDIOBJ before =
-        SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(dialog.Control(id), WM_GETFONT, 0, 0)));
-    RECT box{};
-    DrawTextW(dc, dialog.Text(id).c_str(), -1, &box, DT_CALCRECT | DT_SINGLELINE);
-    SelectObject(dc, before);
-    ReleaseDC(dialog.Window(), dc);
-    return box.right;
-}
-
 /// Nothing is cut off, and nothing covers anything else.
 void ExpectInOrder(const SelectionDialog& dialog) {
     const SIZE client = dialog.ClientSize();
@@ -77,8 +66,8 @@ void ExpectInOrder(const SelectionDialog& dialog) {
         }
     }
     for (const int id : {kListLabel, kWidthLabel, kHeightLabel, kExport, IDOK, IDCANCEL})
-        EXPECT_LE(TextWidth(dialog, id), Width(dialog.Place(id))) << id;
-    EXPECT_LE(TextWidth(dialog, kFrame), Width(frame));
+        EXPECT_LE(dialog.TextWidth(id), Width(dialog.Place(id))) << id;
+    EXPECT_LE(dialog.TextWidth(kFrame), Width(frame));
 }
 
 SIZE WindowSize(HWND window) {

@@ -1,4 +1,5 @@
 #include "support/automation_test.h"
+#include "support/dialog_user.h"
 #include "support/message_boxes.h"
 #include "support/shapes.h"
 #include "support/temp_folder.h"
@@ -58,6 +59,22 @@ void TellMessagesAroundARename() {
     TellMessages();
 }
 
+/// The captions of the selection dialog, and whether each button has room for its own.
+void TellCaptions() {
+    using namespace support;
+    DialogUser user;
+    user.Do([](const SelectionDialog& dialog) {
+        Tell(dialog.Title());
+        for (const int id : {kFrame, kListLabel, kExport, kWidthLabel, kHeightLabel, IDOK, IDCANCEL})
+            Tell(dialog.Text(id));
+        const RECT button = dialog.Place(kExport);
+        Tell(dialog.TextWidth(kExport) < button.right - button.left ? L"fits" : L"is cut off");
+    });
+    user.Press(IDCANCEL);
+    Bstr chosen;
+    EXPECT_OK((Create<CSymbolColl, _CSymbolColl>()->SelectSymNameDlg(Bstr(L""), chosen.Put())));
+}
+
 /// The selection dialog as a user sees it, on a desktop of any resolution; what he chose.
 void Choose() {
     SetProcessDPIAware();
@@ -74,6 +91,7 @@ int main(int argc, char** argv) {
     const std::map<std::string, void (*)()> scenarios = {{"messages", TellMessages},
                                                          {"catalogue", TellCatalogueBox},
                                                          {"rename", TellMessagesAroundARename},
+                                                         {"captions", TellCaptions},
                                                          {"choose", Choose}};
     testing::InitGoogleTest();
     if (argc < 2 || argc > 3 || !scenarios.contains(argv[1]) ||

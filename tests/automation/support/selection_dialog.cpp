@@ -72,6 +72,17 @@ SIZE SelectionDialog::ClientSize() const {
     return {area.right, area.bottom};
 }
 
+LONG SelectionDialog::TextWidth(int id) const {
+    const HDC dc = GetDC(window_);
+    const HGDIOBJ before =
+        SelectObject(dc, reinterpret_cast<HGDIOBJ>(SendMessageW(Control(id), WM_GETFONT, 0, 0)));
+    RECT box{};
+    DrawTextW(dc, Text(id).c_str(), -1, &box, DT_CALCRECT | DT_SINGLELINE);
+    SelectObject(dc, before);
+    ReleaseDC(window_, dc);
+    return box.right;
+}
+
 void SelectionDialog::Press(int id) const {
     PostMessageW(Control(id), BM_CLICK, 0, 0);
 }

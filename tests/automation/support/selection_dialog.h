@@ -43,6 +43,8 @@ public:
     /// In pixels of the dialog's client area.
     RECT Place(int id) const;
     SIZE ClientSize() const;
+    /// Of a caption, in the control's font.
+    LONG TextWidth(int id) const;
 
     // What a user does; it takes effect when the dialog handles its messages.
     void Press(int id) const;
