@@ -9,7 +9,7 @@ import time
 
 import screen
 
-LIMIT = float(os.environ.get("LIMIT", 120))  # seconds
+LIMIT = 120  # seconds
 PAUSE = 0.05  # between two looks
 NAME = "test"  # of the Windows desktop
 
@@ -134,6 +134,9 @@ class Desktop:
 
     def click(self):
         self._event("click", 1)
+
+    def double_click(self):
+        self._event("click", "--repeat", 2, "--delay", 20, 1)
 
     def hold(self, key):
         self._event("keydown", key)

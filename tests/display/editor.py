@@ -5,13 +5,16 @@ import os
 import pathlib
 import shutil
 import subprocess
+import time
 
 import screen
-from desktop import Desktop, wait_for, windows_path
+from desktop import PAUSE, Desktop, wait_for, windows_path
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PROGRAM = ROOT / "build/mingw-x64/bin/planhost.exe"
 PICTURES = ROOT / "build/test-output"
+ROOM = ROOT / "tests/display/zimmer.plan"
+FLAT = ROOT / "samples/planhost/wohnung.plan"
 MARK = (226, 74, 20)
 WALL = (74, 74, 78)
 MARGIN = 8  # pixels round the sheet
@@ -70,7 +73,8 @@ class Editor:
 
     def __exit__(self, *error):
         if error[0] is not None:
-            self.save_picture("failed")
+            PICTURES.mkdir(parents=True, exist_ok=True)
+            screen.take().save(PICTURES / f"{folder().name}-failed.png")
         self.desktop.__exit__(*error)
 
     # What is to be seen
@@ -102,8 +106,18 @@ class Editor:
         wait_for(f"count {text!r}", lambda: self.status()[2] == text)
 
     def picture(self):
-        """The plan's part of the screen."""
-        return self._part(screen.take())
+        """The plan's part of the screen, once it has settled."""
+        return self._part(self._settled())
+
+    def _settled(self):
+        """The screen when it has stayed the same while the program answered several times."""
+        last, same = screen.take(), 0
+        while same < 3:
+            self.desktop.windows()
+            time.sleep(PAUSE)
+            now = screen.take()
+            last, same = now, same + 1 if now == last else 0
+        return last
 
     def _part(self, picture):
         left, top, right, _ = self.area
@@ -117,12 +131,11 @@ class Editor:
         try:
             self.wait_for_picture(what, lambda picture: picture == expected)
         except AssertionError as error:
-            raise AssertionError(f"{what}: {self.picture().differing(expected)} pixels differ") from error
+            raise AssertionError(f"{what}: {self._part(screen.take()).differing(expected)} pixels differ") from error
 
-    @staticmethod
-    def save_picture(name):
+    def save_picture(self, name):
         PICTURES.mkdir(parents=True, exist_ok=True)
-        screen.take().save(PICTURES / f"{folder().name}-{name}.png")
+        self._settled().save(PICTURES / f"{folder().name}-{name}.png")
 
     # Places: millimetres of the plan and pixels of the picture
 
@@ -178,8 +191,7 @@ class Editor:
         """Maximises the window or gives it its size back; waits for the new size."""
         before = self.area
         self.desktop.move(before[0] + 300, before[1] - 30)
-        self.desktop.click()
-        self.desktop.click()
+        self.desktop.double_click()
         wait_for("another size", lambda: self.wait_for_window().area != before)
 
     def save(self):
