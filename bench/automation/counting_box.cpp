@@ -8,7 +8,6 @@ enum Member : DISPID { Context = 1, Name, DrawMode, ForeColor, DrawWidth, DrawSt
 
 constexpr const wchar_t* kNames[] = {L"hDC",       L"Name",      L"DrawMode",  L"ForeColor",
                                      L"DrawWidth", L"DrawStyle", L"FillColor", L"FillStyle"};
-constexpr LONG kCopyPen = 13;
 
 } // namespace
 
@@ -55,7 +54,6 @@ STDMETHODIMP CountingBox::Invoke(DISPID id, REFIID /*iid*/, LCID /*locale*/, WOR
         V_VT(result) = VT_BSTR;
         V_BSTR(result) = SysAllocString(L"PlanBox");
         break;
-    case DrawMode: V_I4(result) = kCopyPen; break;
     default: V_I4(result) = values_[id - 1];
     }
     return S_OK;

@@ -25,6 +25,6 @@ public:
 
 private:
     HDC context_;
-    LONG values_[8] = {};
+    LONG values_[8] = {0, 0, R2_COPYPEN}; ///< in the order of the dispatch ids
     std::int64_t calls_ = 0;
 };

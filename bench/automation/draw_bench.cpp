@@ -1,6 +1,10 @@
 #include "automation/counting_box.h"
 #include "automation/gdi_recording.h"
+#include "automation/host_calls.h"
+#include "automation/memory_context.h"
 #include "automation/narrow_arguments.h"
+#include "automation/ratio_reporter.h"
+#include "automation/sample_symbols.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
@@ -8,8 +12,6 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
-#include <map>
-#include <string>
 #include <vector>
 
 // The type library of an executable has no server: the error support needs a module all the same.
@@ -17,65 +19,58 @@
 
 namespace {
 
-constexpr int kSide = 1000;
-constexpr GdiRecording::Placement kPlacement{.x = 300000, .y = 300000, .angle = 0.3, .scale = 600};
+constexpr double kScale = 600; // world units to a pixel
+constexpr GdiRecording::Placement kPlacement{.x = 300000, .y = 300000, .angle = 0.3, .scale = kScale};
+/// Where the mouse goes to from there, and back.
+constexpr GdiRecording::Placement kMoved{.x = 312000, .y = 288000, .angle = 0.3, .scale = kScale};
 
-/// A memory DC with a bitmap of its own.
-class MemoryContext {
-public:
-    MemoryContext() : context_(CreateCompatibleDC(nullptr)) {
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof(BITMAPINFOHEADER), kSide, -kSide, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        bitmap_ = CreateDIBSection(context_, &info, DIB_RGB_COLORS, nullptr, nullptr, 0);
-        previous_ = SelectObject(context_, bitmap_);
+using Symbols = std::vector<com::ComPtr<_CSymbol>>;
+
+Symbols g_symbols;
+com::ComPtr<_CSymbolColl> g_catalogue; ///< the same symbols
+
+template <class Class, class Interface>
+com::ComPtr<Interface> New() {
+    com::ComPtr<Interface> object;
+    com::Check(CoCreateInstance(__uuidof(Class), nullptr, CLSCTX_INPROC_SERVER, __uuidof(Interface),
+                                object.PutVoid()));
+    return object;
+}
+
+com::ComPtr<_CSymbolColl> CatalogueOf(const Symbols& symbols) {
+    auto catalogue = New<CSymbolColl, _CSymbolColl>();
+    for (const com::ComPtr<_CSymbol>& symbol : symbols) {
+        _CSymbol* handed = com::ComPtr<_CSymbol>(symbol).Detach();
+        com::Check(catalogue->AppendRef(&handed));
     }
-    MemoryContext(const MemoryContext&) = delete;
-    MemoryContext& operator=(const MemoryContext&) = delete;
-    ~MemoryContext() {
-        SelectObject(context_, previous_);
-        DeleteObject(bitmap_);
-        DeleteDC(context_);
-    }
-    HDC Get() const { return context_; }
+    return catalogue;
+}
 
-private:
-    HDC context_;
-    HBITMAP bitmap_;
-    HGDIOBJ previous_;
-};
+com::ComPtr<_CTrans> Trans() {
+    auto trans = New<CTrans, _CTrans>();
+    com::Check(trans->SetScale(kScale));
+    return trans;
+}
 
-/// All sample symbols, read through the library.
-std::vector<com::ComPtr<_CSymbol>> g_symbols;
+std::vector<GdiRecording> Recordings(const GdiRecording::Placement& placement) {
+    std::vector<GdiRecording> recordings;
+    for (const com::ComPtr<_CSymbol>& symbol : g_symbols)
+        recordings.emplace_back(*symbol.Get(), placement);
+    return recordings;
+}
 
-void LoadSymbols(const std::wstring& folder) {
-    WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW((folder + L"\\*.syt").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE)
-        return;
-    do {
-        com::ComPtr<_CSymbol> symbol;
-        com::Check(CoCreateInstance(__uuidof(CSymbol), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CSymbol),
-                                    symbol.PutVoid()));
-        const std::wstring path = folder + L"\\" + found.cFileName;
-        com::Check(symbol->put_FilePath(
-            com::Bstr({reinterpret_cast<const char16_t*>(path.data()), path.size()}).Get()));
-        com::Check(symbol->ReadFromFile());
-        g_symbols.push_back(symbol);
-    } while (FindNextFileW(search, &found) != FALSE);
-    FindClose(search);
+/// One round over all symbols.
+void DrawAll(CountingBox& box, _CTrans& trans) {
+    for (const com::ComPtr<_CSymbol>& symbol : g_symbols)
+        com::Check(symbol->Draw(kPlacement.x, kPlacement.y, kPlacement.angle, &box, &trans, 1, 1, nullptr));
 }
 
 void DrawThroughLibrary(benchmark::State& state) {
     const MemoryContext context;
     CountingBox box(context.Get());
-    com::ComPtr<_CTrans> trans;
-    com::Check(CoCreateInstance(__uuidof(CTrans), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CTrans),
-                                trans.PutVoid()));
-    com::Check(trans->SetScale(kPlacement.scale));
+    const com::ComPtr<_CTrans> trans = Trans();
     for (auto _ : state)
-        for (const com::ComPtr<_CSymbol>& symbol : g_symbols)
-            com::Check(
-                symbol->Draw(kPlacement.x, kPlacement.y, kPlacement.angle, &box, trans.Get(), 1, 1, nullptr));
+        DrawAll(box, *trans.Get());
     const auto draws = static_cast<double>(state.iterations()) * static_cast<double>(g_symbols.size());
     state.SetItemsProcessed(static_cast<std::int64_t>(draws));
     state.counters["host_calls"] = static_cast<double>(box.Calls()) / draws;
@@ -84,9 +79,7 @@ BENCHMARK(DrawThroughLibrary)->Unit(benchmark::kMillisecond);
 
 void BareGdiCalls(benchmark::State& state) {
     const MemoryContext context;
-    std::vector<GdiRecording> recordings;
-    for (const com::ComPtr<_CSymbol>& symbol : g_symbols)
-        recordings.emplace_back(*symbol.Get(), kPlacement);
+    const std::vector<GdiRecording> recordings = Recordings(kPlacement);
     for (auto _ : state)
         for (const GdiRecording& recording : recordings)
             recording.Play(context.Get());
@@ -95,50 +88,84 @@ void BareGdiCalls(benchmark::State& state) {
 BENCHMARK(BareGdiCalls)->Unit(benchmark::kMillisecond);
 
 /// The late-bound calls alone, as many as the drawing above makes: the host's share.
-void HostPropertyCalls(benchmark::State& state) {
+void HostCallsOfADraw(benchmark::State& state) {
     const MemoryContext context;
     CountingBox counter(context.Get());
-    com::ComPtr<_CTrans> trans;
-    com::Check(CoCreateInstance(__uuidof(CTrans), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CTrans),
-                                trans.PutVoid()));
-    com::Check(trans->SetScale(kPlacement.scale));
-    for (const com::ComPtr<_CSymbol>& symbol : g_symbols)
-        com::Check(
-            symbol->Draw(kPlacement.x, kPlacement.y, kPlacement.angle, &counter, trans.Get(), 1, 1, nullptr));
-    VARIANTARG value;
-    V_VT(&value) = VT_I4;
-    V_I4(&value) = 1;
-    DISPID put = DISPID_PROPERTYPUT;
-    DISPPARAMS arguments{&value, &put, 1, 1};
-    CountingBox box(context.Get());
-    IDispatch* volatile host = &box;
+    DrawAll(counter, *Trans().Get());
     for (auto _ : state)
-        for (std::int64_t i = 0; i < counter.Calls(); ++i)
-            host->Invoke(4, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &arguments, nullptr, nullptr,
-                         nullptr);
+        MakeHostCalls(counter.Calls());
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(g_symbols.size()));
 }
-BENCHMARK(HostPropertyCalls)->Unit(benchmark::kMillisecond);
+BENCHMARK(HostCallsOfADraw)->Unit(benchmark::kMillisecond);
 
-/// Prints the ratio that the yardstick is about under the usual table.
-class RatioReporter final : public benchmark::ConsoleReporter {
+/// A placing tool for each symbol, its image on the surface.
+class Movers {
 public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        ConsoleReporter::ReportRuns(runs);
-        for (const Run& run : runs)
-            if (run.aggregate_name.empty() || run.aggregate_name == "median")
-                times_[run.run_name.function_name] = run.GetAdjustedRealTime();
+    explicit Movers(HDC context) : box_(context) {
+        for (const com::ComPtr<_CSymbol>& symbol : g_symbols) {
+            com::Bstr name;
+            com::Check(symbol->get_Name(name.Put()));
+            com::ComPtr<_CSymInput> input;
+            com::Check(g_catalogue->GetSymInput(name.Get(), input.Put()));
+            com::Check(input->put_Angle(kPlacement.angle));
+            inputs_.push_back(input);
+        }
+        MoveAll();
+        MoveAll();
     }
-    void Finalize() override {
-        const double bare = times_["BareGdiCalls"];
-        if (bare > 0)
-            std::printf("library without host calls : bare GDI = %.3f (yardstick 1.2)\n",
-                        (times_["DrawThroughLibrary"] - times_["HostPropertyCalls"]) / bare);
+
+    /// Every image goes to the other one of the two places.
+    void MoveAll() {
+        const GdiRecording::Placement& to = moved_ ? kPlacement : kMoved;
+        moved_ = !moved_;
+        for (const com::ComPtr<_CSymInput>& input : inputs_)
+            com::Check(input->MouseMove(static_cast<float>(to.x / kScale), static_cast<float>(to.y / kScale),
+                                        &box_, trans_.Get()));
     }
+    std::int64_t Calls() const { return box_.Calls(); }
 
 private:
-    std::map<std::string, double> times_;
+    CountingBox box_;
+    com::ComPtr<_CTrans> trans_ = Trans();
+    std::vector<com::ComPtr<_CSymInput>> inputs_;
+    bool moved_ = false;
 };
+
+/// Takes the image away and draws it at another place, as every movement of the mouse does.
+void MoveThroughLibrary(benchmark::State& state) {
+    const MemoryContext context;
+    Movers movers(context.Get());
+    for (auto _ : state)
+        movers.MoveAll();
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(g_symbols.size()));
+}
+BENCHMARK(MoveThroughLibrary)->Unit(benchmark::kMillisecond);
+
+void BareGdiCallsOfAMove(benchmark::State& state) {
+    const MemoryContext context;
+    const std::vector<GdiRecording> here = Recordings(kPlacement);
+    const std::vector<GdiRecording> there = Recordings(kMoved);
+    for (auto _ : state) {
+        for (std::size_t i = 0; i < here.size(); ++i) {
+            here[i].PlayInverted(context.Get());
+            there[i].PlayInverted(context.Get());
+        }
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(g_symbols.size()));
+}
+BENCHMARK(BareGdiCallsOfAMove)->Unit(benchmark::kMillisecond);
+
+void HostCallsOfAMove(benchmark::State& state) {
+    const MemoryContext context;
+    Movers movers(context.Get());
+    const std::int64_t before = movers.Calls();
+    movers.MoveAll();
+    const std::int64_t calls = movers.Calls() - before;
+    for (auto _ : state)
+        MakeHostCalls(calls);
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(g_symbols.size()));
+}
+BENCHMARK(HostCallsOfAMove)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
@@ -152,9 +179,12 @@ int wmain(int argc, wchar_t** wideArguments) {
     CoInitialize(nullptr);
     com::TheModule().Start(GetModuleHandleW(nullptr), {});
     try {
-        LoadSymbols(wideArguments[1]);
-        RatioReporter reporter;
+        g_symbols = LoadSymbols(wideArguments[1]);
+        g_catalogue = CatalogueOf(g_symbols);
+        RatioReporter reporter({{"drawing", "DrawThroughLibrary", "HostCallsOfADraw", "BareGdiCalls"},
+                                {"moving", "MoveThroughLibrary", "HostCallsOfAMove", "BareGdiCallsOfAMove"}});
         benchmark::RunSpecifiedBenchmarks(&reporter);
+        g_catalogue.Reset();
         g_symbols.clear();
     } catch (const base::Error& error) {
         std::printf("%s\n", error.what());

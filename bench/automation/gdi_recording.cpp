@@ -119,6 +119,27 @@ GdiRecording::GdiRecording(_CSymbol& symbol, const Placement& placement) {
 }
 
 void GdiRecording::Play(HDC context) const {
+    Play(context, [](HDC target, const Call& call) {
+        TextOutA(target, call.points[0].x, call.points[0].y, call.text.data(),
+                 static_cast<int>(call.text.size()));
+    });
+}
+
+void GdiRecording::PlayInverted(HDC context) const {
+    Play(context, [](HDC target, const Call& call) {
+        const HBRUSH brush = CreateSolidBrush(GetTextColor(target));
+        const HGDIOBJ previous = SelectObject(target, brush);
+        BeginPath(target);
+        TextOutA(target, call.points[0].x, call.points[0].y, call.text.data(),
+                 static_cast<int>(call.text.size()));
+        EndPath(target);
+        FillPath(target);
+        SelectObject(target, previous);
+        DeleteObject(brush);
+    });
+}
+
+void GdiRecording::Play(HDC context, void (*writeText)(HDC context, const Call& call)) const {
     for (const Call& call : calls_) {
         const int count = static_cast<int>(call.points.size());
         switch (call.type) {
@@ -138,8 +159,7 @@ void GdiRecording::Play(HDC context) const {
             SetBkMode(context, call.bkMode);
             const HFONT font = CreateFontIndirectW(&call.font);
             const HGDIOBJ previous = SelectObject(context, font);
-            TextOutA(context, call.points[0].x, call.points[0].y, call.text.data(),
-                     static_cast<int>(call.text.size()));
+            writeText(context, call);
             SelectObject(context, previous);
             DeleteObject(font);
             break;

@@ -21,6 +21,8 @@ public:
     GdiRecording(_CSymbol& symbol, const Placement& placement);
 
     void Play(HDC context) const;
+    /// The same with texts as filled paths, which follow the context's raster operation.
+    void PlayInverted(HDC context) const;
 
 private:
     struct Call {
@@ -33,6 +35,8 @@ private:
         LOGFONTW font{};
         std::string text;
     };
+
+    void Play(HDC context, void (*writeText)(HDC context, const Call& call)) const;
 
     std::vector<Call> calls_;
 };

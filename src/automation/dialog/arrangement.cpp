@@ -111,7 +111,8 @@ void Arrangement::PlaceControls(HWND dialog) const {
     for (const Place& place : kPlaces) {
         const qmath::Rect& rect = places.*place.rect;
         const HWND control = GetDlgItem(dialog, place.control);
-        const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE;
+        // Old pixels of one control would be copied over the new place of another.
+        const UINT flags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
         if (moves != nullptr)
             moves = DeferWindowPos(moves, control, nullptr, rect.left, rect.top, rect.right - rect.left,
                                    rect.bottom - rect.top, flags);
@@ -120,6 +121,7 @@ void Arrangement::PlaceControls(HWND dialog) const {
         EndDeferWindowPos(moves);
     // The frame is transparent, so its old lines are the dialog's to erase.
     RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
+    RedrawWindow(GetDlgItem(dialog, IDC_lbSymbole), nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
 }
 
 SIZE Arrangement::MinimumWindow(HWND dialog) const {

@@ -27,6 +27,13 @@ private:
     HWND window_;
 };
 
+int g_seen = 0;
+
+LRESULT CALLBACK CountMessages(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    g_seen += message == WM_APP ? 1 : 0;
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
 class Modality : public DialogTest {
 protected:
     Modality() { Add({L"Bett", L"Tisch"}); }
@@ -133,13 +140,8 @@ TEST_F(Modality, AnotherDialogMayOpenInside) {
 }
 
 TEST_F(Modality, MessagesOfTheHostAreHandled) {
-    static int g_seen = 0;
     g_seen = 0;
-    const WNDPROC count = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-        g_seen += message == WM_APP ? 1 : 0;
-        return DefWindowProcW(window, message, wParam, lParam);
-    };
-    SetWindowLongPtrW(host.Get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(count));
+    SetWindowLongPtrW(host.Get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountMessages));
     user.Do([&](const SelectionDialog&) { PostMessageW(host.Get(), WM_APP, 0, 0); });
     user.Do([&](const SelectionDialog&) { EXPECT_EQ(g_seen, 1); });
     user.Press(IDCANCEL);

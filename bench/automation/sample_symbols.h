@@ -1,0 +1,11 @@
+#pragma once
+
+#include "com/com_ptr.h"
+
+#include <QSymbol.h>
+
+#include <string>
+#include <vector>
+
+/// All text symbols of a folder, read through the library.
+std::vector<com::ComPtr<_CSymbol>> LoadSymbols(const std::wstring& folder);
