@@ -7,6 +7,8 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr wchar_t kClassName[] = L"PlanhostEditor";
@@ -26,6 +28,14 @@ int OnScreen(int pixels) {
 
 POINT PointOf(LPARAM lParam) {
     return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+/// The first size of the window; no larger than there is room.
+SIZE FirstSize() {
+    RECT room;
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &room, 0);
+    return {std::min<LONG>(OnScreen(kFirstSize.cx), room.right - room.left),
+            std::min<LONG>(OnScreen(kFirstSize.cy), room.bottom - room.top)};
 }
 
 void RegisterWindowClass(WNDPROC onMessage) {
@@ -88,9 +98,9 @@ EditorWindow::EditorWindow(Ptr<_CSymbolColl> catalogue) : editor_(std::move(cata
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_BAR_CLASSES};
     InitCommonControlsEx(&controls);
     RegisterWindowClass(OnMessage);
+    const auto [width, height] = FirstSize();
     CreateWindowExW(0, kClassName, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, CW_USEDEFAULT,
-                    CW_USEDEFAULT, OnScreen(kFirstSize.cx), OnScreen(kFirstSize.cy), nullptr, nullptr,
-                    GetModuleHandleW(nullptr), this);
+                    CW_USEDEFAULT, width, height, nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (window_ == nullptr)
         throw Failure{L"Das Fenster lässt sich nicht öffnen."};
     ShowWindow(window_, SW_SHOWDEFAULT);

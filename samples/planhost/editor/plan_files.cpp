@@ -13,15 +13,17 @@ constexpr wchar_t kDrawings[] = L"DXF-Zeichnungen (*.dxf)\0*.dxf\0Alle Dateien\0
 constexpr std::size_t kLongestPath = 1024;
 
 struct FileQuestion {
+    const wchar_t* title;
     const wchar_t* filter;
     const wchar_t* extension;
     DWORD flags;
     BOOL(WINAPI* ask)(OPENFILENAMEW*);
 };
 
-constexpr FileQuestion kOpen{kPlans, L"plan", OFN_FILEMUSTEXIST, GetOpenFileNameW};
-constexpr FileQuestion kSave{kPlans, L"plan", OFN_OVERWRITEPROMPT, GetSaveFileNameW};
-constexpr FileQuestion kExport{kDrawings, L"dxf", OFN_OVERWRITEPROMPT, GetSaveFileNameW};
+constexpr FileQuestion kOpen{L"Plan öffnen", kPlans, L"plan", OFN_FILEMUSTEXIST, GetOpenFileNameW};
+constexpr FileQuestion kSave{L"Plan speichern", kPlans, L"plan", OFN_OVERWRITEPROMPT, GetSaveFileNameW};
+constexpr FileQuestion kExport{L"Als DXF exportieren", kDrawings, L"dxf", OFN_OVERWRITEPROMPT,
+                               GetSaveFileNameW};
 
 /// The chosen file; empty when the user did not choose one. name: the first proposal.
 fs::path Ask(const FileQuestion& question, HWND owner, const fs::path& name) {
@@ -31,6 +33,7 @@ fs::path Ask(const FileQuestion& question, HWND owner, const fs::path& name) {
     OPENFILENAMEW form{};
     form.lStructSize = sizeof form;
     form.hwndOwner = owner;
+    form.lpstrTitle = question.title;
     form.lpstrFilter = question.filter;
     form.lpstrDefExt = question.extension;
     form.lpstrFile = path;

@@ -6,10 +6,10 @@ from editor import Editor, folder, symbols_of
 
 
 def choose(desktop, width, height):
-    """Goes down the list until the preview has this size."""
+    """Goes down the list until the preview has this size, as the regional settings write it."""
 
     def shown():
-        texts = [control[1] for control in desktop.window("#32770", "Symbol auswählen").controls]
+        texts = [control[1].replace(",", ".") for control in desktop.window("#32770", "Symbol auswählen").controls]
         entries = [text for text in texts if text.isdecimal()]
         return (entries[0], width in texts and height in texts) if entries else None
 
@@ -35,12 +35,12 @@ def run():
 
         # Given up, nothing comes of it; the dialog opens at the last choice.
         editor.key("F2")
-        editor.answer("1600.00", "Escape")
+        editor.answer("1600", "Escape")  # its width
         editor.wait_for_hint("markiert Symbole")
 
         editor.plan = folder() / "neu.plan"
         editor.key("ctrl+s")
-        editor.answer_with_file("Save", editor.plan)
+        editor.answer_with_file("Plan speichern", editor.plan)
         editor.wait_for_window("neu.plan – Planhost")
         require(len(symbols_of(editor.plan)) == 1, "symbols")
         require_symbol(symbols_of(editor.plan)[0], "Sofa zweisitzig", editor.place(target), 0)

@@ -12,7 +12,7 @@ def run():
         editor.key("ctrl+o")
         broken = folder() / "kaputt.plan"
         broken.write_text("PLAN;Kaputt;5000;5000\nSYMBOL;Einhorn;10;20;0\n", encoding="utf-8")
-        editor.answer_with_file("Open", broken)
+        editor.answer_with_file("Plan öffnen", broken)
         editor.answer("Zeile 2: Das Symbol \"Einhorn\" ist nicht im Katalog.", "Return")
         editor.wait_for_window("zimmer.plan – Planhost")
         editor.wait_for_count("4 Symbole")
@@ -21,7 +21,7 @@ def run():
         place = folder() / "weg"
         place.mkdir()
         editor.key("ctrl+shift+s")
-        editor.answer_with_file("Save", place / "zimmer.plan")
+        editor.answer_with_file("Plan speichern", place / "zimmer.plan")
         wait_for("the plan", lambda: (place / "zimmer.plan").exists())
         editor.wait_for_window("zimmer.plan – Planhost")
         editor.key("ctrl+a", "Delete")

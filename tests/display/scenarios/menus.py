@@ -9,13 +9,13 @@ def run():
     with Editor(copy_of(ROOM)) as editor:
         other = folder() / "zwei.plan"
         editor.key("ctrl+shift+s")
-        editor.answer_with_file("Save", other)
+        editor.answer_with_file("Plan speichern", other)
         editor.wait_for_window("zwei.plan – Planhost")
         require(other.read_bytes() == editor.plan.read_bytes(), "not the same plan")
 
         drawing = folder() / "zimmer.dxf"
         editor.key("ctrl+e")
-        editor.answer_with_file("Save", drawing)
+        editor.answer_with_file("Als DXF exportieren", drawing)
         wait_for("the drawing", lambda: drawing.exists() and drawing.read_bytes().endswith(b"EOF\r\n"))
         editor.wait_for_hint("markiert Symbole")
         editor.click_at(editor.pixel(6500, 2300))
@@ -27,7 +27,7 @@ def run():
         editor.wait_for_window("Unbenannt – Planhost")
         editor.wait_for_count("0 Symbole")
         editor.key("ctrl+o")
-        editor.answer_with_file("Open", other)
+        editor.answer_with_file("Plan öffnen", other)
         editor.wait_for_window("zwei.plan – Planhost")
         editor.wait_for_count("4 Symbole")
 
