@@ -10,9 +10,7 @@
 #include "com/error_info.h"
 #include "platform/win32/jpeg_file.h"
 #include "qsymbol/dialog/picture_path.h"
-#include "qsymbol/dialog/preview_offset.h"
 #include "qsymbol/dialog/progress_text.h"
-#include "qsymbol/dialog/size_text.h"
 
 #include <utility>
 
@@ -21,6 +19,7 @@ namespace dialog {
 namespace {
 
 constexpr LONG kJpegQuality = 100;
+constexpr int kAttempts = 5;                // to show an entry while a symbol of the host shows others
 constexpr int kBorder = 1;                  // round the picture, as round the list
 constexpr std::size_t kManyEntries = 88888; // as wide as any number of entries that a list can hold well
 constexpr UINT kDpiChanged = 0x02E0;        // WM_DPICHANGED, from Windows 8.1 on
@@ -47,7 +46,7 @@ bool frmSymSelect::Handle(std::u16string_view source, Body&& body) noexcept {
 }
 
 frmSymSelect::frmSymSelect(const Services& services, std::u16string folder)
-    : services_(services), folder_(std::move(folder)), pict_(SymPict::Create()) {}
+    : services_(services), folder_(std::move(folder)), view_(services_) {}
 
 std::u16string frmSymSelect::ShowModal(_CSymbolColl& catalogue, std::u16string_view oldName) {
     catalogue_ = com::ComPtr<_CSymbolColl>(&catalogue);
@@ -75,10 +74,10 @@ INT_PTR frmSymSelect::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         SetSymColl(oldName_);
         return TRUE;
     case WM_COMMAND: OnCommand(LOWORD(wParam), HIWORD(wParam)); return TRUE;
-    case WM_DRAWITEM: Paint(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
+    case WM_DRAWITEM: view_.Paint(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)); return TRUE;
     case WM_SIZE:
         if (wParam != SIZE_MINIMIZED)
-            NewPicture();
+            Arrange();
         return TRUE;
     case WM_GETMINMAXINFO: {
         const SIZE minimum = arrangement_.MinimumWindow(window_);
@@ -118,10 +117,10 @@ void frmSymSelect::Form_Load() {
             if (const std::u16string text = services_.strings.LoadResString(caption.string); !text.empty())
                 SetWindowText(caption.control == 0 ? window_ : Control(caption.control), text);
         list_.Attach(Control(IDC_lbSymbole));
-        controls_ = {Control(IDC_SymPict), Control(IDC_txBreite), Control(IDC_txHoehe), Control(IDC_pbOk)};
+        view_.Attach(window_);
         Measure();
         arrangement_.PlaceWindow(window_);
-        NewPicture();
+        Arrange();
     });
 }
 
@@ -135,13 +134,13 @@ void frmSymSelect::SetResolution(const RECT& place) {
         Measure();
         SetWindowPos(window_, nullptr, place.left, place.top, place.right - place.left,
                      place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
-        NewPicture();
+        Arrange();
     });
 }
 
 void frmSymSelect::Form_Unload() {
     Handle(u"frmSymSelect.Form_Unload", [&] {
-        shown_.Reset();
+        view_.Clear();
         window_ = nullptr;
     });
 }
@@ -157,46 +156,22 @@ void frmSymSelect::SetSymColl(std::u16string_view oldName) {
     });
 }
 
-bool frmSymSelect::lbSymbole_Click() {
-    return Handle(u"frmSymSelect.lbSymbole_Click", [&] { ShowEntry(list_.Selected()); });
+void frmSymSelect::lbSymbole_Click() {
+    Handle(u"frmSymSelect.lbSymbole_Click", [&] { ShowEntry(list_.Selected()); });
 }
 
 bool frmSymSelect::ShowEntry(int entry) {
-    const unsigned show = ++shows_;
-    pict_->Clear();
-    InvalidateRect(controls_.SymPict, nullptr, FALSE);
-    SetWindowText(controls_.txBreite, {});
-    SetWindowText(controls_.txHoehe, {});
     com::ComPtr<_CSymbol> symbol;
     if (entry >= 0) {
         const com::Bstr name(list_.Names()[static_cast<std::size_t>(entry)]);
         com::Check(catalogue_->get_ItemByIndex(name.Get(), symbol.Put()));
     }
-    shown_ = symbol;
     EnableOk(static_cast<bool>(symbol));
-    if (!symbol)
-        return true;
-    // A symbol of the host's own may let the user go on while it draws.
-    DrawSymbol();
-    if (show != shows_)
-        return false;
-    ShowSizes(*symbol.Get());
-    return show == shows_;
-}
-
-void frmSymSelect::ShowSizes(_CSymbol& symbol) {
-    LONG width = 0;
-    LONG height = 0;
-    com::Check(symbol.get_Width(&width));
-    com::Check(symbol.get_Height(&height));
-    const double unitFactor = services_.unitFactor();
-    const std::u16string decimal = services_.decimal();
-    SetWindowText(controls_.txBreite, qsymbol::SizeText(width, unitFactor, decimal));
-    SetWindowText(controls_.txHoehe, qsymbol::SizeText(height, unitFactor, decimal));
+    return view_.Show(symbol);
 }
 
 void frmSymSelect::EnableOk(bool enable) {
-    const HWND ok = controls_.pbOk;
+    const HWND ok = Control(IDC_pbOk);
     if (enable == (IsWindowEnabled(ok) != FALSE))
         return;
     // A disabled control must not keep the focus: the keyboard would be dead.
@@ -205,48 +180,17 @@ void frmSymSelect::EnableOk(bool enable) {
     EnableWindow(ok, enable ? TRUE : FALSE);
 }
 
-void frmSymSelect::DrawSymbol() {
-    const com::ComPtr<_CSymbol> symbol = shown_;
-    if (!symbol)
-        return;
-    LONG width = 0;
-    LONG height = 0;
-    if (FAILED(symbol->get_Width(&width)) || FAILED(symbol->get_Height(&height)))
-        width = height = 0; // told when the sizes are shown
-    const SIZE box = pict_->Scale();
-    const qmath::Point offset = qsymbol::PreviewOffset(width, height, box.cx, box.cy);
-    {
-        const SymPict::Drawing drawing(*pict_.Get(), {offset.x, offset.y});
-        com::Check(symbol->Draw2PBox(pict_.Get()));
-    }
-    InvalidateRect(controls_.SymPict, nullptr, FALSE);
-    if (std::exchange(pictureWaits_, false))
-        NewPicture();
-}
-
-void frmSymSelect::Paint(const DRAWITEMSTRUCT& item) const {
-    FrameRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_3DSHADOW));
-    pict_->Picture().Show(item.hDC, {kBorder, kBorder});
-}
-
-void frmSymSelect::NewPicture() {
+void frmSymSelect::Arrange() {
     Handle(u"frmSymSelect.lbSymbole_Click", [&] {
         arrangement_.PlaceControls(window_);
-        pictureWaits_ = pict_->IsBeingDrawnOn();
-        if (pictureWaits_)
-            return;
-        RECT area{};
-        GetClientRect(controls_.SymPict, &area);
-        pict_->Resize({area.right - 2 * kBorder, area.bottom - 2 * kBorder}, arrangement_.PreviewMargin());
-        InvalidateRect(controls_.SymPict, nullptr, FALSE);
-        DrawSymbol();
+        view_.FitPicture(arrangement_.PreviewMargin());
     });
 }
 
 void frmSymSelect::pbOk_Click() {
     Handle(u"frmSymSelect.pbOk_Click", [&] {
         const int entry = list_.Selected();
-        if (entry < 0 || IsWindowEnabled(controls_.pbOk) == FALSE)
+        if (entry < 0 || IsWindowEnabled(Control(IDC_pbOk)) == FALSE)
             return;
         result_ = list_.Names()[static_cast<std::size_t>(entry)];
         End();
@@ -298,14 +242,17 @@ void frmSymSelect::ExportAll(const ExportDisplay& display) {
 bool frmSymSelect::ShowForExport(int entry) {
     bool shown = false;
     // A picture of what could not be shown helps nobody: then the export ends.
-    while (!shown && ExportGoesOn())
-        if (!Handle(u"frmSymSelect.lbSymbole_Click", [&] { shown = ShowEntry(entry); }))
-            return false;
-    return shown && ExportGoesOn();
+    const bool well = Handle(u"frmSymSelect.lbSymbole_Click", [&] {
+        for (int attempt = 0; attempt < kAttempts && !shown && ExportGoesOn(); ++attempt)
+            shown = ShowEntry(entry);
+        if (!shown && ExportGoesOn())
+            base::Raise(base::RunTimeError::InvalidCall);
+    });
+    return well && ExportGoesOn();
 }
 
 void frmSymSelect::SavePicture(const std::u16string& name) const {
-    const MemoryPicture::Bitmap picture(pict_->Picture());
+    const MemoryPicture::Bitmap picture(view_.Picture());
     platform::SaveJpeg(picture.Get(), qsymbol::PicturePath(folder_, name), kJpegQuality);
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "automation/dialog/SymPict.h"
 #include "automation/dialog/arrangement.h"
 #include "automation/dialog/export_display.h"
 #include "automation/dialog/lbSymbole.h"
 #include "automation/dialog/services.h"
+#include "automation/dialog/symbol_view.h"
 
 #include <QSymbol.h>
 
@@ -31,19 +31,15 @@ private:
     void Form_Load();
     void Form_Unload();
     void SetSymColl(std::u16string_view oldName);
-    /// True unless an error was shown.
-    bool lbSymbole_Click();
+    void lbSymbole_Click();
     void pbOk_Click();
     void pbCancel_Click();
     void pbJPG_Click();
 
     /// Shows an entry of the list, -1 for none. False when meanwhile another one was shown.
     bool ShowEntry(int entry);
-    void ShowSizes(_CSymbol& symbol);
     void EnableOk(bool enable);
-    void DrawSymbol();
-    void NewPicture();
-    void Paint(const DRAWITEMSTRUCT& item) const;
+    void Arrange();
     void Measure();
     void SetResolution(const RECT& place);
     void ExportAll(const ExportDisplay& display);
@@ -64,19 +60,9 @@ private:
     std::u16string result_;
 
     HWND window_ = nullptr;
-    /// Those that change with every entry that is shown.
-    struct {
-        HWND SymPict;
-        HWND txBreite;
-        HWND txHoehe;
-        HWND pbOk;
-    } controls_{};
     Arrangement arrangement_;
     lbSymbole list_;
-    com::ComPtr<SymPict> pict_;
-    com::ComPtr<_CSymbol> shown_;
-    unsigned shows_ = 0;        ///< counts entries shown, to notice one inside another
-    bool pictureWaits_ = false; ///< the size changed while something was drawn
+    SymbolView view_;
     bool exporting_ = false;
     bool stop_ = false;
     bool ended_ = false;

@@ -313,4 +313,27 @@ TEST_F(Exporting, ASymbolThatCannotBeShownEndsIt) {
     EXPECT_THAT(folder.Files(), ElementsAre(L"Bett.JPG"));
 }
 
+/// The host's own symbol goes to another entry whenever it is to draw.
+TEST_F(Exporting, ASymbolThatLetsNothingBeShownEndsIt) {
+    Add({L"Bett"});
+    const Ref<ForeignSymbol> restless = AddForeign(L"Unruhig");
+    const MessageBoxes boxes{IDOK};
+    user.Do([&](const SelectionDialog& dialog) {
+        const HWND window = dialog.Window();
+        restless->OnDraw([window](IDispatch*) {
+            const HWND list = GetDlgItem(window, kList);
+            SendMessageW(window, WM_COMMAND, MAKEWPARAM(kList, LBN_SELCHANGE),
+                         reinterpret_cast<LPARAM>(list));
+        });
+        dialog.Press(kExport);
+    });
+    Finish();
+    user.Press(IDOK);
+    EXPECT_EQ(ChooseWithFolder(), L"Bett");
+    EXPECT_THAT(boxes.Seen(), ElementsAre(ErrorBox(L"frmSymSelect.lbSymbole_Click\r\nUngültiger "
+                                                   L"Prozeduraufruf oder ungültiges Argument")));
+    EXPECT_THAT(folder.Files(), ElementsAre(L"Bett.JPG"));
+    restless->OnDraw({});
+}
+
 } // namespace
