@@ -4,6 +4,7 @@
 #include "support/automation_test.h"
 #include "support/dialog_user.h"
 #include "support/message_boxes.h"
+#include "support/number_settings.h"
 #include "support/pixels.h"
 #include "support/shapes.h"
 
@@ -31,6 +32,7 @@ protected:
     /// Lets the user choose; what the host gets.
     std::wstring Choose(const std::wstring& oldName = L"") const;
 
+    const support::NumberSettings english = support::NumberSettings::English();
     Ref<_CSymbolColl> catalogue = support::Create<CSymbolColl, _CSymbolColl>();
     support::DialogUser user;
 };

@@ -1,5 +1,4 @@
 #include "dialog/dialog_fixture.h"
-#include "support/number_settings.h"
 #include "support/servers.h"
 
 #include <optional>
@@ -40,7 +39,6 @@ protected:
         EXPECT_EQ(Choose(), L"");
     }
 
-    const NumberSettings english = NumberSettings::English();
     MessageBoxes none;
 };
 
