@@ -64,7 +64,7 @@ TEST_F(DialogErrors, ASizeThatCannotBeRead) {
         symbol->Fail(member, kFailure);
         MessageBoxes boxes{IDOK};
         user.Do([&](const SelectionDialog& dialog) {
-            EXPECT_EQ(symbol->Draws(), 1) << "it is drawn all the same";
+            EXPECT_EQ(symbol->Fits(), 1) << "it is drawn all the same";
             EXPECT_EQ(dialog.Text(kWidth), L"");
             EXPECT_EQ(dialog.Text(kHeight), L"");
         });

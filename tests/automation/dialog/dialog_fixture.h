@@ -1,8 +1,8 @@
 #pragma once
 
-#include "dialog/foreign_symbol.h"
 #include "support/automation_test.h"
 #include "support/dialog_user.h"
+#include "support/foreign_symbol.h"
 #include "support/message_boxes.h"
 #include "support/number_settings.h"
 #include "support/pixels.h"
@@ -13,6 +13,7 @@
 
 namespace dialog {
 
+using support::ForeignSymbol;
 using support::Ref;
 using support::SelectionDialog;
 

@@ -320,7 +320,7 @@ TEST_F(Exporting, ASymbolThatLetsNothingBeShownEndsIt) {
     const MessageBoxes boxes{IDOK};
     user.Do([&](const SelectionDialog& dialog) {
         const HWND window = dialog.Window();
-        restless->OnDraw([window](IDispatch*) {
+        restless->OnFit([window](IDispatch*) {
             const HWND list = GetDlgItem(window, kList);
             SendMessageW(window, WM_COMMAND, MAKEWPARAM(kList, LBN_SELCHANGE),
                          reinterpret_cast<LPARAM>(list));
@@ -333,7 +333,7 @@ TEST_F(Exporting, ASymbolThatLetsNothingBeShownEndsIt) {
     EXPECT_THAT(boxes.Seen(), ElementsAre(ErrorBox(L"frmSymSelect.lbSymbole_Click\r\nUngültiger "
                                                    L"Prozeduraufruf oder ungültiges Argument")));
     EXPECT_THAT(folder.Files(), ElementsAre(L"Bett.JPG"));
-    restless->OnDraw({});
+    restless->OnFit({});
 }
 
 } // namespace

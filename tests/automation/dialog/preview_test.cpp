@@ -63,7 +63,7 @@ TEST_F(Preview, IsExactlyWhatTheSymbolDraws) {
         Ref<_CSymbol> own;
         EXPECT_OK(catalogue->get_ItemByPos(2, own.Put()));
         std::optional<BoxSeen> seen;
-        foreign->OnDraw([&](IDispatch* box) { seen = Look(box); });
+        foreign->OnFit([&](IDispatch* box) { seen = Look(box); });
         user.Key(VK_DOWN);
         Show([&](const SelectionDialog& dialog) {
             ASSERT_TRUE(seen);
@@ -140,7 +140,7 @@ TEST_F(Preview, IsEmptyWithoutASymbol) {
 /// Painting takes the picture; the symbol is asked once for each time that it is selected.
 TEST_F(Preview, IsRepaintedFromItsPicture) {
     const Ref<ForeignSymbol> foreign = AddForeign(L"Fremd");
-    foreign->OnDraw([](IDispatch* box) {
+    foreign->OnFit([](IDispatch* box) {
         const LONG dc = Dispatch(box).Get(L"hDC").value.Long();
         PatBlt(reinterpret_cast<HDC>(static_cast<LONG_PTR>(dc)), 10, 10, 20, 20, BLACKNESS);
     });
@@ -148,7 +148,7 @@ TEST_F(Preview, IsRepaintedFromItsPicture) {
         const SIZE area = PreviewSize(dialog);
         Canvas first(area.cx, area.cy);
         PaintPreview(dialog, first);
-        EXPECT_EQ(foreign->Draws(), 1);
+        EXPECT_EQ(foreign->Fits(), 1);
         const HWND preview = dialog.Control(kPreview);
         RedrawWindow(preview, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
         Canvas again(area.cx, area.cy);
@@ -156,7 +156,7 @@ TEST_F(Preview, IsRepaintedFromItsPicture) {
         EXPECT_TRUE(SamePicture(again, first));
         const RECT drawn = Drawn(first);
         EXPECT_FALSE(IsRectEmpty(&drawn));
-        EXPECT_EQ(foreign->Draws(), 1);
+        EXPECT_EQ(foreign->Fits(), 1);
     });
 }
 
@@ -210,7 +210,7 @@ TEST_F(Preview, ASelectionInsideAnotherOneWins) {
     HWND list = nullptr;
     user.Do([&](const SelectionDialog& dialog) {
         list = dialog.Control(kList);
-        slow->OnDraw([&](IDispatch*) {
+        slow->OnFit([&](IDispatch*) {
             SendMessageW(list, LB_SETCURSEL, 1, 0);
             SendMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(kList, LBN_SELCHANGE),
                          reinterpret_cast<LPARAM>(list));
@@ -226,7 +226,7 @@ TEST_F(Preview, ASelectionInsideAnotherOneWins) {
 TEST_F(Preview, TheSizeMayChangeWhileASymbolDraws) {
     const Ref<ForeignSymbol> foreign = AddForeign(L"Fremd", 3000, 2900);
     std::vector<BoxSeen> seen;
-    foreign->OnDraw([&](IDispatch* box) {
+    foreign->OnFit([&](IDispatch* box) {
         seen.push_back(Look(box));
         if (seen.size() == 2)
             SetWindowPos(GetActiveWindow(), nullptr, 0, 0, 700, 600, SWP_NOMOVE | SWP_NOZORDER);

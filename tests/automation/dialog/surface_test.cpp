@@ -15,11 +15,11 @@ class PreviewBox : public DialogTest {
 protected:
     /// Runs a test of the box while the dialog lets a symbol draw into it.
     void Draw(std::function<void(const Dispatch& box)> test) {
-        foreign_->OnDraw([test = std::move(test)](IDispatch* box) { test(Dispatch(box)); });
+        foreign_->OnFit([test = std::move(test)](IDispatch* box) { test(Dispatch(box)); });
         user.Press(IDCANCEL);
         EXPECT_EQ(Choose(), L"");
-        EXPECT_EQ(foreign_->Draws(), 1);
-        foreign_->OnDraw({});
+        EXPECT_EQ(foreign_->Fits(), 1);
+        foreign_->OnFit({});
     }
 
     MessageBoxes none;
@@ -128,7 +128,7 @@ TEST_F(PreviewBox, IsAsBeforeForTheNextSymbol) {
         SetViewportOrgEx(dc, 1000, 1000, nullptr);
         SetTextAlign(dc, TA_BASELINE);
         IntersectClipRect(dc, 0, 0, 1, 1);
-        next->OnDraw([&](IDispatch* object) {
+        next->OnFit([&](IDispatch* object) {
             const HDC again = ContextOf(Dispatch(object));
             POINT origin{};
             RECT clip{};
@@ -140,8 +140,8 @@ TEST_F(PreviewBox, IsAsBeforeForTheNextSymbol) {
             EXPECT_GT(clip.right, 50);
         });
     });
-    EXPECT_EQ(next->Draws(), 1);
-    next->OnDraw({});
+    EXPECT_EQ(next->Fits(), 1);
+    next->OnFit({});
 }
 
 /// The box outlives the dialog for one that keeps it.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "support/failure.h"
-#include "support/ref.h"
+#include "support/foreign_object.h"
 
 #include <QMath.h>
 
@@ -12,7 +12,7 @@ namespace drawing {
 
 /// A transformation of the host's own: one pixel a unit, in both directions. It can be told to fail in one of
 /// its operations or to do something there.
-class HostTrans final : public _CTrans {
+class HostTrans final : public support::ForeignObject<_CTrans> {
 public:
     static support::Ref<HostTrans> Create() { return support::Ref<HostTrans>::Attach(new HostTrans); }
 
@@ -22,16 +22,6 @@ public:
     }
     void OnCall(std::function<void()> action) { action_ = std::move(action); }
 
-    STDMETHODIMP QueryInterface(REFIID id, void** object) override;
-    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-    STDMETHODIMP_(ULONG) Release() override;
-    // The library calls a transformation by its vtable.
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
-    }
     STDMETHODIMP SetScale(double) override { return E_NOTIMPL; }
     STDMETHODIMP SetOffsetX(LONG) override { return E_NOTIMPL; }
     STDMETHODIMP SetOffsetY(LONG) override { return E_NOTIMPL; }
@@ -49,10 +39,8 @@ public:
 
 private:
     HostTrans() = default;
-    virtual ~HostTrans() = default;
     HRESULT Done(const std::string& operation) const;
 
-    ULONG references_ = 1;
     std::string failing_;
     support::Failure failure_;
     std::function<void()> action_;

@@ -52,6 +52,15 @@ Failure LibraryError(int number, const wchar_t* source) {
     return {Numbered(number), source, kTexts.at(number)};
 }
 
+HRESULT Throw(const Failure& failure) {
+    Ref<ICreateErrorInfo> info;
+    CreateErrorInfo(info.Put());
+    info->SetSource(Bstr(failure.source));
+    info->SetDescription(Bstr(failure.description));
+    SetErrorInfo(0, info.As<IErrorInfo>().Get());
+    return failure.status;
+}
+
 Failure TakeErrorInfo() {
     Failure failure;
     Ref<IErrorInfo> info;

@@ -34,6 +34,9 @@ Failure LibraryError(int number, const wchar_t* source);
 /// The outcome of a call through the vtable; takes the thread's error information away.
 Failure Outcome(HRESULT status);
 
+/// Fails as an object of a host does: sets the error information and gives the status back.
+HRESULT Throw(const Failure& failure);
+
 /// The error information of the thread, which is empty afterwards.
 Failure TakeErrorInfo();
 

@@ -1,5 +1,5 @@
+#include "support/foreign_symbol.h"
 #include "support/message_boxes.h"
-#include "tools/foreign_symbol.h"
 #include "tools/tool_fixture.h"
 
 namespace {
@@ -88,7 +88,7 @@ TEST_F(SymbolInput, SharesTheCataloguesSymbol) {
 }
 
 TEST_F(SymbolInput, ASymbolOfTheHostsOwnDrawsItself) {
-    const Ref<tools::ForeignSymbol> foreign = tools::ForeignSymbol::Create(L"Fremd");
+    const Ref<support::ForeignSymbol> foreign = support::ForeignSymbol::Create(L"Fremd");
     Ref<_CSymbol> handed(foreign.Get());
     EXPECT_OK(catalogue->AppendRef(handed.InOut()));
     const Ref<_CSymInput> input = Input(L"Fremd");
@@ -96,7 +96,7 @@ TEST_F(SymbolInput, ASymbolOfTheHostsOwnDrawsItself) {
     EXPECT_OK(input->KeyUp(36, 0, box.Get(), trans.Get()));
     EXPECT_OK(input->MouseMove(50, 60, box.Get(), trans.Get()));
     ASSERT_EQ(foreign->Draws().size(), 1U);
-    const tools::ForeignDraw& draw = foreign->Draws()[0];
+    const support::ForeignDraw& draw = foreign->Draws()[0];
     EXPECT_EQ(draw.x, view.offsetX + 500);
     EXPECT_EQ(draw.y, view.offsetY + 600);
     EXPECT_DOUBLE_EQ(draw.angle, 3.14159265358979323846 / 2);
@@ -107,7 +107,7 @@ TEST_F(SymbolInput, ASymbolOfTheHostsOwnDrawsItself) {
     EXPECT_EQ(draw.mark, -1);
     EXPECT_EQ(draw.mode, 10);
     // Its errors are told like those of a surface.
-    foreign->Fail(support::RunTimeError(5, L"Fremd"));
+    foreign->Fail("Draw", support::RunTimeError(5, L"Fremd"));
     {
         const MessageBoxes boxes{IDOK};
         EXPECT_OK(input->MouseDown(50, 60, box.Get(), trans.Get()));
@@ -120,10 +120,10 @@ TEST_F(SymbolInput, ASymbolOfTheHostsOwnDrawsItself) {
 
 /// What fails while a tool is made is shown, and the host gets Nothing.
 TEST_F(SymbolInput, AFailureIsShownAndTheHostGetsNothing) {
-    const Ref<tools::ForeignSymbol> foreign = tools::ForeignSymbol::Create(L"Fremd");
+    const Ref<support::ForeignSymbol> foreign = support::ForeignSymbol::Create(L"Fremd");
     Ref<_CSymbol> handed(foreign.Get());
     EXPECT_OK(catalogue->AppendRef(handed.InOut()));
-    foreign->RefuseQuestions(support::Numbered(70), L"Kein Zugriff auf das Symbol");
+    foreign->RefuseQuestions({support::Numbered(70), L"Fremd", L"Kein Zugriff auf das Symbol"});
     const MessageBoxes boxes{IDOK, IDOK};
     EXPECT_FALSE(Input(L"Fremd"));
     const support::Answer answer = Dispatch(catalogue).Call(L"GetSymInput", {L"Fremd"});

@@ -1,5 +1,5 @@
+#include "support/foreign_symbol.h"
 #include "support/message_boxes.h"
-#include "tools/foreign_symbol.h"
 #include "tools/tool_fixture.h"
 
 #include <utility>
@@ -58,7 +58,7 @@ TEST_F(SymbolTool, ASecondReferenceOfAnObjectIsRefusedAndReleased) {
 }
 
 TEST_F(SymbolTool, SymbolsOfTheHostsOwnDrawThemselves) {
-    const Ref<tools::ForeignSymbol> foreign = tools::ForeignSymbol::Create(L"Fremd");
+    const Ref<support::ForeignSymbol> foreign = support::ForeignSymbol::Create(L"Fremd");
     EXPECT_OK(tool->AddSymref(1, 100, 0, 0.5, foreign.Get()));
     EXPECT_OK(tool->MouseDownReal(1000, 2000, box.Get(), trans.Get(), nullptr));
     EXPECT_OK(tool->Draw(box.Get(), trans.Get()));
@@ -67,7 +67,7 @@ TEST_F(SymbolTool, SymbolsOfTheHostsOwnDrawThemselves) {
     EXPECT_EQ(foreign->Draws()[0].y, 2000);
     EXPECT_EQ(foreign->Draws()[0].angle, 0.5);
     EXPECT_EQ(foreign->Draws()[0].mode, R2_COPYPEN);
-    foreign->RefuseQuestions(support::Numbered(70), L"Kein Zugriff");
+    foreign->RefuseQuestions({support::Numbered(70), L"Fremd", L"Kein Zugriff"});
     EXPECT_EQ(support::Outcome(tool->AddSymref(2, 0, 0, 0, foreign.Get())),
               (support::Failure{support::Numbered(70), L"Fremd", L"Kein Zugriff"}));
     EXPECT_EQ(Count(), 1);

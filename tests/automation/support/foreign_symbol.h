@@ -1,46 +1,58 @@
 #pragma once
 
 #include "support/failure.h"
-#include "support/ref.h"
+#include "support/foreign_object.h"
 
 #include <QSymbol.h>
 
 #include <functional>
 #include <string>
+#include <vector>
 
-namespace dialog {
+namespace support {
 
-/// A symbol of the host's own in a catalogue. The dialog asks for name and size and lets it draw; each can be
-/// told to fail.
-class ForeignSymbol final : public _CSymbol {
+/// How a symbol was asked to draw itself at a place.
+struct ForeignDraw {
+    LONG x;
+    LONG y;
+    double angle;
+    IDispatch* control;
+    _CTrans* trans;
+    double printerFactor;
+    double screenFactor;
+    LONG mark;
+    LONG mode; ///< the control's DrawMode then
+};
+
+/// A symbol of a host's own making: the interface, and another object behind it. It knows its name and its
+/// size and can be drawn; each can be told to fail.
+class ForeignSymbol final : public ForeignObject<_CSymbol> {
 public:
-    static support::Ref<ForeignSymbol> Create(const std::wstring& name, LONG width = 100, LONG height = 100) {
-        return support::Ref<ForeignSymbol>::Attach(new ForeignSymbol(name, width, height));
+    static Ref<ForeignSymbol> Create(const std::wstring& name, LONG width = 100, LONG height = 100) {
+        return Ref<ForeignSymbol>::Attach(new ForeignSymbol(name, width, height));
     }
 
-    /// "Name", "Width", "Height" or "Draw2PBox" fails from now on.
-    void Fail(const std::string& member, const support::Failure& failure) {
+    /// "Name", "Width", "Height", "Draw" or "Draw2PBox" fails from now on.
+    void Fail(const std::string& member, const Failure& failure) {
         failing_ = member;
         failure_ = failure;
     }
-    void OnDraw(std::function<void(IDispatch* box)> action) { draw_ = std::move(action); }
-    int Draws() const { return draws_; }
+    /// Questions for interfaces that it does not have fail in this way from now on.
+    void RefuseQuestions(const Failure& failure) { refusal_ = failure; }
 
-    STDMETHODIMP QueryInterface(REFIID id, void** object) override;
-    STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-    STDMETHODIMP_(ULONG) Release() override;
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    STDMETHODIMP Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
-        return E_NOTIMPL;
-    }
+    const std::vector<ForeignDraw>& Draws() const { return draws_; }
+    /// Called when it is to draw itself into a box.
+    void OnFit(std::function<void(IDispatch* box)> action) { fit_ = std::move(action); }
+    int Fits() const { return fits_; }
 
     STDMETHODIMP get_Name(BSTR* result) override;
     STDMETHODIMP get_Width(LONG* result) override;
     STDMETHODIMP get_Height(LONG* result) override;
-    STDMETHODIMP Draw2PBox(IDispatch* box) override;
+    STDMETHODIMP Draw(LONG lLogX, LONG lLogY, double dAngle, IDispatch* ctrl, _CTrans* Trans,
+                      double dSymPrinterFaktor, double dSymBSFaktor, LONG* lMarkColor) override;
+    STDMETHODIMP Draw2PBox(IDispatch* PBox) override;
 
+    // Nothing else is asked of it.
     STDMETHODIMP get_FilePath(BSTR*) override { return E_NOTIMPL; }
     STDMETHODIMP put_FilePath(BSTR) override { return E_NOTIMPL; }
     STDMETHODIMP get_RefX(LONG*) override { return E_NOTIMPL; }
@@ -48,9 +60,6 @@ public:
     STDMETHODIMP put_Width(LONG) override { return E_NOTIMPL; }
     STDMETHODIMP put_Height(LONG) override { return E_NOTIMPL; }
     STDMETHODIMP CreateNew(LONG, LONG, LONG, LONG, _CSymElementColl*) override { return E_NOTIMPL; }
-    STDMETHODIMP Draw(LONG, LONG, double, IDispatch*, _CTrans*, double, double, LONG*) override {
-        return E_NOTIMPL;
-    }
     STDMETHODIMP DxfExport(LONG, LONG, double, LONG*) override { return E_NOTIMPL; }
     STDMETHODIMP CatchPt(float*, float*, LONG*, LONG*, LONG, LONG, double, _CTrans*, SHORT,
                          VARIANT_BOOL*) override {
@@ -73,17 +82,19 @@ public:
 private:
     ForeignSymbol(std::wstring name, LONG width, LONG height)
         : name_(std::move(name)), width_(width), height_(height) {}
-    virtual ~ForeignSymbol() = default;
-    HRESULT Done(const std::string& member) const;
 
-    ULONG references_ = 1;
+    HRESULT Unknown() override { return refusal_ != Failure{} ? Throw(refusal_) : E_NOINTERFACE; }
+    HRESULT Done(const std::string& member) const { return member == failing_ ? Throw(failure_) : S_OK; }
+
     std::wstring name_;
     LONG width_;
     LONG height_;
     std::string failing_;
-    support::Failure failure_;
-    std::function<void(IDispatch*)> draw_;
-    int draws_ = 0;
+    Failure failure_;
+    Failure refusal_;
+    std::vector<ForeignDraw> draws_;
+    std::function<void(IDispatch*)> fit_;
+    int fits_ = 0;
 };
 
-} // namespace dialog
+} // namespace support
