@@ -8,7 +8,7 @@ JOBS=$(nproc)
 
 export LC_ALL=C.UTF-8
 # Also the compiler cache stays inside the checkout.
-export CCACHE_DIR=$ROOT/build/ccache CCACHE_BASEDIR=$ROOT
+export CCACHE_DIR=$ROOT/build/ccache CCACHE_BASEDIR=$ROOT CCACHE_SLOPPINESS=pch_defines,time_macros
 export WINEPREFIX=$ROOT/build/wine WINEARCH=win64 WINEDEBUG=-all
 
 say() { printf '\n== %s\n' "$*"; }
