@@ -98,8 +98,10 @@ STDMETHODIMP CSymbolColl::GetSymInput(BSTR stSymName, _CSymInput** value) {
     return Return(value, [&] {
         com::ComPtr<CSymInput> input;
         library::ReportAndSwallow(u"CSymbolColl.GetSymInput", [&] {
-            if (const com::ComPtr<_CSymbol>* const symbol = Find(stSymName))
-                input = CSymInput::CreateFor(*symbol->Get());
+            // A reference for the time: a foreign symbol may call its host, and that may empty this
+            // catalogue.
+            if (const com::ComPtr<_CSymbol>* const found = Find(stSymName))
+                input = CSymInput::CreateFor(*com::ComPtr<_CSymbol>(*found).Get());
         });
         return input.Detach();
     });
