@@ -42,14 +42,14 @@ STDMETHODIMP CSymInput::get_Ready(VARIANT_BOOL* value) {
 
 STDMETHODIMP CSymInput::Draw(IDispatch* pb, _CTrans* Trans) {
     return Do([&] {
-        HostTarget target(pb, Trans);
+        HostTarget target(pb, Trans, point_);
         tool_.Draw(target);
     });
 }
 
 STDMETHODIMP CSymInput::KeyUp(SHORT iKeyCode, SHORT iShift, IDispatch* pb, _CTrans* Trans) {
     library::ReportAndSwallow(u"CSymInput.KeyUp", [&] {
-        HostTarget target(pb, Trans);
+        HostTarget target(pb, Trans, point_);
         tool_.KeyUp(iKeyCode, iShift, target);
     });
     return S_OK;
@@ -57,7 +57,7 @@ STDMETHODIMP CSymInput::KeyUp(SHORT iKeyCode, SHORT iShift, IDispatch* pb, _CTra
 
 STDMETHODIMP CSymInput::MouseDown(float sScreenX, float sScreenY, IDispatch* pb, _CTrans* Trans) {
     library::ReportAndSwallow(u"CSymInput.MouseDown", [&] {
-        HostTarget target(pb, Trans);
+        HostTarget target(pb, Trans, point_);
         tool_.MouseDown({sScreenX, sScreenY}, target);
     });
     return S_OK;
@@ -65,7 +65,7 @@ STDMETHODIMP CSymInput::MouseDown(float sScreenX, float sScreenY, IDispatch* pb,
 
 STDMETHODIMP CSymInput::MouseMove(float sScreenX, float sScreenY, IDispatch* pb, _CTrans* Trans) {
     library::Swallow([&] {
-        HostTarget target(pb, Trans);
+        HostTarget target(pb, Trans, point_);
         tool_.MouseMove({sScreenX, sScreenY}, target);
     });
     return S_OK;

@@ -26,4 +26,5 @@ public:
 
 private:
     qsymbol::SymbolInput tool_;
+    com::ComPtr<_CPt> point_; ///< for the conversion of mouse positions
 };

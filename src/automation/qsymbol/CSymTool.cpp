@@ -22,7 +22,7 @@ STDMETHODIMP CSymTool::AddSymref(LONG lObjId, LONG lDeltaX, LONG lDeltaY, double
 
 STDMETHODIMP CSymTool::Draw(IDispatch* pb, _CTrans* Trans) {
     return Do([&] {
-        HostTarget target(pb, Trans);
+        HostTarget target(pb, Trans, point_);
         tool_.Draw(target);
     });
 }
@@ -58,7 +58,7 @@ void CSymTool::Hand(const std::optional<qsymbol::SymbolPosition>& place, LONG* l
 
 STDMETHODIMP CSymTool::KeyUp(SHORT iKeyCode, SHORT /*iShift*/, IDispatch* pb, _CTrans* Trans) {
     library::ReportAndSwallow(u"CSymTool.KeyUp", [&] {
-        HostTarget target(pb, Trans);
+        HostTarget target(pb, Trans, point_);
         tool_.KeyUp(iKeyCode, target);
     });
     return S_OK;
@@ -66,7 +66,7 @@ STDMETHODIMP CSymTool::KeyUp(SHORT iKeyCode, SHORT /*iShift*/, IDispatch* pb, _C
 
 STDMETHODIMP CSymTool::MouseDown(float sX, float sY, IDispatch* pb, _CTrans* Trans) {
     library::ReportAndSwallow(u"CSymTool.MouseDown", [&] {
-        HostTarget target(pb, Trans);
+        HostTarget target(pb, Trans, point_);
         tool_.MouseDown({sX, sY}, target);
     });
     return S_OK;
@@ -75,7 +75,7 @@ STDMETHODIMP CSymTool::MouseDown(float sX, float sY, IDispatch* pb, _CTrans* Tra
 STDMETHODIMP CSymTool::MouseDownReal(LONG lX, LONG lY, IDispatch* pb, _CTrans* Trans,
                                      VARIANT_BOOL* bSymRelativ) {
     library::ReportAndSwallow(u"CSymTool.MouseDown", [&] {
-        HostTarget target(pb, Trans);
+        HostTarget target(pb, Trans, point_);
         const bool relative = bSymRelativ != nullptr && *bSymRelativ != VARIANT_FALSE;
         tool_.MouseDownReal({lX, lY}, relative, target);
     });
@@ -84,7 +84,7 @@ STDMETHODIMP CSymTool::MouseDownReal(LONG lX, LONG lY, IDispatch* pb, _CTrans* T
 
 STDMETHODIMP CSymTool::MouseMove(float sScreenX, float sScreenY, IDispatch* pb, _CTrans* Trans) {
     library::ReportAndSwallow(u"CSymTool.MouseMove", [&] {
-        HostTarget target(pb, Trans);
+        HostTarget target(pb, Trans, point_);
         tool_.MouseMove({sScreenX, sScreenY}, target);
     });
     return S_OK;

@@ -31,4 +31,5 @@ private:
     static void Hand(const std::optional<qsymbol::SymbolPosition>& place, LONG* lX, LONG* lY, double* dAngle);
 
     qsymbol::SymbolTool tool_;
+    com::ComPtr<_CPt> point_; ///< for the conversion of mouse positions
 };

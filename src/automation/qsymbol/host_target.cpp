@@ -8,6 +8,6 @@ HostSurface& HostTarget::OpenSurface() {
 
 const HostTransformation& HostTarget::OpenTransformation() {
     if (!transformation_)
-        transformation_.emplace(com::Required(trans_));
+        transformation_.emplace(com::Required(trans_), &point_);
     return *transformation_;
 }

@@ -9,7 +9,9 @@
 /// The control and the transformation of one event of a host.
 class HostTarget final : public qsymbol::DrawingTarget {
 public:
-    HostTarget(IDispatch* control, _CTrans* trans) : control_(control), trans_(trans) {}
+    /// point: the tool's own, kept from event to event.
+    HostTarget(IDispatch* control, _CTrans* trans, com::ComPtr<_CPt>& point)
+        : control_(control), trans_(trans), point_(point) {}
 
     HostSurface& OpenSurface() override;
     const HostTransformation& OpenTransformation() override;
@@ -17,6 +19,7 @@ public:
 private:
     IDispatch* control_;
     _CTrans* trans_;
+    com::ComPtr<_CPt>& point_;
     std::optional<HostSurface> surface_;
     std::optional<HostTransformation> transformation_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "com/com_ptr.h"
 #include "com/error_info.h"
 #include "qsymbol/geometry/transformation.h"
 
@@ -8,7 +9,10 @@
 /// The transformation contract over the CTrans of a host.
 class HostTransformation final : public qsymbol::Transformation {
 public:
-    explicit HostTransformation(_CTrans& trans) : trans_(trans) {}
+    /// kept: where the point object of ScreenToWorld lies between its uses, so that not every mouse event
+    /// makes one; may be missing.
+    explicit HostTransformation(_CTrans& trans, com::ComPtr<_CPt>* kept = nullptr)
+        : trans_(trans), kept_(kept) {}
 
     /// The host's object itself, for a symbol that draws in its own way.
     _CTrans& Trans() const { return trans_; }
@@ -26,4 +30,5 @@ public:
 
 private:
     _CTrans& trans_;
+    com::ComPtr<_CPt>* kept_;
 };
