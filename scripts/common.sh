@@ -103,11 +103,14 @@ on_display() (
 # gives them focus and keyboard without a window manager. Everything else in the prefix stays without a display.
 wine_desktop() { wine_run explorer "/desktop=$1,${SCREEN_SIZE:-1280x900},x11" "${@:2}"; }
 
+# windows PATH: as the programs in the prefix know it.
+windows() { winepath -w "$1" 2>/dev/null; }
+
 # register FOLDER: enters both DLLs of a folder in the prefix.
 register() {
     local name
     for name in QMath QSymbol; do
-        wine_run regsvr32 /s "$(winepath -w "$1/$name.dll" 2>/dev/null)"
+        wine_run regsvr32 /s "$(windows "$1/$name.dll")"
     done
 }
 

@@ -11,7 +11,9 @@ namespace tools {
 
 namespace {
 
+using interactions::Long;
 using interactions::Outcome;
+using interactions::Short;
 using interactions::Words;
 using support::Dispatch;
 using support::Failure;
@@ -19,14 +21,6 @@ using support::Ref;
 using support::Value;
 
 constexpr const wchar_t* kSymbolPath = L"C:\\symbols\\";
-
-LONG Long(const std::string& word) {
-    return std::stol(word);
-}
-
-SHORT Short(const std::string& word) {
-    return static_cast<SHORT>(Long(word));
-}
 
 double Radians(const std::string& degrees) {
     return std::stod(degrees) * std::numbers::pi / 180;

@@ -41,6 +41,14 @@ Words WordsOf(const std::string& text) {
     return words;
 }
 
+std::int32_t Long(const std::string& word) {
+    return std::stoi(word);
+}
+
+std::int16_t Short(const std::string& word) {
+    return static_cast<std::int16_t>(Long(word));
+}
+
 Script ReadScript(const std::filesystem::path& file) {
     std::ifstream in(file);
     Script script;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -40,6 +41,10 @@ struct Script {
 
 /// Splits at blanks.
 Words WordsOf(const std::string& text);
+
+/// A whole number as a word of a script, and one of 16 bits.
+std::int32_t Long(const std::string& word);
+std::int16_t Short(const std::string& word);
 
 /// Throws std::runtime_error for what it does not understand.
 Script ReadScript(const std::filesystem::path& file);

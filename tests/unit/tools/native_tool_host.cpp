@@ -11,16 +11,10 @@ namespace tools {
 
 namespace {
 
+using interactions::Long;
 using interactions::Outcome;
+using interactions::Short;
 using interactions::Words;
-
-std::int32_t Long(const std::string& word) {
-    return std::stoi(word);
-}
-
-std::int16_t Short(const std::string& word) {
-    return static_cast<std::int16_t>(Long(word));
-}
 
 qmath::Point PointAt(const Words& words, std::size_t first) {
     return {Long(words.at(first)), Long(words.at(first + 1))};
