@@ -7,20 +7,62 @@ ROOT=$PWD
 JOBS=$(nproc)
 
 export LC_ALL=C.UTF-8
-# Also the compiler cache stays inside the checkout.
-export CCACHE_DIR=$ROOT/build/ccache CCACHE_BASEDIR=$ROOT CCACHE_SLOPPINESS=pch_defines,time_macros
-export WINEPREFIX=$ROOT/build/wine WINEARCH=win64 WINEDEBUG=-all
+# Whatever the tools keep beside their results stays inside the checkout as well.
+export CCACHE_DIR=$ROOT/build/ccache CCACHE_TEMPDIR=$ROOT/build/ccache/tmp CCACHE_BASEDIR=$ROOT
+export CCACHE_SLOPPINESS=pch_defines,time_macros
+export TMPDIR=$ROOT/build/tmp
+mkdir -p "$TMPDIR" build/logs
+export WINEPREFIX=${WINEPREFIX_OF_CHECK:-$ROOT/build/wine/prefix} WINEARCH=win64 WINEDEBUG=-all
 
-say() { printf '\n== %s\n' "$*"; }
+# Where long steps show their progress: a terminal that somebody looks at, or nowhere.
+if [ -z "${PROGRESS:-}" ] && [ -t 1 ] && [ "${CI:-}" != true ]; then PROGRESS=/dev/tty; fi
+export PROGRESS=${PROGRESS:-}
 
-# packages NAME…: installs the Debian packages that are missing, or names the command that would.
+# say TEXT: the next step; the line before it tells how long the last one took.
+STEP_BEGAN=
+say() {
+    step_done
+    printf '\n== %s\n' "$*"
+    STEP_BEGAN=$SECONDS
+}
+step_done() {
+    if [ -n "$STEP_BEGAN" ]; then printf -- '-- %d s\n' $((SECONDS - STEP_BEGAN)); fi
+    STEP_BEGAN=
+}
+
+# What must be installed, by what it is for: a preset of CMakePresets.json or a need of tests/checks.
+COMPILING="cmake ninja-build ccache"
+CROSS_COMPILING="$COMPILING googletest g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix binutils-mingw-w64-x86-64
+    binutils-mingw-w64-i686 mingw-w64-tools libwine-dev"
+declare -A PACKAGES=(
+    [checks]="cmake ninja-build python3"
+    [native]="$COMPILING g++ googletest libdxflib-dev"
+    [coverage]="$COMPILING g++ googletest gcovr"
+    [release]="$COMPILING g++ libbenchmark-dev libdime-dev libdxflib-dev"
+    [fuzz]="$COMPILING clang libclang-rt-14-dev"
+    [mingw-x64]="$CROSS_COMPILING"
+    [mingw-x86]="$CROSS_COMPILING"
+    [bench-x64]="$CROSS_COMPILING dpkg-dev ca-certificates"
+    [wine]="wine wine64 fonts-liberation"
+    [display]="xvfb xdotool python3"
+    [german]="locales"
+    [x86]="debootstrap"
+    [lint]="clang-format clang-tidy cmake ninja-build g++ googletest ccache python3 shellcheck"
+)
+
+# packages NAME…: installs the Debian packages that are missing, or names the command that would. A name with a @ stands
+# for a line of the table above.
 packages() {
-    local missing=() name
+    local missing=() all=() name
     for name in "$@"; do
+        # shellcheck disable=SC2206 # the lists are words
+        if [ "${name#@}" = "$name" ]; then all+=("$name"); else all+=(${PACKAGES[${name#@}]}); fi
+    done
+    for name in $(printf '%s\n' "${all[@]}" | sort -u); do
         dpkg-query -W -f '${Status}' "$name" 2>/dev/null | grep -q 'ok installed' || missing+=("$name")
     done
     [ ${#missing[@]} -eq 0 ] && return
-    local root=()
+    local root=() log=$ROOT/build/logs/packages.log
     if [ "$(id -u)" -ne 0 ]; then
         command -v sudo >/dev/null || {
             echo "Missing packages. As root: apt-get install ${missing[*]}" >&2
@@ -29,24 +71,19 @@ packages() {
         root=(sudo)
     fi
     say "Installing ${missing[*]}"
-    "${root[@]}" apt-get update -qq
+    "${root[@]}" apt-get update -qq >"$log" 2>&1 || true # an unreachable list need not be the one that counts
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" \
-        >/dev/null || {
+        >>"$log" 2>&1 || {
+        tail -n 5 "$log" >&2
         echo "Could not install. As root: apt-get install ${missing[*]}" >&2
         exit 1
     }
+    step_done
 }
-
-packages_native() { packages g++ cmake ninja-build ccache googletest; }
-packages_windows() {
-    packages g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix binutils-mingw-w64-x86-64 binutils-mingw-w64-i686 \
-        mingw-w64-tools libwine-dev cmake ninja-build ccache googletest
-}
-packages_wine() { packages wine wine64 fonts-liberation; }
 
 # build PRESET [TARGET…]: configures when needed and builds.
 build() {
-    local preset=$1 targets=()
+    local preset=$1 targets=() log=$ROOT/build/logs/configure-$1.log
     shift
     [ $# -gt 0 ] && targets=(--target "$@")
     # A build tree from another place or a failed configuration is made anew.
@@ -55,18 +92,23 @@ build() {
             [ ! -f "build/$preset/build.ninja" ]; }; then
         rm -rf "build/$preset"
     fi
-    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
-        cat "build-$preset.log" >&2
+    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset" >"$log" 2>&1 || {
+        cat "$log" >&2
         exit 1
     }
-    rm -f "build-$preset.log"
-    cmake --build --preset "$preset" -j "$JOBS" "${targets[@]}" -- --quiet
+    # Ninja shows [n/m] where it finds a terminal.
+    if [ -n "$PROGRESS" ]; then
+        cmake --build --preset "$preset" -j "$JOBS" "${targets[@]}" >"$PROGRESS"
+    else
+        cmake --build --preset "$preset" -j "$JOBS" "${targets[@]}" -- --quiet
+    fi
 }
 
 # wine_prefix: makes the project's own prefix, once: no display needed, Arial present.
 wine_prefix() {
+    wine_home
     [ -f "$WINEPREFIX/.ready" ] && return
-    say "Making the Wine prefix"
+    rm -rf "$WINEPREFIX"
     mkdir -p "$WINEPREFIX"
     wineboot -i >/dev/null 2>&1
     wine_run reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f >/dev/null
@@ -76,15 +118,35 @@ wine_prefix() {
     touch "$WINEPREFIX/.ready"
 }
 
-# wine_run PROGRAM ARGUMENT…: in the project's prefix; Wine's own advice about 32 bits is left out.
-wine_run() { wine "$@" 2> >(grep -vE 'wine32|multiarch|dpkg --add-arch|execute|^$' >&2); }
+# wine_home: a home folder of the project's own: a prefix leads "Documents" and the like there, and no menu entries are made.
+wine_home() {
+    export HOME=$ROOT/build/home WINEDLLOVERRIDES=winemenubuilder.exe=
+    unset XDG_CACHE_HOME XDG_CONFIG_HOME XDG_DATA_HOME
+    mkdir -p "$HOME"
+}
+
+# copy_prefix FROM TO: a prefix made again in a moment: the system's files are shared, everything that changes is copied.
+copy_prefix() {
+    rm -rf "$2"
+    mkdir -p "$2/drive_c"
+    local entry
+    for entry in "$1"/* "$1"/.[!.]*; do
+        [ "$entry" = "$1/drive_c" ] || cp -a "$entry" "$2"
+    done
+    for entry in "$1"/drive_c/*; do
+        if [ "$entry" = "$1/drive_c/windows" ]; then cp -al "$entry" "$2/drive_c"; else cp -a "$entry" "$2/drive_c"; fi
+    done
+}
+
+# wine_run PROGRAM ARGUMENT…: in the project's prefix. Nothing of what it says is left out: with WINEDEBUG=-all Wine keeps
+# its advice about 32 bits to itself.
+wine_run() { wine "$@"; }
 
 # on_display NAME COMMAND…: runs a command with an X display of its own. DISPLAY leads to it, and its screen can be read
 # from the file SCREEN (tests/display/screen.py); SCREEN_SIZE is what a window may cover at most.
 on_display() (
     folder=$ROOT/build/display/$1
     shift
-    packages xvfb xdotool python3
     rm -rf "$folder"
     mkdir -p "$folder"
     export SCREEN=$folder/Xvfb_screen0 SCREEN_SIZE=1280x900
@@ -104,7 +166,11 @@ on_display() (
 wine_desktop() { wine_run explorer "/desktop=$1,${SCREEN_SIZE:-1280x900},x11" "${@:2}"; }
 
 # windows PATH: as the programs in the prefix know it.
-windows() { winepath -w "$1" 2>/dev/null; }
+windows() {
+    local path
+    path=$(realpath -m "$1")
+    printf 'Z:%s\n' "${path//\//\\}"
+}
 
 # register FOLDER: enters both DLLs of a folder in the prefix.
 register() {
@@ -114,16 +180,16 @@ register() {
     done
 }
 
-# benchmark_source: Google Benchmark's source from Debian, for the compilers that Debian has no library for.
+# benchmark_source: Google Benchmark's source from Debian, for the compilers that Debian has no library for. It comes from
+# where the machine's own packages come from, also where no source packages are configured.
 benchmark_source() {
     local folder=$ROOT/build/sources
     [ -d "$folder/benchmark" ] && return
-    packages dpkg-dev ca-certificates
     say "Fetching the source of Google Benchmark"
     rm -rf "$folder"
     mkdir -p "$folder/lists/partial" "$folder/cache/archives/partial"
-    echo "deb-src [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] http://deb.debian.org/debian bookworm main" \
-        >"$folder/sources.list"
+    apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
+        sort -u >"$folder/sources.list"
     local apt=(apt-get -qq -o "Dir::Etc::SourceList=$folder/sources.list" -o Dir::Etc::SourceParts=/dev/null
         -o "Dir::State::Lists=$folder/lists" -o "Dir::Cache=$folder/cache")
     "${apt[@]}" update
@@ -133,8 +199,10 @@ benchmark_source() {
 
 # german_locale: a German locale of the project's own, so that Wine takes German settings and keeps UTF-8 file names.
 german_locale() {
-    packages locales
     [ -d build/locale/de_DE.UTF-8 ] && return
     mkdir -p build/locale
     localedef --no-archive -i de_DE -f UTF-8 "$ROOT/build/locale/de_DE.UTF-8"
 }
+
+# german COMMAND…: under German regional settings.
+german() { LOCPATH=$ROOT/build/locale LC_ALL=de_DE.UTF-8 "$@"; }
