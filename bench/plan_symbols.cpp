@@ -64,7 +64,7 @@ qsymbol::Symbol PlanSymbol(std::size_t elements, std::uint32_t seed) {
     return symbol;
 }
 
-qsymbol::FailureChoice Silence::AskAbortRetryIgnore(std::u16string_view) {
+messages::FailureChoice Silence::AskAbortRetryIgnore(std::u16string_view) {
     // A file that does not read would make the measurement worthless.
     std::fputs("a file of the benchmark could not be read\n", stderr);
     std::exit(1);

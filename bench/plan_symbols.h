@@ -12,14 +12,14 @@ namespace bench {
 qsymbol::Symbol PlanSymbol(std::size_t elements, std::uint32_t seed);
 
 /// No resource library, and nobody to ask: every question is answered so that the program goes on.
-class Silence final : public qsymbol::ResourceStrings, public qsymbol::UserPrompt {
+class Silence final : public messages::ResourceStrings, public messages::UserPrompt {
 public:
     std::u16string LoadResString(std::int32_t) const override { return {}; }
     void ReportError(std::u16string_view) override {}
     void Notice(std::u16string_view) override {}
     void Inform(std::u16string_view) override {}
     bool AskYesNo(std::u16string_view, std::u16string_view) override { return true; }
-    qsymbol::FailureChoice AskAbortRetryIgnore(std::u16string_view) override;
+    messages::FailureChoice AskAbortRetryIgnore(std::u16string_view) override;
 };
 
 /// What reading and writing files needs, on the real file system under German settings.

@@ -14,6 +14,7 @@ function(type_library name)
   # WIDL_TIME_OVERRIDE keeps the type library reproducible.
   set(widl ${CMAKE_COMMAND} -E env WIDL_TIME_OVERRIDE=0 ${WIDL} -I ${WINE_IDL_DIR} -I ${PROJECT_SOURCE_DIR}/idl
       -L ${STDOLE_DIR} -L ${QSYMBOL_IDL_DIR})
+  list(APPEND widl -DQMATH_VERSION=${QMATH_TYPELIB_VERSION} -DQSYMBOL_VERSION=${QSYMBOL_TYPELIB_VERSION})
   if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     list(APPEND widl -m32)
   else()

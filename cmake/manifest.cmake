@@ -1,4 +1,4 @@
-# cmake -DIDL_DIR=… -DARCHITECTURE=amd64|x86 -DOUTPUT=… -P manifest.cmake
+# cmake -DIDL_DIR=… -DARCHITECTURE=amd64|x86 -DQMATH_VERSION=… -DQSYMBOL_VERSION=… -DOUTPUT=… -P manifest.cmake
 # Writes the side-by-side assembly that lets a host use both DLLs without registration. The contracts are the
 # only source of class ids, so the manifest cannot drift from them.
 
@@ -10,9 +10,10 @@ foreach(library QMath QSymbol)
   string(REPLACE "[" "<" idl "${idl}")
   string(REPLACE "]" ">" idl "${idl}")
   string(REPLACE ";" "," idl "${idl}")
-  string(REGEX MATCH "uuid\\(([0-9a-f-]+)\\), version\\(([0-9.]+)\\)" header "${idl}")
+  string(REGEX MATCH "uuid\\(([0-9a-f-]+)\\), version\\(" header "${idl}")
   set(type_library ${CMAKE_MATCH_1})
-  set(version ${CMAKE_MATCH_2})
+  string(TOUPPER ${library} upper)
+  set(version ${${upper}_VERSION})
   string(APPEND files "  <file name=\"${library}.dll\">\n"
          "    <typelib tlbid=\"{${type_library}}\" version=\"${version}\" helpdir=\"\"/>\n")
   # A class that clients may not create has "noncreatable" behind its help string and gets no entry.
@@ -33,6 +34,6 @@ endforeach()
 
 file(WRITE ${OUTPUT} "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>
 <assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">
-  <assemblyIdentity type=\"win32\" name=\"QSymbol.X\" version=\"4.1.0.0\" processorArchitecture=\"${ARCHITECTURE}\"/>
+  <assemblyIdentity type=\"win32\" name=\"QSymbol.X\" version=\"${QSYMBOL_VERSION}.0.0\" processorArchitecture=\"${ARCHITECTURE}\"/>
 ${files}${proxies}</assembly>
 ")

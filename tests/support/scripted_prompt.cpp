@@ -25,9 +25,9 @@ bool ScriptedPrompt::AskYesNo(std::u16string_view text, std::u16string_view titl
     return Next(yesNo, false);
 }
 
-qsymbol::FailureChoice ScriptedPrompt::AskAbortRetryIgnore(std::u16string_view text) {
+messages::FailureChoice ScriptedPrompt::AskAbortRetryIgnore(std::u16string_view text) {
     said.emplace_back(text);
-    return Next(failures, qsymbol::FailureChoice::Abort);
+    return Next(failures, messages::FailureChoice::Abort);
 }
 
 } // namespace support

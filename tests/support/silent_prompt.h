@@ -1,11 +1,11 @@
 #pragma once
 
-#include "qsymbol/frame/user_prompt.h"
+#include "messages/user_prompt.h"
 
 namespace support {
 
 /// Nobody to ask: counts notices and answers so that the program goes on.
-class SilentPrompt final : public qsymbol::UserPrompt {
+class SilentPrompt final : public messages::UserPrompt {
 public:
     int notices = 0;
 
@@ -13,8 +13,8 @@ public:
     void Notice(std::u16string_view) override { ++notices; }
     void Inform(std::u16string_view) override {}
     bool AskYesNo(std::u16string_view, std::u16string_view) override { return true; }
-    qsymbol::FailureChoice AskAbortRetryIgnore(std::u16string_view) override {
-        return qsymbol::FailureChoice::Ignore;
+    messages::FailureChoice AskAbortRetryIgnore(std::u16string_view) override {
+        return messages::FailureChoice::Ignore;
     }
 };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qsymbol/frame/resource_strings.h"
+#include "messages/resource_strings.h"
 
 #include <map>
 #include <string>
@@ -8,7 +8,7 @@
 namespace support {
 
 /// Resource strings by number; "" for all others.
-class StringTable final : public qsymbol::ResourceStrings {
+class StringTable final : public messages::ResourceStrings {
 public:
     std::map<std::int32_t, std::u16string> texts;
 

@@ -2,7 +2,7 @@
 
 #include "automation/dialog/control_ids.h"
 #include "automation/dialog/window_text.h"
-#include "qsymbol/dialog/progress_text.h"
+#include "qsymbol/dialog/dialog_texts.h"
 
 #include <commctrl.h>
 

@@ -9,8 +9,7 @@
 #include "com/bstr.h"
 #include "com/error_info.h"
 #include "platform/win32/jpeg_file.h"
-#include "qsymbol/dialog/picture_path.h"
-#include "qsymbol/dialog/progress_text.h"
+#include "qsymbol/dialog/dialog_texts.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 
 #include "automation/dialog/frmSymSelect.h"
 #include "platform/win32/visual_styles.h"
-#include "qsymbol/dialog/selection_request.h"
+#include "qsymbol/dialog/dialog_texts.h"
 
 #include <commctrl.h>
 

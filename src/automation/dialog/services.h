@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qsymbol/frame/resource_strings.h"
+#include "messages/resource_strings.h"
 
 #include <windows.h>
 
@@ -13,7 +13,7 @@ namespace dialog {
 /// What the dialog needs of the library that shows it.
 struct Services {
     HINSTANCE instance; ///< of the module with the dialog's resources
-    const qsymbol::ResourceStrings& strings;
+    const messages::ResourceStrings& strings;
     /// Shows the exception being handled under a source.
     void (*report)(std::u16string_view source) noexcept;
     /// Logical units in a unit that the user sees; asked for each symbol, as the host may change it.

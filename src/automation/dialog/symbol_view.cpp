@@ -3,8 +3,8 @@
 #include "automation/dialog/control_ids.h"
 #include "automation/dialog/window_text.h"
 #include "com/error_info.h"
-#include "qsymbol/dialog/preview_offset.h"
-#include "qsymbol/dialog/size_text.h"
+#include "qsymbol/dialog/dialog_layout.h"
+#include "qsymbol/dialog/dialog_texts.h"
 
 #include <utility>
 

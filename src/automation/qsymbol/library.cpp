@@ -33,7 +33,7 @@ void EnsureResources() {
     g_resourceReader = reader.release();
 }
 
-qsymbol::UserPrompt& Prompt() {
+messages::UserPrompt& Prompt() {
     static platform::MessageBoxPrompt prompt;
     return prompt;
 }

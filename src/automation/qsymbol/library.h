@@ -14,7 +14,7 @@ namespace library {
 void EnsureResources();
 
 /// The user seam of this DLL: message boxes.
-qsymbol::UserPrompt& Prompt();
+messages::UserPrompt& Prompt();
 
 /// The file seam of this DLL.
 base::FileSystem& Files();

@@ -35,11 +35,11 @@ bool MessageBoxPrompt::AskYesNo(std::u16string_view text, std::u16string_view ti
     return Show(text, title, MB_YESNO) == IDYES;
 }
 
-qsymbol::FailureChoice MessageBoxPrompt::AskAbortRetryIgnore(std::u16string_view text) {
+messages::FailureChoice MessageBoxPrompt::AskAbortRetryIgnore(std::u16string_view text) {
     switch (Show(text, ApplicationTitle(), MB_ABORTRETRYIGNORE | MB_ICONERROR)) {
-    case IDRETRY: return qsymbol::FailureChoice::Retry;
-    case IDIGNORE: return qsymbol::FailureChoice::Ignore;
-    default: return qsymbol::FailureChoice::Abort; // also when no box could be shown: never loop
+    case IDRETRY: return messages::FailureChoice::Retry;
+    case IDIGNORE: return messages::FailureChoice::Ignore;
+    default: return messages::FailureChoice::Abort; // also when no box could be shown: never loop
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qsymbol/frame/resource_strings.h"
+#include "messages/resource_strings.h"
 
 #include <windows.h>
 
@@ -9,7 +9,7 @@
 namespace platform {
 
 /// The resource-string object: message texts from a resource library, which is loaded as data only.
-class ResourceLibrary final : public qsymbol::ResourceStrings {
+class ResourceLibrary final : public messages::ResourceStrings {
 public:
     ResourceLibrary() = default;
     ResourceLibrary(const ResourceLibrary&) = delete;

@@ -27,7 +27,7 @@ std::optional<std::u16string> TryRead(Symbol& symbol, const FileEnvironment& env
 }
 
 std::u16string FailureMessage(const std::u16string& path, const std::u16string& description,
-                              const ResourceStrings& strings) {
+                              const messages::ResourceStrings& strings) {
     const std::u16string start = strings.LoadResString(kMessageStart);
     const std::u16string failure =
         start.empty() ? u"Das Symbol \"" + path + u"\" konnte nicht geladen werden."
@@ -49,9 +49,9 @@ bool LoadSymbolFile(std::u16string path, CatalogSink& sink, const FileEnvironmen
         ResetContent(symbol); // gives its memory back before the user takes his time
         switch (environment.prompt.AskAbortRetryIgnore(
             FailureMessage(symbol.filePath, *failure, environment.strings))) {
-        case FailureChoice::Abort: return false;
-        case FailureChoice::Retry: break;
-        case FailureChoice::Ignore: return true;
+        case messages::FailureChoice::Abort: return false;
+        case messages::FailureChoice::Retry: break;
+        case messages::FailureChoice::Ignore: return true;
         }
     }
 }

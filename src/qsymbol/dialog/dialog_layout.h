@@ -63,4 +63,9 @@ std::int32_t PreviewMargin(const DialogMeasures& measures);
 /// The top left corner of a window over the middle of its owner, inside the work area where it fits.
 qmath::Point CentredOver(const qmath::Rect& owner, DialogSize window, const qmath::Rect& workArea);
 
+/// How far a symbol that is fitted into a box, and so begins at its top left corner, is to be moved to stand
+/// in its middle. A symbol without width or height, whose extent is not known, stays where it is.
+qmath::Point PreviewOffset(std::int32_t symbolWidth, std::int32_t symbolHeight, std::int32_t boxWidth,
+                           std::int32_t boxHeight);
+
 } // namespace qsymbol

@@ -3,8 +3,8 @@
 #include "base/whole_file.h"
 #include "qsymbol/files/binary_format.h"
 #include "qsymbol/files/binary_input.h"
+#include "qsymbol/files/library_error.h"
 #include "qsymbol/files/memory_budget.h"
-#include "qsymbol/frame/library_error.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 #include "base/code_page.h"
 #include "base/file_system.h"
 #include "base/regional_settings.h"
-#include "qsymbol/frame/resource_strings.h"
-#include "qsymbol/frame/user_prompt.h"
+#include "messages/resource_strings.h"
+#include "messages/user_prompt.h"
 
 namespace qsymbol {
 
@@ -13,8 +13,8 @@ struct FileEnvironment {
     base::FileSystem& files;
     const base::CodePage& codePage;
     base::RegionalSettings regional;
-    const ResourceStrings& strings;
-    UserPrompt& prompt;
+    const messages::ResourceStrings& strings;
+    messages::UserPrompt& prompt;
 };
 
 } // namespace qsymbol

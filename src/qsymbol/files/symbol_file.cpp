@@ -4,10 +4,10 @@
 #include "qmath/str_util.h"
 #include "qsymbol/files/binary_reader.h"
 #include "qsymbol/files/binary_writer.h"
+#include "qsymbol/files/library_error.h"
 #include "qsymbol/files/text_reader.h"
 #include "qsymbol/files/text_writer.h"
 #include "qsymbol/files/wsc_reader.h"
-#include "qsymbol/frame/library_error.h"
 
 #include <array>
 

@@ -4,11 +4,11 @@
 #include "base/number_reader.h"
 #include "base/whole_file.h"
 #include "qsymbol/files/field_cursor.h"
+#include "qsymbol/files/library_error.h"
 #include "qsymbol/files/line_cursor.h"
 #include "qsymbol/files/memory_budget.h"
 #include "qsymbol/files/text_element_fields.h"
 #include "qsymbol/files/text_format.h"
-#include "qsymbol/frame/library_error.h"
 
 #include <algorithm>
 

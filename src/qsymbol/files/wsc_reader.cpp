@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "base/whole_file.h"
+#include "qsymbol/files/library_error.h"
 #include "qsymbol/files/line_cursor.h"
 #include "qsymbol/files/memory_budget.h"
 #include "qsymbol/files/wsc_fields.h"
@@ -9,7 +10,6 @@
 #include "qsymbol/files/wsc_format.h"
 #include "qsymbol/files/wsc_numbers.h"
 #include "qsymbol/files/wsc_survey.h"
-#include "qsymbol/frame/library_error.h"
 
 namespace qsymbol {
 

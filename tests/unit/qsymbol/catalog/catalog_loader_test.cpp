@@ -15,7 +15,7 @@
 namespace {
 
 using base::RunTimeError;
-using qsymbol::FailureChoice;
+using messages::FailureChoice;
 using qsymbol::Symbol;
 using support::Caught;
 using support::CaughtFrom;
@@ -118,7 +118,7 @@ TEST_F(CatalogLoader, AnEmptyFolder) {
 TEST_F(CatalogLoader, IgnoreGoesOn) {
     PutBroken(u"plan/a.syb");
     PutSymbol(u"plan/b.syb");
-    world_.prompt.failures = {FailureChoice::Ignore};
+    world_.prompt.failures = {messages::FailureChoice::Ignore};
     EXPECT_EQ(Load(), Caught());
     EXPECT_THAT(catalog_.Names(), ElementsAre(u"b"));
     EXPECT_THAT(world_.prompt.said, ElementsAre(u"Das Symbol \"plan/a.syb\" konnte nicht geladen werden.\r\n"
@@ -129,7 +129,7 @@ TEST_F(CatalogLoader, AbortStopsAtOnce) {
     PutSymbol(u"plan/a.syb");
     PutBroken(u"plan/b.syb");
     PutSymbol(u"plan/c.syb");
-    world_.prompt.failures = {FailureChoice::Abort};
+    world_.prompt.failures = {messages::FailureChoice::Abort};
     EXPECT_EQ(Load(), Caught());
     EXPECT_THAT(catalog_.Names(), ElementsAre(u"a"));
     EXPECT_EQ(memory_.opened, 2) << "later files are not read";
@@ -138,7 +138,7 @@ TEST_F(CatalogLoader, AbortStopsAtOnce) {
 TEST_F(CatalogLoader, RetryReadsTheSameFileAgain) {
     PutBroken(u"plan/a.syb");
     PutSymbol(u"plan/b.syb");
-    world_.prompt.failures = {FailureChoice::Retry, FailureChoice::Retry};
+    world_.prompt.failures = {messages::FailureChoice::Retry, messages::FailureChoice::Retry};
     memory_.onOpen = [&] {
         if (world_.prompt.said.size() == 2)
             memory_.files[u"plan/a.syb"] = memory_.files[u"plan/b.syb"];
@@ -151,7 +151,7 @@ TEST_F(CatalogLoader, RetryReadsTheSameFileAgain) {
 TEST_F(CatalogLoader, MessageFromTheResource) {
     PutBroken(u"plan/a.syb");
     world_.strings.texts = {{11105, u"Datei"}, {11106, u"ist kaputt"}};
-    world_.prompt.failures = {FailureChoice::Ignore};
+    world_.prompt.failures = {messages::FailureChoice::Ignore};
     Load();
     EXPECT_THAT(world_.prompt.said,
                 ElementsAre(u"Datei \"plan/a.syb\" ist kaputt.\r\nEinlesen hinter Dateiende"));
@@ -169,7 +169,7 @@ TEST_F(CatalogLoader, ASecondSymbolOfANameIsThrown) {
 TEST_F(CatalogLoader, OtherFailuresOfAFile) {
     PutSymbol(u"plan/a.syb");
     memory_.openError = RunTimeError::PermissionDenied;
-    world_.prompt.failures = {FailureChoice::Ignore};
+    world_.prompt.failures = {messages::FailureChoice::Ignore};
     EXPECT_EQ(Load(), Caught());
     EXPECT_TRUE(world_.prompt.said.at(0).ends_with(u"\r\nZugriff verweigert"));
 }
@@ -177,7 +177,7 @@ TEST_F(CatalogLoader, OtherFailuresOfAFile) {
 TEST_F(CatalogLoader, ReadingThatRunsOutOfMemoryIsAFileThatFails) {
     PutSymbol(u"plan/a.syb");
     memory_.onOpen = [] { throw std::bad_alloc(); };
-    world_.prompt.failures = {FailureChoice::Ignore};
+    world_.prompt.failures = {messages::FailureChoice::Ignore};
     EXPECT_EQ(Load(), Caught());
     EXPECT_TRUE(world_.prompt.said.at(0).ends_with(u"\r\nNicht genügend Speicher"));
 }
@@ -211,7 +211,7 @@ TEST_F(CatalogLoader, AListStoppedByAbortIsTrue) {
     PutBroken(u"plan/a.syb");
     PutSymbol(u"plan/b.syb");
     PutSymbol(u"plan/c.syb");
-    world_.prompt.failures = {FailureChoice::Abort};
+    world_.prompt.failures = {messages::FailureChoice::Abort};
     EXPECT_TRUE(LoadList({u"A", u"B"}));
     EXPECT_EQ(catalog_.symbols.Count(), 0);
 }

@@ -1,7 +1,4 @@
-#include "qsymbol/dialog/picture_path.h"
-#include "qsymbol/dialog/progress_text.h"
-#include "qsymbol/dialog/selection_request.h"
-#include "qsymbol/dialog/size_text.h"
+#include "qsymbol/dialog/dialog_texts.h"
 #include "support/error_number_of.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "qsymbol/dialog/preview_offset.h"
+#include "qsymbol/dialog/dialog_layout.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-namespace qsymbol {
+namespace messages {
 
 /// Seam: message texts by number from the resource library.
 class ResourceStrings {
@@ -14,4 +14,4 @@ public:
     virtual std::u16string LoadResString(std::int32_t id) const = 0;
 };
 
-} // namespace qsymbol
+} // namespace messages

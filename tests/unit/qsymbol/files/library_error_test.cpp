@@ -1,4 +1,4 @@
-#include "qsymbol/frame/library_error.h"
+#include "qsymbol/files/library_error.h"
 
 #include "support/caught.h"
 #include "support/string_table.h"

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace qsymbol {
+namespace messages {
 
 enum class FailureChoice { Abort, Retry, Ignore };
 
@@ -24,4 +24,4 @@ public:
     virtual FailureChoice AskAbortRetryIgnore(std::u16string_view text) = 0;
 };
 
-} // namespace qsymbol
+} // namespace messages

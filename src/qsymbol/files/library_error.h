@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qsymbol/frame/resource_strings.h"
+#include "messages/resource_strings.h"
 
 #include <cstdint>
 #include <string>
@@ -16,9 +16,10 @@ enum class LibraryError : std::int32_t {
 };
 
 /// The message for an error number: the resource string where there is one, else the German text.
-std::u16string GetErrorMessage(std::int32_t number, const ResourceStrings& strings);
+std::u16string GetErrorMessage(std::int32_t number, const messages::ResourceStrings& strings);
 
 /// Throws the library's error with its message; source is class name, full stop and procedure name.
-[[noreturn]] void Raise(LibraryError number, std::u16string_view source, const ResourceStrings& strings);
+[[noreturn]] void Raise(LibraryError number, std::u16string_view source,
+                        const messages::ResourceStrings& strings);
 
 } // namespace qsymbol

@@ -1,4 +1,4 @@
-#include "qsymbol/frame/library_error.h"
+#include "qsymbol/files/library_error.h"
 
 #include "base/error.h"
 
@@ -22,13 +22,13 @@ Message MessageOf(std::int32_t number) {
 
 } // namespace
 
-std::u16string GetErrorMessage(std::int32_t number, const ResourceStrings& strings) {
+std::u16string GetErrorMessage(std::int32_t number, const messages::ResourceStrings& strings) {
     const Message message = MessageOf(number);
     std::u16string text = strings.LoadResString(message.resource);
     return text.empty() ? std::u16string(message.german) : text;
 }
 
-void Raise(LibraryError number, std::u16string_view source, const ResourceStrings& strings) {
+void Raise(LibraryError number, std::u16string_view source, const messages::ResourceStrings& strings) {
     const auto value = static_cast<std::int32_t>(number);
     throw base::Error(value, std::u16string(source), GetErrorMessage(value, strings));
 }
