@@ -112,7 +112,7 @@ void WriteWithQSymbol(benchmark::State& state) {
     for (auto _ : state) {
         put(base::OpenMode::Replace, "  0\r\nSECTION\r\n  2\r\nENTITIES\r\n");
         for (const PlacedSymbol& placed : plan)
-            if (qsymbol::AppendToDxfFile(placed.symbol, placed.position, path, files, codePage) != nullptr)
+            if (qsymbol::AppendToDxfFile(placed.symbol, placed.position, 0, path, files, codePage) != nullptr)
                 state.SkipWithError("a symbol without elements");
         put(base::OpenMode::Append, "  0\r\nENDSEC\r\n  0\r\nEOF\r\n");
     }

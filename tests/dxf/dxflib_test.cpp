@@ -4,7 +4,6 @@
 #include "dxf/dxflib_collector.h"
 #include "qsymbol/export/dxf_export.h"
 #include "qsymbol/files/symbol_file.h"
-#include "qsymbol/geometry/draw_factors.h"
 #include "support/sample_symbols.h"
 #include "support/temp_folder.h"
 #include "support/test_environment.h"
@@ -45,19 +44,14 @@ struct Placed {
 
 class Dxflib : public testing::Test {
 protected:
-    void SetUp() override {
-        qsymbol::LastDrawFactors() = {};
-        support::BeginDxf(world_.disk, path_);
-    }
-    void TearDown() override { qsymbol::LastDrawFactors() = {}; }
+    void SetUp() override { support::BeginDxf(world_.disk, path_); }
 
     void Append(Symbol symbol, const Placed& placed) {
-        qsymbol::LastDrawFactors().screen = placed.factor;
         symbol.etagenbreite = placed.mirror;
         const qmath::Point at{static_cast<std::int32_t>(placed.at.real()),
                               static_cast<std::int32_t>(placed.at.imag())};
-        const auto left = qsymbol::AppendToDxfFile(symbol, {.at = at, .angle = placed.angle}, path_,
-                                                   world_.disk, world_.codePage);
+        const auto left = qsymbol::AppendToDxfFile(symbol, {.at = at, .angle = placed.angle}, placed.factor,
+                                                   path_, world_.disk, world_.codePage);
         ASSERT_EQ(left, nullptr);
     }
 

@@ -6,7 +6,6 @@
 #include "dxf/dxf_frame.h"
 #include "qsymbol/export/dxf_export.h"
 #include "qsymbol/files/symbol_file.h"
-#include "qsymbol/geometry/draw_factors.h"
 #include "support/test_environment.h"
 
 #include <exception>
@@ -40,10 +39,10 @@ void Write(const std::filesystem::path& catalogue, const std::filesystem::path& 
         symbol.filePath = (catalogue / (fields.at(0) + ".syt")).u16string();
         qsymbol::ReadFromFile(symbol, world.OnDisk());
         symbol.etagenbreite = std::stoi(fields.at(5));
-        qsymbol::LastDrawFactors().screen = std::stod(fields.at(4));
+        const double factor = std::stod(fields.at(4));
         const qsymbol::SymbolPosition position{.at = {std::stoi(fields.at(1)), std::stoi(fields.at(2))},
                                                .angle = std::stod(fields.at(3))};
-        if (qsymbol::AppendToDxfFile(symbol, position, out, world.disk, world.codePage) != nullptr)
+        if (qsymbol::AppendToDxfFile(symbol, position, factor, out, world.disk, world.codePage) != nullptr)
             throw std::runtime_error(fields.at(0) + " has no elements");
     }
     support::EndDxf(world.disk, out);

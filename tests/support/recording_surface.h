@@ -63,7 +63,7 @@ public:
     void WriteTextAsPath(qmath::Point anchor, std::u16string_view text) override {
         Note("TextPath" + Text(anchor) + " " + Ascii(text));
     }
-    void SelectFont(const qsymbol::FontRequest& request) override {
+    void SelectFont(const base::FontRequest& request) override {
         std::string flags;
         flags += request.bold ? 'b' : '-';
         flags += request.italic ? 'i' : '-';

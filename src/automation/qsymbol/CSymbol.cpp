@@ -4,6 +4,7 @@
 #include "automation/qsymbol/element_access.h"
 #include "automation/qsymbol/host_surface.h"
 #include "automation/qsymbol/host_transformation.h"
+#include "automation/qsymbol/last_factors.h"
 #include "automation/qsymbol/library.h"
 #include "automation/qsymbol/math_objects.h"
 #include "automation/shared/point_access.h"
@@ -36,9 +37,13 @@ qsymbol::ElementList ToRecords(_CSymElementColl& elements) {
     return records;
 }
 
-/// The factor that bounds, hit tests and snapping follow: the last one that a symbol was drawn with.
-double ScreenFactor() {
-    return qsymbol::LastDrawFactors().screen;
+/// Answers a question about a placed symbol in pixels. A symbol without elements is never hit, also when
+/// there is no transformation.
+template <class Question>
+VARIANT_BOOL Ask(const qsymbol::Symbol& symbol, _CTrans* trans, Question&& question) {
+    if (qsymbol::IsEmpty(symbol))
+        return VARIANT_FALSE;
+    return question(HostTransformation(com::Required(trans))) ? VARIANT_TRUE : VARIANT_FALSE;
 }
 
 } // namespace
@@ -111,7 +116,7 @@ STDMETHODIMP CSymbol::Draw(LONG lLogX, LONG lLogY, double dAngle, IDispatch* ctr
                            double dSymPrinterFaktor, double dSymBSFaktor, LONG* lMarkColor) {
     return Do([&] {
         const qsymbol::DrawFactors factors{.printer = dSymPrinterFaktor, .screen = dSymBSFaktor};
-        qsymbol::LastDrawFactors() = factors;
+        last_factors::Keep(factors);
         if (ctrl == nullptr || Trans == nullptr)
             return;
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
@@ -133,18 +138,18 @@ STDMETHODIMP CSymbol::CatchPt(float* x, float* y, LONG* XKoord, LONG* YKoord, LO
         LONG& worldX = com::Out(XKoord);
         LONG& worldY = com::Out(YKoord);
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
-        if (symbol->elements.empty())
-            return VARIANT_FALSE;
-        const auto caught =
-            qsymbol::CatchPt(*symbol, {.at = {lLogX, lLogY}, .angle = dAngle}, ScreenFactor(),
-                             HostTransformation(com::Required(Trans)), cursorX, cursorY, iFangbereich);
-        if (!caught)
-            return VARIANT_FALSE;
-        cursorX = static_cast<float>(caught->screen.x);
-        cursorY = static_cast<float>(caught->screen.y);
-        worldX = caught->world.x;
-        worldY = caught->world.y;
-        return VARIANT_TRUE;
+        return Ask(*symbol, Trans, [&](const HostTransformation& transformation) {
+            const auto caught =
+                qsymbol::CatchPt(*symbol, {.at = {lLogX, lLogY}, .angle = dAngle}, last_factors::Screen(),
+                                 transformation, cursorX, cursorY, iFangbereich);
+            if (!caught)
+                return false;
+            cursorX = static_cast<float>(caught->screen.x);
+            cursorY = static_cast<float>(caught->screen.y);
+            worldX = caught->world.x;
+            worldY = caught->world.y;
+            return true;
+        });
     });
 }
 
@@ -156,6 +161,7 @@ STDMETHODIMP CSymbol::Draw2PBox(IDispatch* PBox) {
         const double width = com::LateBoundMember(*PBox, L"ScaleWidth").GetDouble();
         const double height = com::LateBoundMember(*PBox, L"ScaleHeight").GetDouble();
         HostSurface surface(*PBox);
+        last_factors::Keep(qsymbol::kUnscaled);
         qsymbol::DrawFitted(*symbol, surface, width, height);
     });
     return S_OK;
@@ -164,8 +170,8 @@ STDMETHODIMP CSymbol::Draw2PBox(IDispatch* PBox) {
 STDMETHODIMP CSymbol::GetBoundingRect(LONG lLogX, LONG lLogY, double dAngle, _CRect** r) {
     return Do([&] {
         _CRect*& place = com::Out(r);
-        const qmath::Rect bounds =
-            qsymbol::GetBoundingRect(*symbol_, {.at = {lLogX, lLogY}, .angle = dAngle}, ScreenFactor());
+        const qmath::Rect bounds = qsymbol::GetBoundingRect(*symbol_, {.at = {lLogX, lLogY}, .angle = dAngle},
+                                                            last_factors::Screen());
         com::ComPtr<_CRect> rect = math_objects::NewRect(bounds);
         const com::ComPtr<_CRect> old = com::ComPtr<_CRect>::Attach(std::exchange(place, rect.Detach()));
     });
@@ -187,12 +193,11 @@ STDMETHODIMP CSymbol::ObjIdentByPt(LONG lLogObjX, LONG lLogObjY, double dAngle, 
                                    LONG lScreenIdentX, LONG lScreenIdentY, VARIANT_BOOL* value) {
     return Return(value, [&] {
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
-        if (symbol->elements.empty())
-            return VARIANT_FALSE;
-        const bool hit =
-            qsymbol::ObjIdentByPt(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle}, ScreenFactor(),
-                                  HostTransformation(com::Required(Trans)), {lScreenIdentX, lScreenIdentY});
-        return hit ? VARIANT_TRUE : VARIANT_FALSE;
+        return Ask(*symbol, Trans, [&](const HostTransformation& transformation) {
+            return qsymbol::ObjIdentByPt(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle},
+                                         last_factors::Screen(), transformation,
+                                         {lScreenIdentX, lScreenIdentY});
+        });
     });
 }
 
@@ -200,12 +205,10 @@ STDMETHODIMP CSymbol::ObjIdentByRect(LONG lLogObjX, LONG lLogObjY, double dAngle
                                      _CRect* ScreenIdentRect, VARIANT_BOOL* value) {
     return Return(value, [&] {
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
-        if (symbol->elements.empty())
-            return VARIANT_FALSE;
-        const bool hit =
-            qsymbol::ObjIdentByRect(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle}, ScreenFactor(),
-                                    HostTransformation(com::Required(Trans)), GetRect(ScreenIdentRect));
-        return hit ? VARIANT_TRUE : VARIANT_FALSE;
+        return Ask(*symbol, Trans, [&](const HostTransformation& transformation) {
+            return qsymbol::ObjIdentByRect(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle},
+                                           last_factors::Screen(), transformation, GetRect(ScreenIdentRect));
+        });
     });
 }
 
@@ -241,7 +244,8 @@ STDMETHODIMP CSymbol::DxfExportSym(LONG lLogX, LONG lLogY, double dAngle, BSTR s
     return Do([&] {
         openDxfFile_.reset();
         openDxfFile_ = qsymbol::AppendToDxfFile(*symbol_, {.at = {lLogX, lLogY}, .angle = dAngle},
-                                                com::Text(stFilename), library::Files(), library::CodePage());
+                                                last_factors::Screen(), com::Text(stFilename),
+                                                library::Files(), library::CodePage());
     });
 }
 

@@ -100,14 +100,8 @@ void HostSurface::WriteTextAsPath(qmath::Point anchor, std::u16string_view text)
     DeleteObject(brush);
 }
 
-void HostSurface::SelectFont(const qsymbol::FontRequest& request) {
-    font_.Select(context_, {.height = request.height,
-                            .escapement = request.escapement,
-                            .bold = request.bold,
-                            .italic = request.italic,
-                            .underline = request.underline,
-                            .strikethrough = request.strikethrough,
-                            .name = request.name});
+void HostSurface::SelectFont(const base::FontRequest& request) {
+    font_.Select(context_, request);
 }
 
 void HostSurface::ReleaseFont() noexcept {

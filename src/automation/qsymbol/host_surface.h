@@ -11,9 +11,6 @@ public:
     /// Reads the control's hDC.
     explicit HostSurface(IDispatch& control);
 
-    /// The host's object itself, for a symbol that draws in its own way.
-    IDispatch& Control() const { return control_; }
-
     qsymbol::SurfaceKind Kind() override;
     std::u16string Name() override;
 
@@ -40,7 +37,7 @@ public:
     void SetBkMode(std::int32_t mode) override;
     void WriteText(qmath::Point anchor, std::u16string_view text) override;
     void WriteTextAsPath(qmath::Point anchor, std::u16string_view text) override;
-    void SelectFont(const qsymbol::FontRequest& request) override;
+    void SelectFont(const base::FontRequest& request) override;
     void ReleaseFont() noexcept override;
 
 private:

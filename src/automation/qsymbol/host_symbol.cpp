@@ -1,16 +1,10 @@
 #include "automation/qsymbol/host_symbol.h"
 
-#include "automation/qsymbol/host_surface.h"
-#include "automation/qsymbol/host_transformation.h"
+#include "automation/qsymbol/host_target.h"
+#include "automation/qsymbol/last_factors.h"
 #include "qsymbol/draw/symbol_drawing.h"
 
 #include <utility>
-
-namespace {
-
-constexpr qsymbol::DrawFactors kUnscaled{.printer = 1, .screen = 1};
-
-} // namespace
 
 std::shared_ptr<const HostSymbol> HostSymbol::Share(_CSymbol* symbol) {
     if (symbol == nullptr)
@@ -23,19 +17,18 @@ std::shared_ptr<const HostSymbol> HostSymbol::Share(_CSymbol* symbol) {
     return shared;
 }
 
-void HostSymbol::Draw(const qsymbol::SymbolPosition& place, qsymbol::Surface& surface,
-                      const qsymbol::Transformation& transformation) const {
+void HostSymbol::Draw(const qsymbol::SymbolPosition& place, qsymbol::DrawingTarget& target) const {
     if (own_) {
         const std::shared_ptr<const qsymbol::Symbol> value = own_->Value();
-        qsymbol::DrawSymbol(*value, place, surface, transformation, kUnscaled);
+        last_factors::Keep(qsymbol::kUnscaled);
+        qsymbol::DrawSymbol(*value, place, target.OpenSurface(), target.OpenTransformation(),
+                            qsymbol::kUnscaled);
         return;
     }
-    // In this library every surface and every transformation is a host's.
-    IDispatch& control = static_cast<HostSurface&>(surface).Control();
-    _CTrans& trans = static_cast<const HostTransformation&>(transformation).Trans();
     LONG noMark = -1;
-    com::Check(symbol_->Draw(place.at.x, place.at.y, place.angle, &control, &trans, kUnscaled.printer,
-                             kUnscaled.screen, &noMark));
+    const qsymbol::HostObjects& host = target.Host();
+    com::Check(symbol_->Draw(place.at.x, place.at.y, place.angle, host.control, host.trans,
+                             qsymbol::kUnscaled.printer, qsymbol::kUnscaled.screen, &noMark));
 }
 
 std::shared_ptr<const qsymbol::DrawableSymbol> HostSymbol::Copy() const {

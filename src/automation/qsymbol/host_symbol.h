@@ -10,8 +10,7 @@ public:
     /// Nothing for Nothing. Passes on what the object says when it is asked who it is.
     static std::shared_ptr<const HostSymbol> Share(_CSymbol* symbol);
 
-    void Draw(const qsymbol::SymbolPosition& place, qsymbol::Surface& surface,
-              const qsymbol::Transformation& transformation) const override;
+    void Draw(const qsymbol::SymbolPosition& place, qsymbol::DrawingTarget& target) const override;
     /// Error 13 for a symbol of the host's own making.
     std::shared_ptr<const qsymbol::DrawableSymbol> Copy() const override;
 

@@ -1,13 +1,13 @@
 #include "automation/qsymbol/host_target.h"
 
-HostSurface& HostTarget::OpenSurface() {
+qsymbol::Surface& HostTarget::OpenSurface() {
     if (!surface_)
-        surface_.emplace(com::Required(control_));
+        surface_.emplace(com::Required(host_.control));
     return *surface_;
 }
 
-const HostTransformation& HostTarget::OpenTransformation() {
+const qsymbol::Transformation& HostTarget::OpenTransformation() {
     if (!transformation_)
-        transformation_.emplace(com::Required(trans_), &point_);
+        transformation_.emplace(com::Required(host_.trans), &point_);
     return *transformation_;
 }

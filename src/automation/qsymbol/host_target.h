@@ -6,19 +6,24 @@
 
 #include <optional>
 
+struct qsymbol::HostObjects {
+    IDispatch* control;
+    _CTrans* trans;
+};
+
 /// The control and the transformation of one event of a host.
 class HostTarget final : public qsymbol::DrawingTarget {
 public:
     /// point: the tool's own, kept from event to event.
     HostTarget(IDispatch* control, _CTrans* trans, com::ComPtr<_CPt>& point)
-        : control_(control), trans_(trans), point_(point) {}
+        : host_{control, trans}, point_(point) {}
 
-    HostSurface& OpenSurface() override;
-    const HostTransformation& OpenTransformation() override;
+    qsymbol::Surface& OpenSurface() override;
+    const qsymbol::Transformation& OpenTransformation() override;
+    const qsymbol::HostObjects& Host() override { return host_; }
 
 private:
-    IDispatch* control_;
-    _CTrans* trans_;
+    qsymbol::HostObjects host_;
     com::ComPtr<_CPt>& point_;
     std::optional<HostSurface> surface_;
     std::optional<HostTransformation> transformation_;

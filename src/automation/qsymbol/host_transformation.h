@@ -14,9 +14,6 @@ public:
     explicit HostTransformation(_CTrans& trans, com::ComPtr<_CPt>* kept = nullptr)
         : trans_(trans), kept_(kept) {}
 
-    /// The host's object itself, for a symbol that draws in its own way.
-    _CTrans& Trans() const { return trans_; }
-
     void WorldToScreen(qmath::Point& point) const override {
         LONG x = point.x;
         LONG y = point.y;

@@ -6,31 +6,31 @@ namespace platform {
 
 namespace {
 
-HFONT CreateGdiFont(const FontSpec& spec) {
+HFONT CreateGdiFont(const base::FontRequest& request) {
     LOGFONTW font{};
-    font.lfHeight = -spec.height; // negative: the height of the characters, not of their cell
-    font.lfEscapement = spec.escapement;
-    font.lfOrientation = spec.escapement;
-    font.lfWeight = spec.bold ? FW_BOLD : FW_NORMAL;
-    font.lfItalic = spec.italic ? TRUE : FALSE;
-    font.lfUnderline = spec.underline ? TRUE : FALSE;
-    font.lfStrikeOut = spec.strikethrough ? TRUE : FALSE;
+    font.lfHeight = -request.height; // negative: the height of the characters, not of their cell
+    font.lfEscapement = request.escapement;
+    font.lfOrientation = request.escapement;
+    font.lfWeight = request.bold ? FW_BOLD : FW_NORMAL;
+    font.lfItalic = request.italic ? TRUE : FALSE;
+    font.lfUnderline = request.underline ? TRUE : FALSE;
+    font.lfStrikeOut = request.strikethrough ? TRUE : FALSE;
     font.lfCharSet = DEFAULT_CHARSET;
     // A turned text needs a scalable font.
     font.lfOutPrecision = OUT_TT_PRECIS;
-    const std::size_t length = spec.name.size() < LF_FACESIZE - 1 ? spec.name.size() : LF_FACESIZE - 1;
+    const std::size_t length = request.name.size() < LF_FACESIZE - 1 ? request.name.size() : LF_FACESIZE - 1;
     for (std::size_t i = 0; i < length; ++i)
-        font.lfFaceName[i] = static_cast<wchar_t>(spec.name[i]);
+        font.lfFaceName[i] = static_cast<wchar_t>(request.name[i]);
     return CreateFontIndirectW(&font);
 }
 
 } // namespace
 
-void SelectedFont::Select(HDC context, const FontSpec& spec) {
-    if (font_ != nullptr && context == context_ && spec == spec_)
+void SelectedFont::Select(HDC context, const base::FontRequest& request) {
+    if (font_ != nullptr && context == context_ && request == request_)
         return;
     Release();
-    const HFONT font = CreateGdiFont(spec);
+    const HFONT font = CreateGdiFont(request);
     if (font == nullptr)
         base::Raise(base::RunTimeError::InvalidCall);
     const HGDIOBJ previous = SelectObject(context, font);
@@ -41,7 +41,7 @@ void SelectedFont::Select(HDC context, const FontSpec& spec) {
     context_ = context;
     font_ = font;
     previous_ = previous;
-    spec_ = spec;
+    request_ = request;
 }
 
 void SelectedFont::Release() {

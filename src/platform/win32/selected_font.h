@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/win32/font_spec.h"
+#include "base/font_request.h"
 
 #include <windows.h>
 
@@ -21,14 +21,14 @@ public:
 
     /// Releases what was selected before. A request equal to the selected font changes nothing. Error 5 when
     /// the GDI refuses.
-    void Select(HDC context, const FontSpec& spec);
+    void Select(HDC context, const base::FontRequest& request);
     void Release();
 
 private:
     HDC context_ = nullptr;
     HFONT font_ = nullptr;
     HGDIOBJ previous_ = nullptr;
-    FontSpec spec_;
+    base::FontRequest request_;
 };
 
 } // namespace platform

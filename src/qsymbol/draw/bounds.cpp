@@ -1,21 +1,16 @@
 #include "qsymbol/draw/bounds.h"
 
 #include "qmath/math_util.h"
-#include "qsymbol/geometry/draw_factors.h"
 
 #include <algorithm>
 
 namespace qsymbol {
 
-Placement SurfaceFreePlacement(const Symbol& symbol, const SymbolPosition& position, double screenFactor) {
-    return Placement({symbol.refX, symbol.refY}, position, FactorOrOne(screenFactor));
-}
-
 std::array<qmath::Point, 4> OutlineCorners(const Symbol& symbol, const SymbolPosition& position,
                                            double screenFactor) {
     std::array<qmath::Point, 4> corners{
         {{0, 0}, {symbol.width, 0}, {symbol.width, symbol.height}, {0, symbol.height}}};
-    SurfaceFreePlacement(symbol, position, screenFactor).Map(corners, corners.data());
+    SurfaceFreePlacement(Reference(symbol), position, screenFactor).Map(corners, corners.data());
     return corners;
 }
 

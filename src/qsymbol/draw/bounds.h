@@ -9,10 +9,6 @@
 
 namespace qsymbol {
 
-/// The placement that bounds, hit tests, snapping and DXF use, whatever the surface; a screen factor of 0
-/// leaves the symbol unscaled.
-Placement SurfaceFreePlacement(const Symbol& symbol, const SymbolPosition& position, double screenFactor);
-
 /// World coordinates of the outline box's corners (0, 0), (Width, 0), (Width, Height), (0, Height). Error 6.
 std::array<qmath::Point, 4> OutlineCorners(const Symbol& symbol, const SymbolPosition& position,
                                            double screenFactor);

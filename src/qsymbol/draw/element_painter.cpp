@@ -118,8 +118,8 @@ void ElementPainter::PutPen(const ElementRecord& element, bool filled) {
     }
 }
 
-FontRequest ElementPainter::FontFor(const ElementRecord& element) const {
-    FontRequest request;
+base::FontRequest ElementPainter::FontFor(const ElementRecord& element) const {
+    base::FontRequest request;
     request.escapement =
         base::RoundToLong(qmath::RadToDeg(rules_.placement.Angle() + element.textAngle) * 10.0);
     request.height = FontHeight(element);

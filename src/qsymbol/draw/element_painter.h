@@ -28,7 +28,7 @@ private:
     void PaintText(const ElementRecord& element);
     void PutPen(const ElementRecord& element, bool filled);
     std::int32_t Colour(std::int32_t own) const { return rules_.markColor >= 0 ? rules_.markColor : own; }
-    FontRequest FontFor(const ElementRecord& element) const;
+    base::FontRequest FontFor(const ElementRecord& element) const;
     std::int32_t FontHeight(const ElementRecord& element) const;
     void ToScreen(std::span<const qmath::Point> points, std::span<qmath::Point> screen) const;
 

@@ -38,8 +38,8 @@ void DrawFitted(const Symbol& symbol, Surface& surface, double boxWidth, double 
             return;
     }
     transform.SetScale(FittingScale(width, height, boxWidth, boxHeight));
-    DrawSymbol(symbol, {.at = {symbol.refX, symbol.refY}, .angle = 0}, surface,
-               PlainTransformation(transform), {.printer = 1, .screen = 1});
+    DrawSymbol(symbol, {.at = Reference(symbol), .angle = 0}, surface, PlainTransformation(transform),
+               kUnscaled);
 }
 
 } // namespace qsymbol

@@ -20,14 +20,14 @@ std::array<qmath::Point, 4> ScreenOutline(const Symbol& symbol, const SymbolPosi
 
 bool ObjIdentByPt(const Symbol& symbol, const SymbolPosition& position, double screenFactor,
                   const Transformation& transformation, qmath::Point screen) {
-    if (symbol.elements.empty())
+    if (IsEmpty(symbol))
         return false;
     return qmath::OutlineContains(ScreenOutline(symbol, position, screenFactor, transformation), screen);
 }
 
 bool ObjIdentByRect(const Symbol& symbol, const SymbolPosition& position, double screenFactor,
                     const Transformation& transformation, const qmath::Rect& screen) {
-    if (symbol.elements.empty())
+    if (IsEmpty(symbol))
         return false;
     return qmath::OutlineMeets(ScreenOutline(symbol, position, screenFactor, transformation), screen);
 }

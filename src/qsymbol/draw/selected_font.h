@@ -7,7 +7,7 @@ namespace qsymbol {
 /// A font selected into a surface for the length of a scope.
 class SelectedFont {
 public:
-    SelectedFont(Surface& surface, const FontRequest& request) : surface_(surface) {
+    SelectedFont(Surface& surface, const base::FontRequest& request) : surface_(surface) {
         surface.SelectFont(request);
     }
     ~SelectedFont() { surface_.ReleaseFont(); }

@@ -1,6 +1,6 @@
 #include "qsymbol/draw/snapping.h"
 
-#include "qsymbol/draw/bounds.h"
+#include "qsymbol/geometry/placement.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,7 +27,7 @@ std::span<const qmath::Point> Candidates(const ElementRecord& element) {
 std::optional<CaughtPoint> CatchPt(const Symbol& symbol, const SymbolPosition& position, double screenFactor,
                                    const Transformation& transformation, float x, float y,
                                    std::int16_t range) {
-    const Placement placement = SurfaceFreePlacement(symbol, position, screenFactor);
+    const Placement placement = SurfaceFreePlacement(Reference(symbol), position, screenFactor);
     for (const ElementRecord& element : symbol.elements) {
         for (const qmath::Point candidate : Candidates(element)) {
             const qmath::Point world = placement.Map(candidate);

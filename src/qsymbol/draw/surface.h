@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/font_request.h"
 #include "qmath/point.h"
 #include "qmath/rect.h"
-#include "qsymbol/draw/font_request.h"
 
 #include <cstdint>
 #include <span>
@@ -58,7 +58,7 @@ public:
     virtual void WriteTextAsPath(qmath::Point anchor, std::u16string_view text) = 0;
 
     /// Creates the font and selects it into the device context.
-    virtual void SelectFont(const FontRequest& request) = 0;
+    virtual void SelectFont(const base::FontRequest& request) = 0;
     /// Selects the previous font back and deletes the created one.
     virtual void ReleaseFont() noexcept = 0;
 };

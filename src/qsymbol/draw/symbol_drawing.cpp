@@ -8,14 +8,13 @@ namespace qsymbol {
 
 void DrawSymbol(const Symbol& symbol, const SymbolPosition& position, Surface& surface,
                 const Transformation& transformation, const DrawFactors& factors, std::int32_t markColor) {
-    LastDrawFactors() = factors;
     // The surface is asked even when there is nothing to draw: a host's error in it shows either way.
     const bool copyMode = surface.DrawMode() == kDrawModeCopy;
     const SurfaceFactors surfaceFactors = FactorsFor(surface, factors);
-    if (symbol.elements.empty())
+    if (IsEmpty(symbol))
         return;
 
-    const Placement placement({symbol.refX, symbol.refY}, position, surfaceFactors.geometry);
+    const Placement placement(Reference(symbol), position, surfaceFactors.geometry);
     ElementPainter painter(surface, transformation,
                            {.source = PaintSource::SymbolRecord,
                             .placement = placement,

@@ -10,7 +10,7 @@
 
 namespace qsymbol {
 
-/// Draws a placed symbol and keeps the factors as the last ones, also when there is nothing to draw.
+/// Draws a placed symbol.
 ///
 /// A mark colour that is not negative replaces the colours of all elements, fills included. Errors of surface
 /// and transformation pass through; error 6 where a coordinate leaves the 32-bit range.

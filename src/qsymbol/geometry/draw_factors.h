@@ -10,8 +10,8 @@ struct DrawFactors {
     friend bool operator==(const DrawFactors&, const DrawFactors&) = default;
 };
 
-/// The factors of the last symbol drawing of the process; bounds, hit tests, snapping and DXF follow them.
-DrawFactors& LastDrawFactors();
+/// What previews and placing tools draw with.
+inline constexpr DrawFactors kUnscaled{.printer = 1, .screen = 1};
 
 /// A factor for which 0 means unscaled.
 constexpr double FactorOrOne(double factor) {

@@ -2,6 +2,7 @@
 
 #include "base/checked.h"
 #include "qmath/point.h"
+#include "qsymbol/geometry/draw_factors.h"
 #include "qsymbol/geometry/symbol_position.h"
 
 #include <cstdint>
@@ -43,5 +44,12 @@ private:
     double angle_ = 0;
     double factor_ = 1;
 };
+
+/// The placement that bounds, hit tests, snapping and DXF use, whatever the surface; a screen factor of 0
+/// leaves the symbol unscaled.
+inline Placement SurfaceFreePlacement(qmath::Point reference, const SymbolPosition& position,
+                                      double screenFactor) {
+    return Placement(reference, position, FactorOrOne(screenFactor));
+}
 
 } // namespace qsymbol

@@ -21,6 +21,16 @@ struct Symbol {
     friend bool operator==(const Symbol&, const Symbol&) = default;
 };
 
+/// The insertion point in the symbol's own coordinates.
+inline qmath::Point Reference(const Symbol& symbol) {
+    return {symbol.refX, symbol.refY};
+}
+
+/// A symbol without elements: it draws and exports nothing and is never hit, wherever it is placed.
+inline bool IsEmpty(const Symbol& symbol) {
+    return symbol.elements.empty();
+}
+
 /// The file's name without folder and extension; "" without a path.
 std::u16string Name(const Symbol& symbol);
 

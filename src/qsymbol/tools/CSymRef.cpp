@@ -27,10 +27,9 @@ SymbolPosition CSymRef::GetAbsoluteData(const SymbolPosition& object) const {
     return {{base::RoundToLong(object.at.x + x), base::RoundToLong(object.at.y + y)}, object.angle + angle_};
 }
 
-void CSymRef::Draw(const SymbolPosition& object, Surface& surface,
-                   const Transformation& transformation) const {
+void CSymRef::Draw(const SymbolPosition& object, DrawingTarget& target) const {
     if (symbol_ != nullptr)
-        symbol_->Draw(GetAbsoluteData(object), surface, transformation);
+        symbol_->Draw(GetAbsoluteData(object), target);
 }
 
 } // namespace qsymbol

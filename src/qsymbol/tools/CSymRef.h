@@ -27,7 +27,7 @@ public:
     /// Where the symbol stands when the object stands at the given place. Error 6 outside 32 bits.
     SymbolPosition GetAbsoluteData(const SymbolPosition& object) const;
     /// Draws the symbol for an object at the given place; nothing without a symbol.
-    void Draw(const SymbolPosition& object, Surface& surface, const Transformation& transformation) const;
+    void Draw(const SymbolPosition& object, DrawingTarget& target) const;
 
 private:
     std::int32_t objectId_ = 0;

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "qsymbol/draw/surface.h"
 #include "qsymbol/geometry/symbol_position.h"
-#include "qsymbol/geometry/transformation.h"
+#include "qsymbol/tools/drawing_target.h"
 
 #include <memory>
 
@@ -15,8 +14,7 @@ public:
     virtual ~DrawableSymbol() = default;
 
     /// Draws the symbol at the place, in its own colours and unscaled. Errors pass through.
-    virtual void Draw(const SymbolPosition& place, Surface& surface,
-                      const Transformation& transformation) const = 0;
+    virtual void Draw(const SymbolPosition& place, DrawingTarget& target) const = 0;
     /// A symbol of its own with path, reference point and elements; its size is 0.
     virtual std::shared_ptr<const DrawableSymbol> Copy() const = 0;
 };

@@ -5,6 +5,10 @@
 
 namespace qsymbol {
 
+/// What a host handed over with one event, as its own objects. Defined by whoever makes targets, for the
+/// symbols of the same maker; the tools pass it on and know nothing of it.
+struct HostObjects;
+
 /// Contract: the surface and the transformation that a host hands over with one event.
 ///
 /// A tool opens each when it first needs it, so an event that it ignores touches neither. What is opened
@@ -15,6 +19,8 @@ public:
 
     virtual Surface& OpenSurface() = 0;
     virtual const Transformation& OpenTransformation() = 0;
+    /// For a symbol that draws in its own way.
+    virtual const HostObjects& Host() = 0;
 };
 
 } // namespace qsymbol

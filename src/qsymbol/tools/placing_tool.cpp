@@ -24,7 +24,7 @@ void PlacingTool::Draw(DrawingTarget& target) const {
         transformation.WorldToScreen(to);
         surface.Line(from, to);
     }
-    DrawImage(place, surface, transformation);
+    DrawImage(place, target);
 }
 
 void PlacingTool::MouseMove(ScreenPosition mouse, DrawingTarget& target) {

@@ -50,8 +50,7 @@ protected:
     PlacingTool() = default;
 
     virtual bool HasImage() const = 0;
-    virtual void DrawImage(const SymbolPosition& place, Surface& surface,
-                           const Transformation& transformation) const = 0;
+    virtual void DrawImage(const SymbolPosition& place, DrawingTarget& target) const = 0;
 
     /// The world point below the mouse. Error 6 for a pixel outside 32 bits.
     static qmath::Point WorldPoint(ScreenPosition mouse, DrawingTarget& target);

@@ -49,10 +49,9 @@ void SymbolInput::MouseDown(ScreenPosition mouse, DrawingTarget& target) {
     Fix();
 }
 
-void SymbolInput::DrawImage(const SymbolPosition& place, Surface& surface,
-                            const Transformation& transformation) const {
+void SymbolInput::DrawImage(const SymbolPosition& place, DrawingTarget& target) const {
     const std::shared_ptr<const DrawableSymbol> symbol = symbol_;
-    symbol->Draw(place, surface, transformation);
+    symbol->Draw(place, target);
 }
 
 } // namespace qsymbol

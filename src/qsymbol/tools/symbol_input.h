@@ -32,8 +32,7 @@ public:
 
 private:
     bool HasImage() const override { return symbol_ != nullptr; }
-    void DrawImage(const SymbolPosition& place, Surface& surface,
-                   const Transformation& transformation) const override;
+    void DrawImage(const SymbolPosition& place, DrawingTarget& target) const override;
 
     std::shared_ptr<const DrawableSymbol> symbol_;
 };

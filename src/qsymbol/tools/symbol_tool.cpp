@@ -106,13 +106,12 @@ std::optional<SymbolPosition> SymbolTool::GetSymrefDataByPos(std::int32_t positi
     return Found(references_.ItemByPos(position)).GetAbsoluteData({*Position(), Angle()});
 }
 
-void SymbolTool::DrawImage(const SymbolPosition& place, Surface& surface,
-                           const Transformation& transformation) const {
+void SymbolTool::DrawImage(const SymbolPosition& place, DrawingTarget& target) const {
     std::uint64_t last = 0;
     while (const auto* const item = references_.Items().NextAfter(last)) {
         last = item->serial;
         const CSymRefColl::Reference reference = item->value;
-        reference->Draw(place, surface, transformation);
+        reference->Draw(place, target);
     }
 }
 

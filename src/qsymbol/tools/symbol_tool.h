@@ -46,8 +46,7 @@ public:
 
 private:
     bool HasImage() const override { return true; }
-    void DrawImage(const SymbolPosition& place, Surface& surface,
-                   const Transformation& transformation) const override;
+    void DrawImage(const SymbolPosition& place, DrawingTarget& target) const override;
     /// The angle after a key; nothing for a key that is ignored.
     std::optional<double> AngleAfter(std::int16_t keyCode) const;
 

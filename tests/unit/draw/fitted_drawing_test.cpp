@@ -1,7 +1,6 @@
 #include "qsymbol/draw/fitted_drawing.h"
 
 #include "qsymbol/draw/symbol_extent.h"
-#include "qsymbol/geometry/draw_factors.h"
 #include "support/elements.h"
 #include "support/error_number_of.h"
 #include "support/recording_surface.h"
@@ -93,8 +92,6 @@ TEST(FittedDrawing, OwnColoursAndBothFactorsOne) {
     qsymbol::DrawFitted(Diagonal(1000, 500), surface, 100, 100);
     EXPECT_EQ(surface.calls, (Calls{"DrawMode?", "Kind?", "Name?", "ForeColor=11", "DrawWidth=2",
                                     "DrawStyle=0", "FillColor=0", "FillStyle=1", "Polyline (0,0) (100,50)"}));
-    EXPECT_EQ(qsymbol::LastDrawFactors(), (qsymbol::DrawFactors{.printer = 1, .screen = 1}));
-    qsymbol::LastDrawFactors() = {};
 }
 
 TEST(FittedDrawing, AHostsErrorPasses) {

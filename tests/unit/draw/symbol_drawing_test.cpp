@@ -96,21 +96,6 @@ TEST(SymbolDrawing, AsksTheSurfaceFirst) {
     EXPECT_EQ(surface.Take(), (Calls{"DrawMode?", "Kind?"}));
 }
 
-TEST(SymbolDrawing, KeepsTheFactorsEvenWhenNothingIsDrawn) {
-    RecordingSurface surface;
-    qsymbol::DrawSymbol(SymbolOf({}), kAt, surface, support::ScaledTransformation(10),
-                        {.printer = 3, .screen = 4});
-    EXPECT_EQ(qsymbol::LastDrawFactors(), (qsymbol::DrawFactors{.printer = 3, .screen = 4}));
-    surface.failing = "DrawMode?";
-    EXPECT_EQ(support::ErrorNumberOf([&] {
-                  qsymbol::DrawSymbol(SymbolOf({}), kAt, surface, support::ScaledTransformation(10),
-                                      {.printer = 5, .screen = 6});
-              }),
-              438);
-    EXPECT_EQ(qsymbol::LastDrawFactors(), (qsymbol::DrawFactors{.printer = 5, .screen = 6}));
-    qsymbol::LastDrawFactors() = {};
-}
-
 TEST(SymbolDrawing, MarkColour) {
     RecordingSurface surface;
     const Symbol symbol = SymbolOf({Poly({{100, 200}, {200, 200}, {200, 300}}, true, 77),

@@ -55,8 +55,7 @@ TEST_F(PlacingTool, AnInputWithoutASymbolTakesPartInEverythingButDrawing) {
 /// A symbol that does something while it is drawn, as a host's control may.
 class BusySymbol final : public qsymbol::DrawableSymbol {
 public:
-    void Draw(const qsymbol::SymbolPosition&, qsymbol::Surface&,
-              const qsymbol::Transformation&) const override {
+    void Draw(const qsymbol::SymbolPosition&, qsymbol::DrawingTarget&) const override {
         ++drawn;
         if (const auto action = std::exchange(whenDrawn, nullptr))
             action();

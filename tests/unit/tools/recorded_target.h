@@ -4,6 +4,9 @@
 #include "support/recording_surface.h"
 #include "support/scaled_transformation.h"
 
+/// Here there is no host.
+struct qsymbol::HostObjects {};
+
 namespace tools {
 
 /// One event on a recording surface, a scale of world units to the pixel, no offset.
@@ -20,6 +23,7 @@ public:
         ++transformationsOpened;
         return transformation_;
     }
+    const qsymbol::HostObjects& Host() override { return nothing_; }
 
     int surfacesOpened = 0;
     int transformationsOpened = 0;
@@ -27,6 +31,7 @@ public:
 private:
     support::RecordingSurface& surface_;
     qsymbol::PlainTransformation transformation_;
+    qsymbol::HostObjects nothing_;
 };
 
 } // namespace tools

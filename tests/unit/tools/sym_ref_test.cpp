@@ -4,7 +4,7 @@
 #include "support/elements.h"
 #include "support/error_number_of.h"
 #include "support/recording_surface.h"
-#include "support/scaled_transformation.h"
+#include "unit/tools/recorded_target.h"
 #include "unit/tools/value_symbol.h"
 
 #include <gtest/gtest.h>
@@ -104,11 +104,11 @@ TEST(CSymRef, CopyHasASymbolOfItsOwnWithoutItsSize) {
 
 TEST(CSymRef, DrawsItsSymbolAtTheAbsolutePlace) {
     support::RecordingSurface surface;
-    const qsymbol::PlainTransformation transformation = support::ScaledTransformation(10);
+    tools::RecordedTarget target(surface, 10);
     const SymbolPosition object{{1000, 2000}, 0};
-    Reference(1, {100, 0}, 0).Draw(object, surface, transformation);
+    Reference(1, {100, 0}, 0).Draw(object, target);
     EXPECT_EQ(surface.Take(), support::Calls{}); // no symbol
-    Reference(1, {100, 0}, qmath::kPi / 2, Chair()).Draw(object, surface, transformation);
+    Reference(1, {100, 0}, qmath::kPi / 2, Chair()).Draw(object, target);
     EXPECT_EQ(surface.calls.back(), "Polyline (110,200) (110,190)");
 }
 

@@ -12,9 +12,9 @@ class ValueSymbol final : public qsymbol::DrawableSymbol {
 public:
     explicit ValueSymbol(qsymbol::Symbol symbol) : value(std::move(symbol)) {}
 
-    void Draw(const qsymbol::SymbolPosition& place, qsymbol::Surface& surface,
-              const qsymbol::Transformation& transformation) const override {
-        qsymbol::DrawSymbol(value, place, surface, transformation, {.printer = 1, .screen = 1});
+    void Draw(const qsymbol::SymbolPosition& place, qsymbol::DrawingTarget& target) const override {
+        qsymbol::DrawSymbol(value, place, target.OpenSurface(), target.OpenTransformation(),
+                            qsymbol::kUnscaled);
     }
     std::shared_ptr<const DrawableSymbol> Copy() const override {
         qsymbol::Symbol copy;

@@ -1,7 +1,6 @@
 #include "qsymbol/export/dxf_export.h"
 
 #include "platform/posix/posix_file_system.h"
-#include "qsymbol/geometry/draw_factors.h"
 #include "support/caught.h"
 #include "support/memory_file_system.h"
 #include "support/sample_symbols.h"
@@ -29,16 +28,12 @@ using support::Expected;
 
 class DxfExport : public testing::Test {
 protected:
-    void SetUp() override {
-        qsymbol::LastDrawFactors() = {};
-        memory_.folders.insert(u"plan");
-    }
-    void TearDown() override { qsymbol::LastDrawFactors() = {}; }
+    void SetUp() override { memory_.folders.insert(u"plan"); }
 
     std::unique_ptr<base::File> Append(const Symbol& symbol) { return Append(symbol, memory_, kPath); }
     std::unique_ptr<base::File> Append(const Symbol& symbol, base::FileSystem& files,
                                        const std::u16string& path) {
-        return qsymbol::AppendToDxfFile(symbol, kPosition, path, files, codePage_);
+        return qsymbol::AppendToDxfFile(symbol, kPosition, factor_, path, files, codePage_);
     }
     support::Caught Error(const Symbol& symbol) {
         return CaughtFrom([&] { Append(symbol); });
@@ -47,6 +42,7 @@ protected:
         return CaughtFrom([&] { Append(support::WashRoom(), disk_, path); });
     }
 
+    double factor_ = 0;
     const std::u16string kPath = u"plan\\a.dxf";
     const SymbolPosition kPosition{.at = {12345, 6789}, .angle = 0.5};
     const std::string kHead = "  0\r\nSECTION\r\n";
@@ -70,17 +66,11 @@ TEST_F(DxfExport, MakesAFileThatIsMissing) {
     EXPECT_EQ(memory_.files[kPath], Export(support::WashRoom(), kPosition));
 }
 
-TEST_F(DxfExport, FollowsTheScreenFactorOfTheLastDrawing) {
-    qsymbol::LastDrawFactors() = {.printer = 7, .screen = 2.5};
+TEST_F(DxfExport, FollowsTheScreenFactor) {
+    factor_ = 2.5;
     Append(support::WashRoom());
     EXPECT_EQ(memory_.files[kPath], Export(support::WashRoom(), kPosition, 2.5));
     EXPECT_NE(memory_.files[kPath], Export(support::WashRoom(), kPosition));
-}
-
-TEST_F(DxfExport, AFactorOfZeroDoesNotScale) {
-    qsymbol::LastDrawFactors() = {.printer = 7, .screen = 0};
-    Append(support::WashRoom());
-    EXPECT_EQ(memory_.files[kPath], Export(support::WashRoom(), kPosition));
 }
 
 TEST_F(DxfExport, ASymbolWithoutElementsLeavesTheFileOpen) {

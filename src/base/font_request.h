@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <string>
 
-namespace qsymbol {
+namespace base {
 
-/// The font that a text needs on a surface.
+/// The font that a text needs on a device.
 struct FontRequest {
-    std::int32_t height = 1;     ///< character height in pixels
+    std::int32_t height = 1;     ///< character height in pixels, without internal leading
     std::int32_t escapement = 0; ///< tenths of a degree, counter-clockwise
     bool bold = false;
     bool italic = false;
@@ -18,4 +18,4 @@ struct FontRequest {
     friend bool operator==(const FontRequest&, const FontRequest&) = default;
 };
 
-} // namespace qsymbol
+} // namespace base
