@@ -1,5 +1,6 @@
 #include "bench/plan_symbols.h"
 #include "bench/processor_time.h"
+#include "qsymbol/files/symbol_format.h"
 #include "qsymbol/files/text_reader.h"
 #include "qsymbol/files/text_writer.h"
 #include "qsymbol/files/wsc_reader.h"
@@ -118,7 +119,7 @@ const std::string& Import(bool decimals) {
     return decimals ? fractions : whole;
 }
 
-using Parse = void (*)(qsymbol::Symbol&, std::string_view, const qsymbol::FileEnvironment&);
+using Parse = decltype(qsymbol::SymbolFormat::parse);
 
 /// Processor seconds of one reading.
 double Read(Parse parse, const std::string& bytes) {

@@ -1,6 +1,5 @@
 #include "qsymbol/files/binary_reader.h"
 
-#include "base/whole_file.h"
 #include "qsymbol/files/binary_format.h"
 #include "qsymbol/files/binary_input.h"
 #include "qsymbol/files/library_error.h"
@@ -21,8 +20,8 @@ std::uint32_t CountOf(std::int32_t lastIndex) {
 
 class BinaryReader {
 public:
-    BinaryReader(std::string_view bytes, const FileEnvironment& environment)
-        : input_(bytes), budget_(bytes.size()), environment_(environment) {}
+    BinaryReader(std::string_view bytes, const FormatRules& rules)
+        : input_(bytes), budget_(bytes.size()), rules_(rules) {}
 
     void Read(Symbol& symbol) {
         ReadTag();
@@ -44,7 +43,7 @@ private:
     void ReadTag() {
         const std::size_t length = input_.U16();
         if (length != binary_format::kTag.size() || input_.Take(length) != binary_format::kTag)
-            Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromBinFile", environment_.strings);
+            Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromBinFile", rules_.strings);
     }
 
     void ReadElement(ElementRecord& element) {
@@ -93,24 +92,19 @@ private:
         if (bytes.empty())
             text.clear();
         else
-            text = environment_.codePage.Decode(bytes);
+            text = rules_.codePage.Decode(bytes);
     }
 
     BinaryInput input_;
     MemoryBudget budget_;
-    const FileEnvironment& environment_;
+    const FormatRules& rules_;
 };
 
 } // namespace
 
-void ReadFromBinFile(Symbol& symbol, const FileEnvironment& environment) {
-    ResetContent(symbol);
-    ParseBinary(symbol, base::ReadWholeFile(environment.files, symbol.filePath), environment);
-}
-
-void ParseBinary(Symbol& symbol, std::string_view bytes, const FileEnvironment& environment) {
-    ResetContent(symbol);
-    BinaryReader(bytes, environment).Read(symbol);
+std::u16string ParseBinary(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {
+    BinaryReader(bytes, rules).Read(symbol);
+    return {};
 }
 
 } // namespace qsymbol

@@ -1,20 +1,19 @@
 #pragma once
 
-#include "qsymbol/files/file_environment.h"
+#include "qsymbol/files/format_rules.h"
 #include "qsymbol/model/symbol.h"
 
+#include <string>
 #include <string_view>
 
 namespace qsymbol {
 
-/// Fills the symbol from the binary file at its path. Errors of FileSystem::Open and of ParseBinary.
-void ReadFromBinFile(Symbol& symbol, const FileEnvironment& environment);
-
-/// Fills the symbol from a binary file's bytes; what lies behind the last element is not looked at.
+/// Fills a symbol without content from a binary file's bytes; what lies behind the last element is not looked
+/// at. Never a notice.
 ///
 /// Error 3501 (source "CSymbol.ReadFromBinFile") without the tag, 62 when the bytes end too early, 9 for a
 /// last element or point index that makes no list, 7 past the memory bound. The symbol then holds what was
 /// read.
-void ParseBinary(Symbol& symbol, std::string_view bytes, const FileEnvironment& environment);
+std::u16string ParseBinary(Symbol& symbol, std::string_view bytes, const FormatRules& rules);
 
 } // namespace qsymbol

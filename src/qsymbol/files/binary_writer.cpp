@@ -1,8 +1,6 @@
 #include "qsymbol/files/binary_writer.h"
 
-#include "base/whole_file.h"
 #include "qsymbol/files/binary_output.h"
-#include "qsymbol/files/overwrite_question.h"
 
 namespace qsymbol {
 
@@ -45,14 +43,7 @@ void PutElement(BinaryOutput& output, const ElementRecord& element, const base::
 
 } // namespace
 
-void Write2BinFile(const Symbol& symbol, const FileEnvironment& environment) {
-    if (!MayOverwrite(symbol.filePath, environment))
-        return;
-    base::WriteWholeFile(environment.files, symbol.filePath, base::OpenMode::Overlay,
-                         ComposeBinary(symbol, environment));
-}
-
-std::string ComposeBinary(const Symbol& symbol, const FileEnvironment& environment) {
+std::string ComposeBinary(const Symbol& symbol, const FormatRules& rules) {
     BinaryOutput output;
     output.String(binary_format::kTag);
     output.I32(symbol.width);
@@ -61,7 +52,7 @@ std::string ComposeBinary(const Symbol& symbol, const FileEnvironment& environme
     output.I32(symbol.refY);
     output.I32(LastIndex(symbol.elements.size()));
     for (const ElementRecord& element : symbol.elements)
-        PutElement(output, element, environment.codePage);
+        PutElement(output, element, rules.codePage);
     return output.Release();
 }
 

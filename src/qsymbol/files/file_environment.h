@@ -1,10 +1,8 @@
 #pragma once
 
-#include "base/code_page.h"
 #include "base/file_system.h"
-#include "base/regional_settings.h"
-#include "messages/resource_strings.h"
 #include "messages/user_prompt.h"
+#include "qsymbol/files/format_rules.h"
 
 namespace qsymbol {
 
@@ -15,6 +13,9 @@ struct FileEnvironment {
     base::RegionalSettings regional;
     const messages::ResourceStrings& strings;
     messages::UserPrompt& prompt;
+
+    /// What the formats need of it; valid as long as the environment.
+    operator FormatRules() const { return {codePage, regional, strings}; } // NOLINT: it is a part of it
 };
 
 } // namespace qsymbol

@@ -1,55 +1,61 @@
 #include "qsymbol/files/symbol_file.h"
 
-#include "base/letter_case.h"
-#include "qmath/str_util.h"
-#include "qsymbol/files/binary_reader.h"
-#include "qsymbol/files/binary_writer.h"
+#include "base/whole_file.h"
 #include "qsymbol/files/library_error.h"
-#include "qsymbol/files/text_reader.h"
-#include "qsymbol/files/text_writer.h"
-#include "qsymbol/files/wsc_reader.h"
-
-#include <array>
+#include "qsymbol/files/symbol_format.h"
 
 namespace qsymbol {
 
 namespace {
 
-struct Format {
-    std::u16string_view extension;
-    void (*read)(Symbol&, const FileEnvironment&);
-    void (*write)(const Symbol&, const FileEnvironment&); ///< nullptr: import only
-};
+const SymbolFormat& ReadableFormat(std::u16string_view path, const FormatRules& rules) {
+    const SymbolFormat* const format = FormatOf(path);
+    if (format == nullptr)
+        Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromFile", rules.strings);
+    return *format;
+}
 
-constexpr std::array kFormats = {
-    Format{u"syt", ReadFromTxtFile, Write2TxtFile},
-    Format{u"wsc", ReadFromWSCFile, nullptr},
-    Format{u"syb", ReadFromBinFile, Write2BinFile},
-};
+const SymbolFormat& WritableFormat(std::u16string_view path, const FormatRules& rules) {
+    const SymbolFormat* const format = FormatOf(path);
+    if (format == nullptr || format->compose == nullptr)
+        Raise(LibraryError::InvalidExtension, u"CSymbol.Write2File", rules.strings);
+    return *format;
+}
 
-/// The format of a path's extension in any case; nullptr for an unknown one.
-const Format* FormatOf(std::u16string_view path) {
-    const std::u16string extension = base::LowerCase(qmath::GetExtension(path));
-    for (const Format& format : kFormats)
-        if (format.extension == extension)
-            return &format;
-    return nullptr;
+/// True when a writer may go on: there is no file of that path, or the user says Yes to overwriting it.
+bool MayOverwrite(const std::u16string& path, const FileEnvironment& environment) {
+    if (!environment.files.FileExists(path))
+        return true;
+    const std::u16string question = u"Datei " + path + u" existiert schon. Soll sie überschrieben werden ?";
+    return environment.prompt.AskYesNo(question, u"Symboleditor");
 }
 
 } // namespace
 
 void ReadFromFile(Symbol& symbol, const FileEnvironment& environment) {
-    const Format* const format = FormatOf(symbol.filePath);
-    if (format == nullptr)
-        Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromFile", environment.strings);
-    format->read(symbol, environment);
+    const SymbolFormat& format = ReadableFormat(symbol.filePath, environment);
+    ResetContent(symbol);
+    const std::u16string notice =
+        format.parse(symbol, base::ReadWholeFile(environment.files, symbol.filePath), environment);
+    if (!notice.empty())
+        environment.prompt.Notice(notice);
 }
 
 void Write2File(const Symbol& symbol, const FileEnvironment& environment) {
-    const Format* const format = FormatOf(symbol.filePath);
-    if (format == nullptr || format->write == nullptr)
-        Raise(LibraryError::InvalidExtension, u"CSymbol.Write2File", environment.strings);
-    format->write(symbol, environment);
+    const SymbolFormat& format = WritableFormat(symbol.filePath, environment);
+    if (MayOverwrite(symbol.filePath, environment))
+        base::WriteWholeFile(environment.files, symbol.filePath, format.open,
+                             format.compose(symbol, environment));
+}
+
+std::u16string DecodeSymbol(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {
+    const SymbolFormat& format = ReadableFormat(symbol.filePath, rules);
+    ResetContent(symbol);
+    return format.parse(symbol, bytes, rules);
+}
+
+std::string EncodeSymbol(const Symbol& symbol, std::u16string_view path, const FormatRules& rules) {
+    return WritableFormat(path, rules).compose(symbol, rules);
 }
 
 } // namespace qsymbol

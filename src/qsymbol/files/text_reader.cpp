@@ -2,7 +2,6 @@
 
 #include "base/error.h"
 #include "base/number_reader.h"
-#include "base/whole_file.h"
 #include "qsymbol/files/field_cursor.h"
 #include "qsymbol/files/library_error.h"
 #include "qsymbol/files/line_cursor.h"
@@ -20,9 +19,9 @@ using text_format::Key;
 
 class TextReader {
 public:
-    TextReader(Symbol& symbol, std::size_t fileSize, const FileEnvironment& environment)
-        : symbol_(symbol), environment_(environment), numbers_(environment.regional), budget_(fileSize),
-          fields_(numbers_, environment.codePage, budget_) {}
+    TextReader(Symbol& symbol, std::size_t fileSize, const FormatRules& rules)
+        : symbol_(symbol), rules_(rules), numbers_(rules.regional), budget_(fileSize),
+          fields_(numbers_, rules.codePage, budget_) {}
 
     void Read(std::string_view bytes) {
         LineCursor lines(bytes);
@@ -45,7 +44,7 @@ public:
 
 private:
     [[noreturn]] void Refuse(LibraryError number) const {
-        Raise(number, u"CSymbol.ReadFromTxtFile", environment_.strings);
+        Raise(number, u"CSymbol.ReadFromTxtFile", rules_.strings);
     }
 
     void ReadHeader(std::string_view type, std::string_view line, FieldCursor& fields) {
@@ -117,7 +116,7 @@ private:
             text.remove_prefix(1);
         if (text.ends_with('"'))
             text.remove_suffix(1);
-        element.text += environment_.codePage.Decode(text);
+        element.text += rules_.codePage.Decode(text);
     }
 
     void OpenElement(std::string_view type, FieldCursor& fields) {
@@ -159,7 +158,7 @@ private:
     }
 
     Symbol& symbol_;
-    const FileEnvironment& environment_;
+    const FormatRules& rules_;
     base::NumberReader numbers_;
     MemoryBudget budget_;
     TextElementFields fields_;
@@ -171,14 +170,9 @@ private:
 
 } // namespace
 
-void ReadFromTxtFile(Symbol& symbol, const FileEnvironment& environment) {
-    ResetContent(symbol);
-    ParseText(symbol, base::ReadWholeFile(environment.files, symbol.filePath), environment);
-}
-
-void ParseText(Symbol& symbol, std::string_view bytes, const FileEnvironment& environment) {
-    ResetContent(symbol);
-    TextReader(symbol, bytes.size(), environment).Read(bytes);
+std::u16string ParseText(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {
+    TextReader(symbol, bytes.size(), rules).Read(bytes);
+    return {};
 }
 
 } // namespace qsymbol

@@ -2,9 +2,7 @@
 
 #include "base/checked.h"
 #include "base/number_format.h"
-#include "base/whole_file.h"
 #include "qmath/math_util.h"
-#include "qsymbol/files/overwrite_question.h"
 #include "qsymbol/files/text_format.h"
 
 #include <utility>
@@ -15,8 +13,8 @@ namespace {
 
 class TextWriter {
 public:
-    explicit TextWriter(const FileEnvironment& environment)
-        : codePage_(environment.codePage), decimal_(environment.regional.decimal) {}
+    explicit TextWriter(const FormatRules& rules)
+        : codePage_(rules.codePage), decimal_(rules.regional.decimal) {}
 
     std::string Compose(const Symbol& symbol) {
         out_ += text_format::kHeader;
@@ -156,15 +154,8 @@ private:
 
 } // namespace
 
-void Write2TxtFile(const Symbol& symbol, const FileEnvironment& environment) {
-    if (!MayOverwrite(symbol.filePath, environment))
-        return;
-    base::WriteWholeFile(environment.files, symbol.filePath, base::OpenMode::Replace,
-                         ComposeText(symbol, environment));
-}
-
-std::string ComposeText(const Symbol& symbol, const FileEnvironment& environment) {
-    return TextWriter(environment).Compose(symbol);
+std::string ComposeText(const Symbol& symbol, const FormatRules& rules) {
+    return TextWriter(rules).Compose(symbol);
 }
 
 } // namespace qsymbol

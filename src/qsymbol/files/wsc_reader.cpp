@@ -1,7 +1,6 @@
 #include "qsymbol/files/wsc_reader.h"
 
 #include "base/error.h"
-#include "base/whole_file.h"
 #include "qsymbol/files/library_error.h"
 #include "qsymbol/files/line_cursor.h"
 #include "qsymbol/files/memory_budget.h"
@@ -20,22 +19,21 @@ namespace {
 /// The pass that reads; the survey has seen every line before.
 class WscReader {
 public:
-    WscReader(Symbol& symbol, std::string_view bytes, const FileEnvironment& environment)
-        : symbol_(symbol), bytes_(bytes), environment_(environment), numbers_(environment.regional),
-          budget_(bytes.size()), figures_(symbol, numbers_, budget_) {}
+    WscReader(Symbol& symbol, std::string_view bytes, const FormatRules& rules)
+        : symbol_(symbol), bytes_(bytes), rules_(rules), numbers_(rules.regional), budget_(bytes.size()),
+          figures_(symbol, numbers_, budget_) {}
 
-    void Read(std::size_t figureCount) {
+    /// False at an elliptic arc, which ends the import.
+    bool Read(std::size_t figureCount) {
         LineCursor lines(bytes_);
         std::string_view line;
         while (lines.Next(line) && line.empty()) {
         }
         ReadHeader(line, figureCount);
-        while (lines.Next(line)) {
-            if (!ReadLine(line)) {
-                environment_.prompt.Notice(u"Ellipsenbögen können nicht verarbeitet werden --> Abbruch");
-                return;
-            }
-        }
+        while (lines.Next(line))
+            if (!ReadLine(line))
+                return false;
+        return true;
     }
 
 private:
@@ -47,7 +45,7 @@ private:
         const bool header = wsc_format::KeywordOf(field) == Keyword::Header &&
                             WscFields::Count(line) == wsc_format::kHeaderFields;
         if (!header && !line.empty())
-            Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromWSCFile", environment_.strings);
+            Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromWSCFile", rules_.strings);
         SizeElements(figureCount);
         fields.Next(field);
         symbol_.width = numbers_.Whole(field);
@@ -90,7 +88,7 @@ private:
 
     Symbol& symbol_;
     std::string_view bytes_;
-    const FileEnvironment& environment_;
+    const FormatRules& rules_;
     WscNumbers numbers_;
     MemoryBudget budget_;
     WscFigures figures_;
@@ -98,20 +96,13 @@ private:
 
 } // namespace
 
-void ReadFromWSCFile(Symbol& symbol, const FileEnvironment& environment) {
-    ResetContent(symbol);
-    ParseWsc(symbol, base::ReadWholeFile(environment.files, symbol.filePath), environment);
-}
-
-void ParseWsc(Symbol& symbol, std::string_view bytes, const FileEnvironment& environment) {
-    ResetContent(symbol);
+std::u16string ParseWsc(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {
     const WscSurvey survey = SurveyWsc(bytes);
-    if (survey.unknown) {
-        environment.prompt.Notice(u"Folgende Zeile kann nicht verarbeitet werden: " +
-                                  environment.codePage.Decode(*survey.unknown) + u" --> Abbruch");
-        return;
-    }
-    WscReader(symbol, bytes, environment).Read(survey.figures);
+    if (survey.unknown)
+        return u"Folgende Zeile kann nicht verarbeitet werden: " + rules.codePage.Decode(*survey.unknown) +
+               u" --> Abbruch";
+    const bool whole = WscReader(symbol, bytes, rules).Read(survey.figures);
+    return whole ? u"" : u"Ellipsenbögen können nicht verarbeitet werden --> Abbruch";
 }
 
 } // namespace qsymbol

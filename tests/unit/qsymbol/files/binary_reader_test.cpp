@@ -47,7 +47,7 @@ protected:
     Symbol symbol_;
 
     Caught Parse(std::string_view bytes) {
-        return support::CaughtFrom([&] { ParseBinary(symbol_, bytes, world_.InMemory()); });
+        return support::CaughtFrom([&] { world_.Parse(qsymbol::ParseBinary, symbol_, bytes); });
     }
     Caught Parse(const std::function<void(BinaryOutput&)>& put) {
         BinaryOutput out;

@@ -1,5 +1,6 @@
 #include "qsymbol/files/binary_reader.h"
 #include "qsymbol/files/binary_writer.h"
+#include "qsymbol/files/symbol_format.h"
 #include "qsymbol/files/text_reader.h"
 #include "qsymbol/files/text_writer.h"
 #include "qsymbol/files/wsc_reader.h"
@@ -16,7 +17,7 @@ namespace {
 using qsymbol::Symbol;
 using support::AllocationCounter;
 
-using Parse = void (*)(Symbol&, std::string_view, const qsymbol::FileEnvironment&);
+using Parse = decltype(qsymbol::SymbolFormat::parse);
 
 /// What one reading took: blocks asked for, bytes asked for in all, bytes held at once.
 struct Cost {

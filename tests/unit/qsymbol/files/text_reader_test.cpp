@@ -27,7 +27,7 @@ protected:
     Symbol symbol_ = support::EveryField(); // whatever was there must go
 
     Caught Parse(const std::string& text) {
-        return support::CaughtFrom([&] { ParseText(symbol_, text, world_.InMemory()); });
+        return support::CaughtFrom([&] { world_.Parse(qsymbol::ParseText, symbol_, text); });
     }
     /// The one element of a file with this text behind its header.
     ElementRecord Element(const std::string& text) {

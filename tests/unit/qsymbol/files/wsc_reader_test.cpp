@@ -30,7 +30,7 @@ protected:
     Symbol symbol_ = support::EveryField(); // whatever was there must go
 
     Caught Parse(const std::string& text) {
-        return support::CaughtFrom([&] { ParseWsc(symbol_, text, world_.InMemory()); });
+        return support::CaughtFrom([&] { world_.Parse(qsymbol::ParseWsc, symbol_, text); });
     }
     Caught FigureError(const std::string& text) { return Parse(kHeader + text); }
     /// The first element of a file 300 x 200 with these lines.

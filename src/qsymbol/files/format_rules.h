@@ -1,0 +1,16 @@
+#pragma once
+
+#include "base/code_page.h"
+#include "base/regional_settings.h"
+#include "messages/resource_strings.h"
+
+namespace qsymbol {
+
+/// What turning a symbol into bytes and back depends on besides the two. The referenced objects outlive it.
+struct FormatRules {
+    const base::CodePage& codePage;
+    const base::RegionalSettings& regional;
+    const messages::ResourceStrings& strings;
+};
+
+} // namespace qsymbol
