@@ -26,7 +26,9 @@ if(QSYMBOL_FUZZ)
                          -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(qsymbol_options INTERFACE -fsanitize=address,undefined)
 endif()
-
+if(QSYMBOL_COVERAGE)
+  target_link_options(qsymbol_options INTERFACE --coverage)
+endif()
 if(WIN32)
   # _WIN32_WINNT 0x0601: hosts from Windows 7 on.
   target_compile_definitions(qsymbol_options INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
