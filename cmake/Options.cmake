@@ -27,6 +27,8 @@ if(QSYMBOL_FUZZ)
   target_link_options(qsymbol_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(QSYMBOL_COVERAGE)
+  # Tests as well: of an inline function the linker keeps one copy, perhaps theirs.
+  target_compile_options(qsymbol_options INTERFACE --coverage)
   target_link_options(qsymbol_options INTERFACE --coverage)
 endif()
 if(WIN32)
