@@ -1,0 +1,85 @@
+"""table.py FOLDER: what scripts/bench ends with: operation, ours, peer, ratio, yardstick, from the programs' JSON files.
+
+A row compares the medians of two benchmarks of one program, or the two counters "ours" and "peer" of one benchmark. Times
+and bytes are better small, rates ("/s") better large; the yardstick says how the ratio ours : peer must be. A row whose
+benchmark or peer did not run says so.
+"""
+
+import json
+import pathlib
+import sys
+
+# Operation, program, our benchmark (less the share of the host, "A - B"), the peer's ("": counters of the first; a
+# figure that was reached stands for itself), what is compared, yardstick.
+ROWS = [
+    ("hit test, one placement, M/s", "hit_test_bench", "HitTestByPoint/one_placement", 20e6, "items_per_second", ">= 1"),
+    ("hit test, a new angle each, M/s", "hit_test_bench", "HitTestByPoint/any_placement", 20e6, "items_per_second", ">= 1"),
+    ("rectangle hit, one placement, M/s", "hit_test_bench", "HitTestByRect/one_placement", 20e6, "items_per_second", ">= 1"),
+    ("rectangle hit, a new angle each, M/s", "hit_test_bench", "HitTestByRect/any_placement", 20e6, "items_per_second", ">= 1"),
+    ("snapping over 1,000 vertices", "hit_test_bench", "SnapOverVertices", "BareLoopOverVertices", "cpu_time", "<= 1.1"),
+    ("folder of 10,000 binary symbols, 3 elements", "catalog_bench", "CatalogBesidePlainReading/elements:3", "", "s", "<= 1.25"),
+    ("the same, 4 elements", "catalog_bench", "CatalogBesidePlainReading/elements:4", "", "s", "<= 1.25"),
+    ("the same, 8 elements", "catalog_bench", "CatalogBesidePlainReading/elements:8", "", "s", "<= 1.25"),
+    ("the same, 20 elements", "catalog_bench", "CatalogBesidePlainReading/elements:20", "", "s", "<= 1.25"),
+    ("memory of the loaded folder, 4 elements", "catalog_bench", "CatalogInMemory/elements:4", "", "B", "<= 3"),
+    ("the same, 20 elements", "catalog_bench", "CatalogInMemory/elements:20", "", "B", "<= 3"),
+    ("drawing the sample symbols", "draw_bench", "DrawThroughLibrary - HostCallsOfADraw", "BareGdiCalls", "real_time", "<= 1.2"),
+    ("moving them with a tool", "draw_bench", "MoveThroughLibrary - HostCallsOfAMove", "BareGdiCallsOfAMove", "real_time", "<= 1.2"),
+    ("ReadKatalog of 10,000 files", "catalogue_bench", "ReadKatalogBesideBareReading", "", "s", "<= 1.3"),
+    ("DXF of 10,000 placed symbols", "catalogue_bench", "DxfExportSymBesideBareWriting", "", "s", "<= 1.2"),
+    ("DXF, 100,000 entities beside dxflib, entities/s", "dxf_bench", "WriteWithQSymbol", "WriteWithDxflib", "items_per_second", ">= 10"),
+    ("text symbols beside dime, bytes/s", "text_parse_bench", "ParseTextSymbol", "DimeReadsDxf", "bytes_per_second", ">= 4"),
+]
+
+
+def shown(value, unit):
+    if value is None:
+        return "did not run"
+    for factor, letter in ((1e9, "G"), (1e6, "M"), (1e3, "k"), (1, ""), (1e-3, "m"), (1e-6, "µ"), (1e-9, "n")):
+        if abs(value) >= factor:
+            return f"{value / factor:.3g} {letter}{unit}"
+    return f"{value:.3g} {unit}"
+
+
+def measured(results, program, name, what):
+    """The median of a figure in the base unit, or None."""
+    if " - " in name:
+        parts = [measured(results, program, part, what) for part in name.split(" - ")]
+        return None if None in parts else parts[0] - parts[1]
+    for run in results.get(program, []):
+        # A benchmark with a fixed number of rounds has that in its name.
+        plain = run["run_name"].split("/iterations:")[0].split("/min_time:")[0].split("/real_time")[0]
+        if plain == name and run.get("aggregate_name", "median") == "median" and what in run:
+            factor = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1}[run["time_unit"]] if what.endswith("_time") else 1
+            return run[what] * factor
+    return None
+
+
+def kept(ratio, yardstick):
+    sign, limit = yardstick.split()
+    return ratio <= float(limit) if sign == "<=" else ratio >= float(limit)
+
+
+def main(folder):
+    results = {}
+    for path in pathlib.Path(folder).glob("*.json"):
+        results[path.stem] = json.loads(path.read_text(encoding="utf-8"))["benchmarks"]
+    lines = [("operation", "ours", "peer", "ratio", "yardstick", "")]
+    for operation, program, ours_name, peer_name, what, yardstick in ROWS:
+        if peer_name == "":
+            ours, peer = (measured(results, program, ours_name, side) for side in ("ours", "peer"))
+            unit = what
+        else:
+            ours = measured(results, program, ours_name, what)
+            peer = peer_name if isinstance(peer_name, float) else measured(results, program, peer_name, what)
+            unit = {"cpu_time": "s", "real_time": "s", "items_per_second": "/s", "bytes_per_second": "B/s"}[what]
+        ratio = ours / peer if ours is not None and peer else None
+        lines.append((operation, shown(ours, unit), shown(peer, unit), "" if ratio is None else f"{ratio:.2f}", yardstick,
+                      "" if ratio is None or kept(ratio, yardstick) else "MISSED"))
+    widths = [max(len(line[i]) for line in lines) for i in range(6)]
+    for line in lines:
+        print("  ".join(cell.ljust(width) for cell, width in zip(line, widths)).rstrip())
+
+
+if __name__ == "__main__":
+    main(sys.argv[1])
