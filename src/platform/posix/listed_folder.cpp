@@ -1,6 +1,6 @@
 #include "platform/posix/listed_folder.h"
 
-#include "platform/posix/utf8.h"
+#include "base/utf8.h"
 
 #include <cstring>
 #include <fcntl.h>
@@ -22,7 +22,7 @@ int ListedFolder::OpenToRead(const std::u16string& path) const {
     const std::u16string_view name = std::u16string_view(path).substr(size);
     if (name.find_first_of(std::u16string_view(u"/\0", 2)) != std::u16string_view::npos)
         return -1;
-    return openat(dirfd(folder_.get()), ToUtf8(name).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    return openat(dirfd(folder_.get()), base::ToUtf8(name).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
 }
 
 } // namespace platform

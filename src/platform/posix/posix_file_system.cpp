@@ -1,7 +1,7 @@
 #include "platform/posix/posix_file_system.h"
 
 #include "base/error.h"
-#include "platform/posix/utf8.h"
+#include "base/utf8.h"
 
 #include <cerrno>
 #include <dirent.h>
@@ -124,7 +124,7 @@ std::unique_ptr<base::File> PosixFileSystem::Open(const std::u16string& path, ba
         if (handle >= 0)
             return std::make_unique<PosixFile>(handle);
     }
-    const std::string name = ToUtf8(path);
+    const std::string name = base::ToUtf8(path);
     if (name.find('\0') != std::string::npos)
         base::Raise(RunTimeError::BadFileName);
     // A pipe under that name must not hold the program until somebody opens its other end.
@@ -136,15 +136,15 @@ std::unique_ptr<base::File> PosixFileSystem::Open(const std::u16string& path, ba
 
 bool PosixFileSystem::FileExists(const std::u16string& path) {
     struct stat info {};
-    return stat(ToUtf8(path).c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
+    return stat(base::ToUtf8(path).c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
 }
 
 bool PosixFileSystem::FolderExists(const std::u16string& path) {
-    return IsFolder(ToUtf8(path));
+    return IsFolder(base::ToUtf8(path));
 }
 
 std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& folder) {
-    const std::string name = ToUtf8(folder);
+    const std::string name = base::ToUtf8(folder);
     const std::u16string prefix = folder + u"/";
     DIR* const handle = opendir(name.c_str());
     if (handle == nullptr)
@@ -155,7 +155,7 @@ std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& 
         const bool unclear = entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK;
         if (unclear ? IsFolder(name + "/" + entry->d_name) : entry->d_type == DT_DIR)
             continue;
-        std::u16string fileName = FromUtf8(entry->d_name);
+        std::u16string fileName = base::FromUtf8(entry->d_name);
         std::u16string path = prefix + fileName;
         entries.push_back({std::move(fileName), std::move(path)});
     }

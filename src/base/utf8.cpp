@@ -1,8 +1,8 @@
-#include "platform/posix/utf8.h"
+#include "base/utf8.h"
 
 #include <cstddef>
 
-namespace platform {
+namespace base {
 
 namespace {
 
@@ -93,4 +93,4 @@ std::u16string FromUtf8(std::string_view bytes) {
     return out;
 }
 
-} // namespace platform
+} // namespace base
