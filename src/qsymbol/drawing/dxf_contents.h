@@ -1,0 +1,38 @@
+#pragma once
+
+#include "qsymbol/drawing/drawing_unit.h"
+#include "qsymbol/drawing/dxf_tags.h"
+#include "qsymbol/drawing/text_styles.h"
+#include "qsymbol/picture/extent.h"
+
+#include <string>
+#include <vector>
+
+namespace qsymbol {
+
+/// A block as it stands in the file; names are encoded, coordinates those of the file.
+struct DxfBlock {
+    std::string name;
+    DxfHandle record = 0;
+    double baseX = 0;
+    double baseY = 0;
+    DxfTags entities;
+};
+
+/// Everything of a drawing that is not the same in every file.
+struct DxfContents {
+    DrawingUnit unit = DrawingUnit::Millimetre;
+    Extent bounds; ///< in the drawing's unit, y upwards
+    std::vector<std::string> layers;
+    std::vector<TextStyles::Style> styles;
+    std::vector<DxfBlock> blocks;
+    DxfHandle modelRecord = 0;
+    DxfHandle paperRecord = 0;
+    DxfTags modelSpace;
+    DxfHandle lastHandle = 0; ///< the highest one that is in use
+};
+
+/// The whole file: header, tables, blocks, entities, objects.
+std::string ComposeDxf(const DxfContents& contents);
+
+} // namespace qsymbol

@@ -1,0 +1,120 @@
+#include "qsymbol/drawing/dxf_drawing.h"
+
+#include "base/letter_case.h"
+#include "qmath/math_util.h"
+#include "qsymbol/draw/symbol_drawing.h"
+#include "qsymbol/drawing/dxf_contents.h"
+#include "qsymbol/drawing/dxf_text.h"
+#include "qsymbol/geometry/plain_transformation.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace qsymbol {
+
+namespace {
+
+/// Entities of a block on this layer take the layer of the insert.
+constexpr const char* kLayerOfInsert = "0";
+
+/// Around the corners of a block's bounds where an insert puts them.
+Extent Placed(const Extent& bounds, qmath::Point base, const SymbolPosition& position) {
+    Extent placed;
+    if (bounds.IsEmpty())
+        return placed;
+    const double cosine = std::cos(position.angle);
+    const double sine = std::sin(position.angle);
+    for (const double cornerX : {bounds.Left(), bounds.Right()})
+        for (const double cornerY : {bounds.Top(), bounds.Bottom()}) {
+            const double x = cornerX - base.x;
+            const double y = cornerY - base.y;
+            placed.Include({position.at.x + cosine * x + sine * y, position.at.y + cosine * y - sine * x});
+        }
+    return placed;
+}
+
+} // namespace
+
+DxfDrawing::DxfDrawing(DrawingUnit unit) : context_(std::make_unique<DrawingContext>(unit)) {
+    modelRecord_ = context_->NewHandle();
+    paperRecord_ = context_->NewHandle();
+    AddLayer(u"0");
+}
+
+DxfDrawing::Layer DxfDrawing::AddLayer(std::u16string_view name) {
+    const std::u16string legal = LegalDxfName(name);
+    std::u16string key = base::UpperCase(legal);
+    const auto known = std::find_if(layers_.begin(), layers_.end(),
+                                    [&](const LayerEntry& layer) { return layer.key == key; });
+    if (known != layers_.end())
+        return static_cast<Layer>(known - layers_.begin());
+    layers_.push_back({std::move(key), DxfText(legal)});
+    return layers_.size() - 1;
+}
+
+DxfDrawing::Block DxfDrawing::AddBlock(std::u16string_view name, const Symbol& symbol) {
+    BlockEntry block;
+    block.record = context_->NewHandle();
+    block.base = {symbol.refX, symbol.refY};
+    block.surface = std::make_unique<DxfSurface>(*context_, block.record, kLayerOfInsert);
+    DrawSymbol(symbol, {.at = block.base, .angle = 0}, *block.surface,
+               PlainTransformation(qmath::Transform()), {.printer = 1, .screen = 1});
+    block.name = blockNames_.Take(name);
+    blocks_.push_back(std::move(block));
+    return blocks_.size() - 1;
+}
+
+void DxfDrawing::Insert(Block block, Layer layer, const SymbolPosition& position) {
+    if (modelSpace_.empty() || modelSpace_.back().surface != nullptr)
+        modelSpace_.emplace_back();
+    const BlockEntry& entry = blocks_[block];
+    DxfTags& out = modelSpace_.back().inserts;
+    out.Text(0, "INSERT");
+    out.Handle(5, context_->NewHandle());
+    out.Handle(330, modelRecord_);
+    out.Text(100, "AcDbEntity");
+    out.Text(8, layers_[layer].name);
+    out.Text(100, "AcDbBlockReference");
+    out.Text(2, DxfText(entry.name));
+    out.Place(10, context_->Length(position.at.x), context_->Length(-static_cast<double>(position.at.y)));
+    if (position.angle != 0)
+        out.Real(50, qmath::RadToDeg(position.angle));
+    inserted_.Include(Placed(entry.surface->Bounds(), entry.base, position));
+}
+
+VectorSurface& DxfDrawing::Draw(Layer layer, DxfColours colours) {
+    modelSpace_.push_back(
+        {std::make_unique<DxfSurface>(*context_, modelRecord_, layers_[layer].name, colours), {}});
+    return *modelSpace_.back().surface;
+}
+
+std::string DxfDrawing::Compose() const {
+    DxfContents contents;
+    contents.unit = context_->unit;
+    contents.styles = context_->styles.All();
+    contents.modelRecord = modelRecord_;
+    contents.paperRecord = paperRecord_;
+    contents.lastHandle = context_->lastHandle;
+    for (const LayerEntry& layer : layers_)
+        contents.layers.push_back(layer.name);
+    for (const BlockEntry& block : blocks_)
+        contents.blocks.push_back({.name = DxfText(block.name),
+                                   .record = block.record,
+                                   .baseX = context_->Length(block.base.x),
+                                   .baseY = context_->Length(-static_cast<double>(block.base.y)),
+                                   .entities = block.surface->Entities()});
+    Extent bounds = inserted_;
+    for (const Part& part : modelSpace_) {
+        contents.modelSpace.Append(part.surface ? part.surface->Entities() : part.inserts);
+        if (part.surface)
+            bounds.Include(part.surface->Bounds());
+    }
+    if (!bounds.IsEmpty()) {
+        contents.bounds.Include({context_->Length(bounds.Left()), context_->Length(-bounds.Bottom())});
+        contents.bounds.Include({context_->Length(bounds.Right()), context_->Length(-bounds.Top())});
+    }
+    return ComposeDxf(contents);
+}
+
+} // namespace qsymbol
