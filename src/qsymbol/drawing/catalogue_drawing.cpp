@@ -25,8 +25,8 @@ std::int32_t OnSheet(double value) {
     return static_cast<std::int32_t>(std::clamp(std::round(value), kLowest, kHighest));
 }
 
-FontRequest Lettering(double height) {
-    FontRequest font;
+base::FontRequest Lettering(double height) {
+    base::FontRequest font;
     font.height = std::max(1, OnSheet(height));
     font.name = u"Arial";
     return font;

@@ -127,7 +127,7 @@ void DxfSurface::OnText(const PictureText& text) {
 
 void DxfSurface::PutTextPiece(const PictureText& text, TextSide side, double offset, double width,
                               std::u16string_view piece) {
-    const FontRequest& font = *text.font;
+    const base::FontRequest& font = *text.font;
     const double angle = qmath::DegToRad(text.degrees);
     const auto along = [&](double distance) {
         return qmath::Vector{text.baseline.x + distance * std::cos(angle),

@@ -8,7 +8,7 @@ namespace qsymbol {
 
 namespace {
 
-std::string FileOf(const FontMetrics& metrics, const FontRequest& font, const std::string& family) {
+std::string FileOf(const FontMetrics& metrics, const base::FontRequest& font, const std::string& family) {
     if (base::LowerCase(font.name) != metrics.family)
         return family + ".ttf"; // not one of the known families
     std::string file(metrics.file);
@@ -19,7 +19,7 @@ std::string FileOf(const FontMetrics& metrics, const FontRequest& font, const st
 
 } // namespace
 
-const std::string& TextStyles::StyleFor(const FontRequest& font) {
+const std::string& TextStyles::StyleFor(const base::FontRequest& font) {
     const auto [entry, isNew] =
         known_.try_emplace({base::UpperCase(font.name), font.bold, font.italic}, styles_.size());
     if (isNew) {

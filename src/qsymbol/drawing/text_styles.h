@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qsymbol/draw/font_request.h"
+#include "base/font_request.h"
 #include "qsymbol/drawing/drawing_names.h"
 #include "qsymbol/drawing/dxf_tags.h"
 
@@ -17,7 +17,7 @@ public:
     TextStyles() { names_.Take(u"Standard"); }
 
     /// The encoded name of the style for a font. Underline and strike-out are no matter of the style.
-    const std::string& StyleFor(const FontRequest& font);
+    const std::string& StyleFor(const base::FontRequest& font);
 
     struct Style {
         std::string name;

@@ -28,17 +28,36 @@ constexpr std::array kFamilies = {
                 .capital = 0.571,
                 .fixedPitch = true,
                 .file = "cour"},
-    FontMetrics{.family = u"verdana", .ascent = 1.005, .descent = 0.210, .capital = 0.727, .file = "verdana", .boldFile = "b", .boldItalicFile = "z"},
+    FontMetrics{.family = u"verdana",
+                .ascent = 1.005,
+                .descent = 0.210,
+                .capital = 0.727,
+                .file = "verdana",
+                .boldFile = "b",
+                .boldItalicFile = "z"},
     FontMetrics{.family = u"tahoma", .ascent = 1.000, .descent = 0.207, .capital = 0.727, .file = "tahoma"},
-    FontMetrics{
-        .family = u"segoe ui", .ascent = 1.079, .descent = 0.251, .capital = 0.700, .file = "segoeui", .boldFile = "b", .boldItalicFile = "z"},
-    FontMetrics{.family = u"calibri", .ascent = 0.952, .descent = 0.269, .capital = 0.644, .file = "calibri", .boldFile = "b", .boldItalicFile = "z"},
+    FontMetrics{.family = u"segoe ui",
+                .ascent = 1.079,
+                .descent = 0.251,
+                .capital = 0.700,
+                .file = "segoeui",
+                .boldFile = "b",
+                .boldItalicFile = "z"},
+    FontMetrics{.family = u"calibri",
+                .ascent = 0.952,
+                .descent = 0.269,
+                .capital = 0.644,
+                .file = "calibri",
+                .boldFile = "b",
+                .boldItalicFile = "z"},
     FontMetrics{.family = u"georgia",
                 .ascent = 0.917,
                 .descent = 0.219,
                 .capital = 0.692,
                 .serif = true,
-                .file = "georgia", .boldFile = "b", .boldItalicFile = "z"},
+                .file = "georgia",
+                .boldFile = "b",
+                .boldItalicFile = "z"},
 };
 
 /// Advance widths of U+0020 to U+007E in thousandths of the em size.
@@ -72,7 +91,7 @@ const FontMetrics& MetricsOf(std::u16string_view family) {
     return found == kFamilies.end() ? kFamilies.front() : *found;
 }
 
-double TextWidth(std::u16string_view text, const FontRequest& font) {
+double TextWidth(std::u16string_view text, const base::FontRequest& font) {
     const bool fixedPitch = MetricsOf(font.name).fixedPitch;
     double thousandths = 0;
     for (const char16_t unit : text) {

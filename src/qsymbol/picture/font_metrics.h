@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qsymbol/draw/font_request.h"
+#include "base/font_request.h"
 
 #include <string_view>
 
@@ -14,7 +14,7 @@ struct FontMetrics {
     double capital = 0;         ///< height of the capital letters
     bool serif = false;
     bool fixedPitch = false;
-    std::string_view file;      ///< the font file without style and extension
+    std::string_view file;            ///< the font file without style and extension
     std::string_view boldFile = "bd"; ///< what the file's name has more in bold, and in bold italic
     std::string_view boldItalicFile = "bi";
 };
@@ -24,6 +24,6 @@ const FontMetrics& MetricsOf(std::u16string_view family);
 
 /// Estimated width of a line of text, in the unit of the font's height: exact to a few percent for the
 /// letters of Western European languages in Arial, an estimate for everything else.
-double TextWidth(std::u16string_view text, const FontRequest& font);
+double TextWidth(std::u16string_view text, const base::FontRequest& font);
 
 } // namespace qsymbol

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/font_request.h"
 #include "qmath/vector.h"
-#include "qsymbol/draw/font_request.h"
 
 #include <cstdint>
 #include <string_view>
@@ -19,8 +19,8 @@ struct PictureText {
     double width = 0;    ///< estimated, logical units
     bool opaque = false; ///< its cell is painted in the background's colour first
     bool rightToLeft = false;
-    std::int32_t colour = 0;           ///< packed RGB
-    const FontRequest* font = nullptr; ///< height is the em size in logical units
+    std::int32_t colour = 0;                 ///< packed RGB
+    const base::FontRequest* font = nullptr; ///< height is the em size in logical units
     std::u16string_view text;
 };
 

@@ -46,8 +46,8 @@ double DropOf(std::int32_t flags, const FontMetrics& metrics) {
 }
 
 /// The font of a surface on which none was selected: the standard one of text elements, 6 points.
-const FontRequest& StandardFont() {
-    static const FontRequest font{.height = 212, .name = u"Arial"};
+const base::FontRequest& StandardFont() {
+    static const base::FontRequest font{.height = 212, .name = u"Arial"};
     return font;
 }
 
@@ -135,7 +135,7 @@ void VectorSurface::Arc(const qmath::Rect& box, qmath::Point start, qmath::Point
 }
 
 void VectorSurface::WriteText(qmath::Point anchor, std::u16string_view text) {
-    const FontRequest& font = font_ ? *font_ : StandardFont();
+    const base::FontRequest& font = font_ ? *font_ : StandardFont();
     const FontMetrics& metrics = MetricsOf(font.name);
     const double degrees = font.escapement / 10.0;
     const qmath::Vector drop = Turned(0, DropOf(textAlign_, metrics) * font.height, degrees);

@@ -43,7 +43,7 @@ public:
     void SetBkMode(std::int32_t mode) override { bkMode_ = mode; }
     void WriteText(qmath::Point anchor, std::u16string_view text) override;
     void WriteTextAsPath(qmath::Point anchor, std::u16string_view text) override;
-    void SelectFont(const FontRequest& request) override { font_ = request; }
+    void SelectFont(const base::FontRequest& request) override { font_ = request; }
     void ReleaseFont() noexcept override { font_.reset(); }
 
 protected:
@@ -69,7 +69,7 @@ private:
     std::int32_t fillStyle_ = 1;
     std::int32_t textAlign_ = 0;
     std::int32_t bkMode_ = 1;
-    std::optional<FontRequest> font_;
+    std::optional<base::FontRequest> font_;
 };
 
 } // namespace qsymbol

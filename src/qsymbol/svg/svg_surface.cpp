@@ -97,7 +97,7 @@ void SvgSurface::OnArc(qmath::Vector centre, double radius, double start, double
 
 void SvgSurface::OnText(const PictureText& text) {
     EndPath();
-    const FontRequest& font = *text.font;
+    const base::FontRequest& font = *text.font;
     out_ += "<text";
     PutAttribute("x", text.baseline.x);
     PutAttribute("y", text.baseline.y);

@@ -76,7 +76,9 @@
     if (text !== undefined) element.textContent = text;
     return element;
   };
-  const millimetres = (value) => `${String(Math.round(value * 100) / 100).replace(".", ",")} mm`;
+  const number = (value) => String(Math.round(value * 100) / 100).replace(".", ",");
+  const millimetres = (value) => `${number(value)}\u00a0mm`;
+  const pair = (a, sign, b) => `${number(a)}\u00a0${sign}\u00a0${number(b)}\u00a0mm`;
 
   // The picture with measures of its nominal size around it and its reference point in it.
   function measured(card) {
@@ -127,9 +129,9 @@
     const [wide, high] = data.x.split(" ").map(Number);
     const rows = [
       ["Kategorie", card.category],
-      ["Größe (Breite × Höhe)", `${millimetres(card.width)} × ${millimetres(card.height)}`],
-      ["Gezeichnet", `${millimetres(wide)} × ${millimetres(high)}`],
-      ["Bezugspunkt", `${millimetres(refX)}, ${millimetres(refY)}`],
+      ["Breite × Höhe", pair(card.width, "×", card.height)],
+      ["Gezeichnet", pair(wide, "×", high)],
+      ["Bezugspunkt", pair(refX, "|", refY)],
       [`Elemente (${counts.reduce((sum, n) => sum + n, 0)})`, elements.map(([kind, n]) => `${kind}: ${n}`).join("\n") || "keine"],
       ["Datei", data.f],
     ];
