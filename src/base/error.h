@@ -8,6 +8,11 @@
 
 namespace base {
 
+/// The automation status code of an error by number.
+constexpr std::uint32_t NumberedStatus(std::int32_t number) {
+    return 0x800A0000U + static_cast<std::uint32_t>(number);
+}
+
 /// The one exception of the domain code: what a host sees as Err.Number, Err.Source and Err.Description.
 class Error : public std::exception {
 public:
@@ -17,7 +22,7 @@ public:
     /// An error that came from outside with a status code of its own; it goes on to the host unchanged.
     static Error FromStatus(std::uint32_t status, std::u16string source, std::u16string description);
 
-    /// The automation status code: 0x800A0000 + n for an error by number.
+    /// The automation status code: NumberedStatus(n) for an error by number.
     std::uint32_t Status() const { return status_; }
     /// n for an error by number, otherwise the whole status code.
     std::int32_t Number() const;

@@ -1,18 +1,20 @@
 #pragma once
 
+#include "base/wide.h"
+
 #include <windows.h>
 
 #include <oleauto.h>
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace com {
 
 /// The text of a BSTR, embedded zeros included; a null BSTR is empty.
 inline std::u16string_view View(BSTR text) {
-    return text == nullptr ? std::u16string_view()
-                           : std::u16string_view(reinterpret_cast<const char16_t*>(text), SysStringLen(text));
+    return text == nullptr ? std::u16string_view() : base::Utf16({text, SysStringLen(text)});
 }
 
 inline std::u16string Text(BSTR text) {
@@ -32,6 +34,8 @@ public:
     ~Bstr() { SysFreeString(text_); }
 
     BSTR Get() const { return text_; }
+    /// Hands the text over to the caller.
+    BSTR Detach() { return std::exchange(text_, nullptr); }
     BSTR* Put() {
         SysFreeString(text_);
         text_ = nullptr;
@@ -42,10 +46,5 @@ public:
 private:
     BSTR text_ = nullptr;
 };
-
-/// The same UTF-16 text as the Windows API takes it.
-inline const wchar_t* Wide(const std::u16string& text) {
-    return reinterpret_cast<const wchar_t*>(text.c_str());
-}
 
 } // namespace com

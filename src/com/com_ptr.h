@@ -48,6 +48,8 @@ public:
         Reset();
         return &object_;
     }
+    /// The address for a function that may exchange the reference for another one.
+    T** InOut() { return &object_; }
     void** PutVoid() { return reinterpret_cast<void**>(Put()); }
 
     /// The object under another interface; empty when it does not offer it.
@@ -61,6 +63,7 @@ public:
 
     void Swap(ComPtr& other) noexcept { std::swap(object_, other.object_); }
     T* Get() const { return object_; }
+    T& operator*() const { return *object_; }
     T* operator->() const { return object_; }
     explicit operator bool() const { return object_ != nullptr; }
 

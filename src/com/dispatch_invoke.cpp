@@ -1,6 +1,7 @@
 #include "com/dispatch_invoke.h"
 
 #include "com/argument.h"
+#include "com/foreign_error.h"
 
 #include <cstring>
 #include <deque>
@@ -53,13 +54,11 @@ HRESULT GiveBack(std::deque<Argument>& taken, const std::vector<UINT>& map, LCID
 void FillException(EXCEPINFO* exception, HRESULT status) {
     std::memset(exception, 0, sizeof *exception);
     exception->scode = status;
-    ComPtr<IErrorInfo> info;
-    if (GetErrorInfo(0, info.Put()) != S_OK || !info)
-        return;
-    info->GetSource(&exception->bstrSource);
-    info->GetDescription(&exception->bstrDescription);
-    info->GetHelpFile(&exception->bstrHelpFile);
-    info->GetHelpContext(&exception->dwHelpContext);
+    ThreadErrorInfo info;
+    exception->bstrSource = info.source.Detach();
+    exception->bstrDescription = info.description.Detach();
+    exception->bstrHelpFile = info.helpFile.Detach();
+    exception->dwHelpContext = info.helpContext;
 }
 
 } // namespace

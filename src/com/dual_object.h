@@ -4,6 +4,7 @@
 #include "com/dispatch_table.h"
 #include "com/error_info.h"
 #include "com/module.h"
+#include "com/own_object.h"
 
 #include <ocidl.h>
 
@@ -44,7 +45,7 @@ public:
             *object = static_cast<ISupportErrorInfo*>(this);
         else if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2)
             *object = static_cast<IProvideClassInfo2*>(this);
-        else if (iid == __uuidof(Face)) // inside the library only: the object itself
+        else if (iid == PrivateId<Face>())
             *object = static_cast<Face*>(this);
         else
             return E_NOINTERFACE;
@@ -82,7 +83,7 @@ public:
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                         EXCEPINFO* exception, UINT* argumentError) override {
         HRESULT status = E_FAIL;
-        const HRESULT guarded = Guard(__uuidof(Interface), [&] {
+        const HRESULT guarded = Do([&] {
             status = InvokeMember(Table(), static_cast<Interface*>(this), id, locale, flags, arguments,
                                   result, exception, argumentError);
         });
@@ -112,16 +113,19 @@ public:
 protected:
     virtual ~DualObject() { TheModule().Unlock(); }
 
-    /// Runs the body of a method: no exception leaves it.
+    /// Runs the body of a method: no exception leaves it, and the object lives until its end, whatever a host
+    /// does meanwhile.
     template <class Body>
-    static HRESULT Do(Body&& body) noexcept {
+    HRESULT Do(Body&& body) noexcept {
+        const ComPtr<Interface> self(static_cast<Interface*>(this));
         return Guard(__uuidof(Interface), std::forward<Body>(body));
     }
-    /// Runs the body of a method and stores its result.
+    /// Runs the body of a method and stores its result; a failure leaves nothing there.
     template <class Result, class Body>
-    static HRESULT Return(Result* place, Body&& body) noexcept {
-        return Guard(__uuidof(Interface), [&] {
+    HRESULT Return(Result* place, Body&& body) noexcept {
+        return Do([&] {
             Result& result = Out(place);
+            result = Result{};
             result = body();
         });
     }
@@ -134,14 +138,5 @@ private:
 
     std::atomic<ULONG> references_ = 1;
 };
-
-/// The library's own object behind an interface that a host passed back; error 13 for any other object.
-template <class Face, class Interface>
-ComPtr<Face> Own(Interface* object) {
-    ComPtr<Face> own;
-    if (FAILED(Required(object).QueryInterface(__uuidof(Face), own.PutVoid())))
-        base::Raise(base::RunTimeError::TypeMismatch);
-    return own;
-}
 
 } // namespace com

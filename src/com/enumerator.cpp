@@ -8,6 +8,7 @@
 
 #include <oleauto.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace com {
@@ -20,15 +21,16 @@ public:
         : collection_(std::move(collection)), next_(std::move(next)), cursor_(cursor) {}
 
     STDMETHODIMP Next(ULONG count, VARIANT* items, ULONG* fetched) override {
+        const ComPtr<IEnumVARIANT> self(this);
         ULONG got = 0;
         if (fetched != nullptr)
             *fetched = 0;
         if (items == nullptr)
             return E_POINTER;
+        std::for_each(items, items + count, [](VARIANT& item) { VariantInit(&item); });
         const HRESULT status = Guard(IID_IEnumVARIANT, [&] {
             ComPtr<IDispatch> item;
             for (; got < count && next_(cursor_, item); ++got) {
-                VariantInit(&items[got]);
                 V_VT(&items[got]) = VT_DISPATCH;
                 V_DISPATCH(&items[got]) = item.Detach();
             }
@@ -38,6 +40,7 @@ public:
         return FAILED(status) ? status : got == count ? S_OK : S_FALSE;
     }
     STDMETHODIMP Skip(ULONG count) override {
+        const ComPtr<IEnumVARIANT> self(this);
         bool complete = true;
         const HRESULT status = Guard(IID_IEnumVARIANT, [&] {
             ComPtr<IDispatch> item;

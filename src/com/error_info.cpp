@@ -2,6 +2,7 @@
 
 #include "com/bstr.h"
 #include "com/com_ptr.h"
+#include "com/foreign_error.h"
 #include "com/module.h"
 
 #include <windows.h>
@@ -11,23 +12,6 @@
 #include <new>
 
 namespace com {
-
-namespace {
-
-/// The system's own text for a status code, without its line end.
-std::u16string SystemText(HRESULT status) {
-    wchar_t* text = nullptr;
-    const DWORD length = FormatMessageW(
-        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-        static_cast<DWORD>(status), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-    std::u16string result(reinterpret_cast<const char16_t*>(text), length);
-    LocalFree(text);
-    while (!result.empty() && (result.back() == u'\r' || result.back() == u'\n' || result.back() == u' '))
-        result.pop_back();
-    return result.empty() ? std::u16string(u"Automatisierungsfehler") : result;
-}
-
-} // namespace
 
 base::Error CurrentError() {
     try {
@@ -67,19 +51,10 @@ void SetErrorInfo(REFIID iid, std::u16string_view source, std::u16string_view de
     }
 }
 
-void ThrowPendingError(HRESULT status) {
-    ComPtr<IErrorInfo> info;
-    Bstr source;
-    Bstr description;
-    if (GetErrorInfo(0, info.Put()) == S_OK && info) {
-        info->GetSource(source.Put());
-        info->GetDescription(description.Put());
-    }
+void ThrowSystemFailure(HRESULT status) {
     if (status == E_OUTOFMEMORY)
         throw std::bad_alloc();
-    std::u16string text(description.View());
-    throw base::Error::FromStatus(static_cast<std::uint32_t>(status), std::u16string(source.View()),
-                                  text.empty() ? SystemText(status) : std::move(text));
+    throw ForeignError(status, {}, {});
 }
 
 } // namespace com

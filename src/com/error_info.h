@@ -14,14 +14,13 @@ HRESULT ReportCurrentException(REFIID iid) noexcept;
 /// The exception being handled as an error; std::bad_alloc is 7, any other foreign exception E_UNEXPECTED.
 base::Error CurrentError();
 
-/// Throws what a failed call on an object left behind: its own number, source and description where it gave
-/// them.
-[[noreturn]] void ThrowPendingError(HRESULT status);
+/// Throws the failure of a function of the system: its status with the system's text; E_OUTOFMEMORY is 7.
+[[noreturn]] void ThrowSystemFailure(HRESULT status);
 
-/// Goes on with a successful status, throws the pending error otherwise.
+/// Goes on when a function of the system was successful. Objects are called through Call.
 inline void Check(HRESULT status) {
     if (FAILED(status))
-        ThrowPendingError(status);
+        ThrowSystemFailure(status);
 }
 
 /// Sets the thread's error info; an empty source becomes the library's name.

@@ -1,46 +1,26 @@
 #include "com/late_bound.h"
 
-#include "base/error.h"
 #include "com/bstr.h"
-#include "com/error_info.h"
+#include "com/foreign_error.h"
+#include "com/object_call.h"
+#include "com/type_name.h"
 
 namespace com {
 
 namespace {
 
-constexpr std::uint32_t kNumberedStatus = 0x800A0000U;
-
-constexpr HRESULT kArgumentNotOptional = static_cast<HRESULT>(kNumberedStatus + 449U);
-constexpr HRESULT kWrongArgumentCount = static_cast<HRESULT>(kNumberedStatus + 450U);
+constexpr std::int32_t kArgumentNotOptional = 449;
+constexpr std::int32_t kWrongArgumentCount = 450;
 
 bool IsRefusal(HRESULT status) {
+    const auto code = static_cast<std::uint32_t>(status);
     return status == DISP_E_BADPARAMCOUNT || status == DISP_E_PARAMNOTOPTIONAL ||
-           status == kArgumentNotOptional || status == kWrongArgumentCount;
+           code == base::NumberedStatus(kArgumentNotOptional) ||
+           code == base::NumberedStatus(kWrongArgumentCount);
 }
 
-void FreeTexts(EXCEPINFO& exception) {
-    SysFreeString(exception.bstrSource);
-    SysFreeString(exception.bstrDescription);
-    SysFreeString(exception.bstrHelpFile);
-}
-
-/// Throws what a failed Invoke left behind.
-[[noreturn]] void ThrowFailure(HRESULT status, EXCEPINFO& exception) {
-    if (status == DISP_E_MEMBERNOTFOUND)
-        base::Raise(base::RunTimeError::NoSuchMember);
-    if (status != DISP_E_EXCEPTION)
-        ThrowPendingError(status);
-    if (exception.pfnDeferredFillIn != nullptr)
-        exception.pfnDeferredFillIn(&exception);
-    std::u16string source = Text(exception.bstrSource);
-    std::u16string description = Text(exception.bstrDescription);
-    FreeTexts(exception);
-    const std::uint32_t code = exception.wCode != 0   ? kNumberedStatus + exception.wCode
-                               : exception.scode != 0 ? static_cast<std::uint32_t>(exception.scode)
-                                                      : static_cast<std::uint32_t>(DISP_E_EXCEPTION);
-    if (description.empty())
-        description = u"Automatisierungsfehler";
-    throw base::Error::FromStatus(code, std::move(source), std::move(description));
+DISPPARAMS Positional(std::span<VARIANTARG> reversedArguments) {
+    return {reversedArguments.data(), nullptr, static_cast<UINT>(reversedArguments.size()), 0};
 }
 
 } // namespace
@@ -49,33 +29,56 @@ bool LateBoundMember::Exists() {
     if (id_ != DISPID_UNKNOWN)
         return true;
     auto* name = const_cast<wchar_t*>(name_); // the method takes it without const but does not write
-    return SUCCEEDED(object_.GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id_)) &&
-           id_ != DISPID_UNKNOWN;
+    ::SetErrorInfo(0, nullptr);
+    const HRESULT status = object_.GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id_);
+    if (FAILED(status))
+        id_ = DISPID_UNKNOWN;
+    if (FAILED(status) && status != DISP_E_UNKNOWNNAME && status != DISP_E_MEMBERNOTFOUND)
+        ThrowFailure(object_, IID_IDispatch, status);
+    return id_ != DISPID_UNKNOWN;
+}
+
+void LateBoundMember::ThrowMissing() {
+    std::u16string text(base::Description(base::RunTimeError::NoSuchMember));
+    text.append(u": ").append(TypeName(object_)).append(u".").append(base::Utf16(name_));
+    throw base::Error(static_cast<std::int32_t>(base::RunTimeError::NoSuchMember), {}, std::move(text));
 }
 
 DISPID LateBoundMember::Id() {
     if (!Exists())
-        base::Raise(base::RunTimeError::NoSuchMember);
+        ThrowMissing();
     return id_;
 }
 
-HRESULT LateBoundMember::Invoke(WORD flags, DISPPARAMS& arguments, VARIANT* result, EXCEPINFO& exception) {
+HRESULT LateBoundMember::Invoke(WORD flags, DISPPARAMS& arguments, VARIANT* result,
+                                ExceptionInfo& exception) {
+    const DISPID id = Id();
     ::SetErrorInfo(0, nullptr);
-    return object_.Invoke(Id(), IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments, result, &exception,
+    return object_.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments, result, exception.Get(),
                           nullptr);
 }
 
-void LateBoundMember::InvokeOrThrow(WORD flags, DISPPARAMS& arguments, VARIANT* result) {
-    EXCEPINFO exception{};
-    const HRESULT status = Invoke(flags, arguments, result, exception);
-    if (FAILED(status))
-        ThrowFailure(status, exception);
+HRESULT LateBoundMember::Read(DISPPARAMS& arguments, VARIANT* result, ExceptionInfo& exception) {
+    const HRESULT status = Invoke(DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments, result, exception);
+    // Objects made by hand may know one of the two only, and compare.
+    return status == DISP_E_MEMBERNOTFOUND ? Invoke(DISPATCH_PROPERTYGET, arguments, result, exception)
+                                           : status;
+}
+
+void LateBoundMember::Throw(HRESULT status, ExceptionInfo& exception) {
+    if (status == DISP_E_MEMBERNOTFOUND)
+        ThrowMissing();
+    if (status == DISP_E_EXCEPTION)
+        throw exception.Error();
+    ThrowFailure(object_, IID_IDispatch, status);
 }
 
 void LateBoundMember::Get(VARTYPE type, Variant& value) {
     Variant raw;
     DISPPARAMS none{};
-    InvokeOrThrow(DISPATCH_PROPERTYGET, none, raw.Get());
+    ExceptionInfo exception;
+    if (const HRESULT status = Read(none, raw.Get(), exception); FAILED(status))
+        Throw(status, exception);
     if (FAILED(VariantChangeTypeEx(value.Put(), raw.Get(), LOCALE_USER_DEFAULT, 0, type)))
         base::Raise(base::RunTimeError::TypeMismatch);
 }
@@ -104,25 +107,27 @@ void LateBoundMember::PutLong(std::int32_t value) {
     V_I4(&argument) = value;
     DISPID put = DISPID_PROPERTYPUT;
     DISPPARAMS arguments{&argument, &put, 1, 1};
-    InvokeOrThrow(DISPATCH_PROPERTYPUT, arguments, nullptr);
+    ExceptionInfo exception;
+    if (const HRESULT status = Invoke(DISPATCH_PROPERTYPUT, arguments, nullptr, exception); FAILED(status))
+        Throw(status, exception);
 }
 
 bool LateBoundMember::CallUnlessRefused(std::span<VARIANTARG> reversedArguments, VARIANT* result) {
-    DISPPARAMS arguments{reversedArguments.data(), nullptr, static_cast<UINT>(reversedArguments.size()), 0};
-    EXCEPINFO exception{};
-    const HRESULT status = Invoke(DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments, result, exception);
+    DISPPARAMS arguments = Positional(reversedArguments);
+    ExceptionInfo exception;
+    const HRESULT status = Read(arguments, result, exception);
     if (SUCCEEDED(status))
         return true;
-    if (IsRefusal(status) || (status == DISP_E_EXCEPTION && IsRefusal(exception.scode))) {
-        FreeTexts(exception);
+    if (IsRefusal(status == DISP_E_EXCEPTION ? exception.Status() : status))
         return false;
-    }
-    ThrowFailure(status, exception);
+    Throw(status, exception);
 }
 
 void LateBoundMember::Call(std::span<VARIANTARG> reversedArguments, VARIANT* result) {
-    DISPPARAMS arguments{reversedArguments.data(), nullptr, static_cast<UINT>(reversedArguments.size()), 0};
-    InvokeOrThrow(DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments, result);
+    DISPPARAMS arguments = Positional(reversedArguments);
+    ExceptionInfo exception;
+    if (const HRESULT status = Read(arguments, result, exception); FAILED(status))
+        Throw(status, exception);
 }
 
 } // namespace com

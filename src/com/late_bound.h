@@ -13,9 +13,12 @@
 
 namespace com {
 
-/// A member of an object reached by name; looks its dispid up once.
+class ExceptionInfo;
+
+/// A member of an object reached by name; looks its dispid up once. The caller holds the object.
 ///
-/// Errors of the object keep its number, source and description; a member it does not have is error 438.
+/// Errors of the object keep its number, source and description; a member that it does not have is error 438
+/// with a text that names both.
 class LateBoundMember {
 public:
     LateBoundMember(IDispatch& object, const wchar_t* name) : object_(object), name_(name) {}
@@ -23,7 +26,8 @@ public:
     /// True when the object knows the name.
     bool Exists();
 
-    /// Reads a property into a value of the given type. Error 13 when it does not convert.
+    /// Reads a property, or a function without arguments, into a value of the given type. Error 13 when it
+    /// does not convert.
     void Get(VARTYPE type, Variant& value);
     std::int32_t GetLong();
     double GetDouble();
@@ -38,8 +42,11 @@ public:
 
 private:
     DISPID Id();
-    HRESULT Invoke(WORD flags, DISPPARAMS& arguments, VARIANT* result, EXCEPINFO& exception);
-    void InvokeOrThrow(WORD flags, DISPPARAMS& arguments, VARIANT* result);
+    HRESULT Invoke(WORD flags, DISPPARAMS& arguments, VARIANT* result, ExceptionInfo& exception);
+    /// Invoke as Basic reads: what stands for a value may be a property as well as a function.
+    HRESULT Read(DISPPARAMS& arguments, VARIANT* result, ExceptionInfo& exception);
+    [[noreturn]] void Throw(HRESULT status, ExceptionInfo& exception);
+    [[noreturn]] void ThrowMissing();
 
     IDispatch& object_;
     const wchar_t* name_;

@@ -2,13 +2,16 @@
 
 #include "com/module.h"
 
+#include <oaidl.h>
+
 #include <atomic>
 
 namespace com {
 
-/// An object with one interface beside IUnknown: identity, references and the module's lock.
+/// An object with one interface beside IUnknown: identity, references, the module's lock, and that it answers
+/// for its error info.
 template <class Interface>
-class UnknownObject : public Interface {
+class UnknownObject : public Interface, public ISupportErrorInfo {
 public:
     UnknownObject() { TheModule().Lock(); }
     UnknownObject(const UnknownObject&) = delete;
@@ -18,9 +21,12 @@ public:
         if (object == nullptr)
             return E_POINTER;
         *object = nullptr;
-        if (iid != IID_IUnknown && iid != __uuidof(Interface))
+        if (iid == IID_IUnknown || iid == __uuidof(Interface))
+            *object = static_cast<Interface*>(this);
+        else if (iid == IID_ISupportErrorInfo)
+            *object = static_cast<ISupportErrorInfo*>(this);
+        else
             return E_NOINTERFACE;
-        *object = static_cast<Interface*>(this);
         AddRef();
         return S_OK;
     }
@@ -30,6 +36,10 @@ public:
         if (left == 0)
             delete this;
         return left;
+    }
+
+    STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {
+        return iid == __uuidof(Interface) ? S_OK : S_FALSE;
     }
 
 protected:

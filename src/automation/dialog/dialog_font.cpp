@@ -1,16 +1,13 @@
 #include "automation/dialog/dialog_font.h"
 
 #include "automation/dialog/system_dpi.h"
+#include "base/wide.h"
 
 namespace dialog {
 
 namespace {
 
 constexpr std::u16string_view kLetters = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-
-const wchar_t* Wide(std::u16string_view text) {
-    return reinterpret_cast<const wchar_t*>(text.data());
-}
 
 } // namespace
 
@@ -38,13 +35,14 @@ TextMeter::~TextMeter() {
 
 int TextMeter::Width(std::u16string_view text) const {
     SIZE size{};
-    GetTextExtentPoint32W(context_, Wide(text), static_cast<int>(text.size()), &size);
+    GetTextExtentPoint32W(context_, base::Wide(text.data()), static_cast<int>(text.size()), &size);
     return size.cx;
 }
 
 int TextMeter::CaptionWidth(std::u16string_view caption) const {
     RECT box{};
-    DrawTextW(context_, Wide(caption), static_cast<int>(caption.size()), &box, DT_CALCRECT | DT_SINGLELINE);
+    DrawTextW(context_, base::Wide(caption.data()), static_cast<int>(caption.size()), &box,
+              DT_CALCRECT | DT_SINGLELINE);
     return box.right - box.left;
 }
 

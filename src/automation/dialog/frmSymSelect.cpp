@@ -8,6 +8,7 @@
 #include "automation/dialog/window_text.h"
 #include "com/bstr.h"
 #include "com/error_info.h"
+#include "com/object_call.h"
 #include "platform/win32/jpeg_file.h"
 #include "qsymbol/dialog/dialog_texts.h"
 
@@ -53,7 +54,7 @@ std::u16string frmSymSelect::ShowModal(_CSymbolColl& catalogue, std::u16string_v
     const ModalOwner owner;
     if (DialogBoxParamW(services_.instance, MAKEINTRESOURCEW(IDD_frmSymSelect), owner.Get(), Procedure,
                         reinterpret_cast<LPARAM>(this)) == -1)
-        com::ThrowPendingError(HRESULT_FROM_WIN32(GetLastError()));
+        com::ThrowSystemFailure(HRESULT_FROM_WIN32(GetLastError()));
     return result_;
 }
 
@@ -163,7 +164,7 @@ bool frmSymSelect::ShowEntry(int entry) {
     com::ComPtr<_CSymbol> symbol;
     if (entry >= 0) {
         const com::Bstr name(list_.Names()[static_cast<std::size_t>(entry)]);
-        com::Check(catalogue_->get_ItemByIndex(name.Get(), symbol.Put()));
+        com::Call(*catalogue_, &_CSymbolColl::get_ItemByIndex, name.Get(), symbol.Put());
     }
     EnableOk(static_cast<bool>(symbol));
     return view_.Show(symbol);

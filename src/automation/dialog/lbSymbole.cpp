@@ -1,9 +1,9 @@
 #include "automation/dialog/lbSymbole.h"
 
 #include "automation/dialog/dialog_font.h"
-#include "com/bstr.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
+#include "com/object_call.h"
 #include "com/variant.h"
 
 #include <algorithm>
@@ -29,8 +29,7 @@ private:
 };
 
 com::ComPtr<IEnumVARIANT> Enumerator(_CSymbolColl& catalogue) {
-    com::ComPtr<IUnknown> unknown;
-    com::Check(catalogue.get_NewEnum(unknown.Put()));
+    const auto unknown = com::Get(catalogue, &_CSymbolColl::get_NewEnum);
     com::ComPtr<IEnumVARIANT> items = unknown.As<IEnumVARIANT>();
     com::Required(items.Get());
     return items;
@@ -40,10 +39,8 @@ std::u16string NameOf(const VARIANT& item) {
     com::ComPtr<_CSymbol> symbol;
     if (V_VT(&item) != VT_DISPATCH || V_DISPATCH(&item) == nullptr)
         base::Raise(base::RunTimeError::ObjectNotSet);
-    com::Check(V_DISPATCH(&item)->QueryInterface(__uuidof(_CSymbol), symbol.PutVoid()));
-    com::Bstr name;
-    com::Check(symbol->get_Name(name.Put()));
-    return std::u16string(name.View());
+    com::Query(*V_DISPATCH(&item), __uuidof(_CSymbol), symbol.PutVoid());
+    return com::GetText(com::Required(symbol.Get()), &_CSymbol::get_Name);
 }
 
 } // namespace
@@ -67,9 +64,7 @@ void lbSymbole::Fill(_CSymbolColl& catalogue) {
     const com::ComPtr<IEnumVARIANT> items = Enumerator(catalogue);
     for (;;) {
         com::Variant item;
-        const HRESULT status = items->Next(1, item.Get(), nullptr);
-        com::Check(status);
-        if (status != S_OK)
+        if (com::Call(*items, &IEnumVARIANT::Next, 1U, item.Get(), nullptr) != S_OK)
             break;
         Add(NameOf(*item.Get()));
     }

@@ -2,7 +2,7 @@
 
 #include "automation/dialog/control_ids.h"
 #include "automation/dialog/window_text.h"
-#include "com/error_info.h"
+#include "com/object_call.h"
 #include "qsymbol/dialog/dialog_layout.h"
 #include "qsymbol/dialog/dialog_texts.h"
 
@@ -39,10 +39,8 @@ bool SymbolView::Show(const com::ComPtr<_CSymbol>& symbol) {
 }
 
 void SymbolView::ShowSize(_CSymbol& symbol) const {
-    LONG width = 0;
-    LONG height = 0;
-    com::Check(symbol.get_Width(&width));
-    com::Check(symbol.get_Height(&height));
+    const LONG width = com::Get(symbol, &_CSymbol::get_Width);
+    const LONG height = com::Get(symbol, &_CSymbol::get_Height);
     const double unitFactor = services_.unitFactor();
     const std::u16string decimal = services_.decimal();
     SetWindowText(width_, qsymbol::SizeText(width, unitFactor, decimal));
@@ -61,7 +59,7 @@ void SymbolView::Draw() {
     const qmath::Point offset = qsymbol::PreviewOffset(width, height, box.cx, box.cy);
     {
         const SymPict::Drawing drawing(*pict_.Get(), {offset.x, offset.y});
-        com::Check(symbol->Draw2PBox(pict_.Get()));
+        com::Call(*symbol, &_CSymbol::Draw2PBox, pict_.Get());
     }
     InvalidateRect(preview_, nullptr, FALSE);
     if (std::exchange(pictureWaits_, false))

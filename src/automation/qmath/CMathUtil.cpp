@@ -33,7 +33,11 @@ STDMETHODIMP CMathUtil::VectorAngle(double dx, double dy, double* value) {
 }
 
 STDMETHODIMP CMathUtil::Distance(_CPt* pt1, _CPt* pt2, double* value) {
-    return Return(value, [&] { return qmath::Distance(GetPoint(pt1), GetPoint(pt2)); });
+    return Return(value, [&] {
+        const com::ComPtr<_CPt> from(pt1);
+        const com::ComPtr<_CPt> to(pt2);
+        return qmath::Distance(GetPoint(pt1), GetPoint(pt2));
+    });
 }
 
 STDMETHODIMP CMathUtil::RotatePoint(double* x, double* y, double angle) {

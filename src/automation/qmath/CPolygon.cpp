@@ -3,7 +3,10 @@
 #include "automation/shared/point_access.h"
 
 STDMETHODIMP CPolygon::SetPoints(_CPtList* list) {
-    return Do([&] { polygon_ = qmath::Polygon(GetPoints(list)); });
+    return Do([&] {
+        const com::ComPtr<_CPtList> held(list);
+        polygon_ = qmath::Polygon(GetPoints(list));
+    });
 }
 
 STDMETHODIMP CPolygon::PtInside(LONG x, LONG y, VARIANT_BOOL* value) {

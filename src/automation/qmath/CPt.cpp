@@ -1,5 +1,11 @@
 #include "automation/qmath/CPt.h"
 
+com::ComPtr<CPt> CPt::CreateFrom(const qmath::Point& point) {
+    com::ComPtr<CPt> pt = Create();
+    pt->point_ = point;
+    return pt;
+}
+
 STDMETHODIMP CPt::get_X(LONG* value) {
     return Return(value, [&] { return point_.x; });
 }

@@ -5,6 +5,9 @@
 #include "base/checked.h"
 #include "com/enumerator.h"
 
+#include <algorithm>
+#include <utility>
+
 STDMETHODIMP CPtList::get_Count(LONG* value) {
     return Return(value, [&] { return base::Narrow<LONG>(points_.size()); });
 }
@@ -12,9 +15,11 @@ STDMETHODIMP CPtList::get_Count(LONG* value) {
 STDMETHODIMP CPtList::get_NewEnum(IUnknown** value) {
     return Return(value, [&]() -> IUnknown* {
         const auto next = [this](std::uint64_t& cursor, com::ComPtr<IDispatch>& item) {
-            if (cursor >= points_.size())
+            const std::uint64_t serial = std::max(cursor + 1, firstSerial_);
+            if (serial - firstSerial_ >= points_.size())
                 return false;
-            item = com::ComPtr<IDispatch>(points_[static_cast<std::size_t>(cursor++)].Get());
+            item = com::ComPtr<IDispatch>(points_[static_cast<std::size_t>(serial - firstSerial_)].Get());
+            cursor = serial;
             return true;
         };
         return com::NewEnumerator(com::ComPtr<IUnknown>(static_cast<_CPtList*>(this)), next).Detach();
@@ -35,15 +40,19 @@ STDMETHODIMP CPtList::AddPoint(_CPt* pt) {
 
 STDMETHODIMP CPtList::CopyPoints(_CPtList* list) {
     return Do([&] {
-        std::vector<com::ComPtr<_CPt>> copies;
-        for (const qmath::Point& point : GetPoints(list)) {
-            copies.emplace_back(CPt::Create().Get());
-            SetPoint(copies.back().Get(), point);
-        }
-        points_ = std::move(copies);
+        const com::ComPtr<_CPtList> source(list);
+        Points copies;
+        for (const qmath::Point& point : GetPoints(list))
+            copies.emplace_back(CPt::CreateFrom(point).Get());
+        Replace(std::move(copies));
     });
 }
 
 STDMETHODIMP CPtList::Clear() {
-    return Do([&] { points_.clear(); });
+    return Do([&] { Replace({}); });
+}
+
+void CPtList::Replace(Points points) {
+    firstSerial_ += points_.size();
+    points_.swap(points); // the old ones go last: they may be a host's own, which may call back
 }

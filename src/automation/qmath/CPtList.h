@@ -4,6 +4,7 @@
 
 #include <QMath.h>
 
+#include <cstdint>
 #include <vector>
 
 /// Public class CPtList: an ordered list of point objects, counted from 1.
@@ -17,5 +18,12 @@ public:
     STDMETHODIMP Clear() override;
 
 private:
-    std::vector<com::ComPtr<_CPt>> points_;
+    using Points = std::vector<com::ComPtr<_CPt>>;
+
+    void Replace(Points points);
+
+    Points points_;
+    /// Serial number of the first point. All points that the list ever had count on from 1, so an enumerator
+    /// that remembers the last one it gave follows when others take their places.
+    std::uint64_t firstSerial_ = 1;
 };

@@ -24,8 +24,8 @@ STDMETHODIMP CTrans::WorldToScreen(LONG* x, LONG* y) {
 
 STDMETHODIMP CTrans::PtWorldToScreen(_CPt** pt) {
     return Do([&] {
-        _CPt* const point = com::Out(pt);
-        SetPoint(point, transform_.WorldToScreen(GetPoint(point)));
+        const com::ComPtr<_CPt> point(com::Out(pt));
+        SetPoint(point.Get(), transform_.WorldToScreen(GetPoint(point.Get())));
     });
 }
 
@@ -42,8 +42,8 @@ STDMETHODIMP CTrans::FontSizeToScreen(double factor, SHORT size, LONG* value) {
 
 STDMETHODIMP CTrans::PtScreenToWorld(_CPt** pt) {
     return Do([&] {
-        _CPt* const point = com::Out(pt);
-        SetPoint(point, transform_.ScreenToWorld(GetPoint(point)));
+        const com::ComPtr<_CPt> point(com::Out(pt));
+        SetPoint(point.Get(), transform_.ScreenToWorld(GetPoint(point.Get())));
     });
 }
 

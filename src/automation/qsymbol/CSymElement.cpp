@@ -5,6 +5,7 @@
 #include "automation/qsymbol/host_surface.h"
 #include "automation/qsymbol/host_transformation.h"
 #include "automation/qsymbol/library.h"
+#include "automation/qsymbol/math_objects.h"
 #include "automation/shared/point_access.h"
 #include "com/bstr.h"
 #include "qsymbol/draw/element_drawing.h"
@@ -22,6 +23,17 @@ void SayNotImplemented() {
 
 CSymElement::CSymElement() {
     library::EnsureResources();
+}
+
+com::ComPtr<CSymElement> CSymElement::CreateFrom(qsymbol::ElementRecord record) {
+    com::ComPtr<CSymElement> element = Create();
+    element->ptList_ = math_objects::NewPointList(record.points);
+    if (record.type == qsymbol::ElementType::Text)
+        element->txtFont_ = NewStdFont(record.font.value_or(qsymbol::FontRecord{}));
+    record.points.clear();
+    record.font.reset();
+    element->values_ = std::move(record);
+    return element;
 }
 
 STDMETHODIMP CSymElement::get_Text(BSTR* value) {
@@ -130,12 +142,22 @@ STDMETHODIMP CSymElement::Init() {
 
 STDMETHODIMP CSymElement::CopyFrom(_CSymElement* obj) {
     return Do([&] {
-        _CSymElement& source = com::Required(obj);
-        qsymbol::ElementRecord values = GetElementValues(source);
-        com::ComPtr<IFontDisp> font = NewStdFont(GetFont(ElementFont(source).Get()));
-        com::Check(com::Required(ptList_.Get()).CopyPoints(ElementPoints(source).Get()));
-        values_ = std::move(values);
-        txtFont_ = std::move(font);
+        // Value by value: what was copied before a failure stays.
+        const com::ComPtr<_CSymElement> held(&com::Required(obj));
+        _CSymElement& source = *held.Get();
+        values_.text = com::GetText(source, &_CSymElement::get_Text);
+        const com::ComPtr<_CPtList> points = ptList_;
+        com::Call(com::Required(points.Get()), &_CPtList::CopyPoints, ElementPoints(source).Get());
+        values_.fillColor = com::Get(source, &_CSymElement::get_FillColor);
+        values_.mainColor = com::Get(source, &_CSymElement::get_MainColor);
+        values_.radius = com::Get(source, &_CSymElement::get_Radius);
+        values_.textAngle = com::Get(source, &_CSymElement::get_TxtAngle);
+        values_.textBkMode = com::Get(source, &_CSymElement::get_TxtBkMode);
+        values_.textAlign = com::Get(source, &_CSymElement::get_TxtAlign);
+        txtFont_ = NewStdFont(GetFont(ElementFont(source).Get()));
+        values_.lineWidth = com::Get(source, &_CSymElement::get_LineWidth);
+        values_.lineClosed = com::Get(source, &_CSymElement::get_LineClosed) != VARIANT_FALSE;
+        values_.type = static_cast<qsymbol::ElementType>(com::Get(source, &_CSymElement::get_ElementType));
     });
 }
 
@@ -143,8 +165,9 @@ STDMETHODIMP CSymElement::Draw(IDispatch* ctrl, _CTrans* Trans) {
     return Do([&] {
         if (ctrl == nullptr || Trans == nullptr || !ptList_)
             return;
+        const HostTransformation transformation(*Trans);
         HostSurface surface(*ctrl);
-        qsymbol::DrawElement(ToDrawing(*this), surface, HostTransformation(*Trans));
+        qsymbol::DrawElement(ToDrawing(*this), surface, transformation);
     });
 }
 
@@ -152,8 +175,10 @@ STDMETHODIMP CSymElement::DrawTracker(IDispatch* ctrl, _CTrans* Trans) {
     return Do([&] {
         if (ctrl == nullptr || Trans == nullptr || !ptList_)
             return;
+        const HostTransformation transformation(*Trans);
         HostSurface surface(*ctrl);
-        qsymbol::DrawTracker(GetPoints(ptList_.Get()), surface, HostTransformation(*Trans));
+        const com::ComPtr<_CPtList> points = ptList_;
+        qsymbol::DrawTracker(GetPoints(points.Get()), surface, transformation);
     });
 }
 

@@ -10,6 +10,9 @@ class CSymElement final : public com::DualObject<CSymElement, _CSymElement> {
 public:
     CSymElement();
 
+    /// A new element with the record's values, a point list and, for a text, a font of its own.
+    static com::ComPtr<CSymElement> CreateFrom(qsymbol::ElementRecord record);
+
     STDMETHODIMP get_Text(BSTR* value) override;
     STDMETHODIMP put_Text(BSTR value) override;
     STDMETHODIMP get_PtList(_CPtList** value) override;

@@ -13,8 +13,7 @@
 namespace {
 
 bool IsOwn(const com::ComPtr<_CSymElement>& element) {
-    com::ComPtr<CSymElement> own;
-    return SUCCEEDED(element->QueryInterface(__uuidof(CSymElement), own.PutVoid()));
+    return static_cast<bool>(com::Own<CSymElement>(*element.Get()));
 }
 
 } // namespace
@@ -40,7 +39,7 @@ STDMETHODIMP CSymElementColl::AppendRef(_CSymElement** o) {
     return Do([&] {
         com::ComPtr<_CSymElement> element = object_list::TakeOver(o);
         com::Required(element.Get());
-        elements_.Append(std::move(element));
+        Append(std::move(element));
     });
 }
 
@@ -52,6 +51,7 @@ STDMETHODIMP CSymElementColl::Draw(IDispatch* ctrl, _CTrans* Trans) {
     return Do([&] {
         if (ctrl == nullptr || elements_.Count() == 0)
             return;
+        const com::ComPtr<_CTrans> held(Trans);
         HostSurface surface(*ctrl);
         const Elements elements = Snapshot();
         if (Trans != nullptr && std::all_of(elements.begin(), elements.end(), IsOwn)) {
@@ -63,24 +63,27 @@ STDMETHODIMP CSymElementColl::Draw(IDispatch* ctrl, _CTrans* Trans) {
         // An element of the host's own making may draw as it likes.
         surface.PutDrawMode(qsymbol::kDrawModeCopy);
         for (const com::ComPtr<_CSymElement>& element : elements)
-            com::Check(element->Draw(ctrl, Trans));
+            com::Call(*element, &_CSymElement::Draw, ctrl, Trans);
     });
 }
 
 STDMETHODIMP CSymElementColl::DrawTracker(IDispatch* ctrl, _CTrans* Trans) {
     return Do([&] {
+        const com::ComPtr<IDispatch> heldControl(ctrl);
+        const com::ComPtr<_CTrans> heldTrans(Trans);
         for (const com::ComPtr<_CSymElement>& element : Snapshot())
-            com::Check(element->DrawTracker(ctrl, Trans));
+            com::Call(*element, &_CSymElement::DrawTracker, ctrl, Trans);
     });
 }
 
 STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* Trans, LONG lScreenX, LONG lScreenY,
                                            _CSymElement** value) {
     return Return(value, [&]() -> _CSymElement* {
+        const com::ComPtr<_CTrans> held(Trans);
         Elements elements = Snapshot();
         for (auto element = elements.rbegin(); element != elements.rend(); ++element) {
             VARIANT_BOOL hit = VARIANT_FALSE;
-            com::Check((*element)->ObjIdentByPt(Trans, lScreenX, lScreenY, &hit));
+            com::Call(**element, &_CSymElement::ObjIdentByPt, Trans, lScreenX, lScreenY, &hit);
             if (hit != VARIANT_FALSE)
                 return element->Detach();
         }
@@ -91,10 +94,11 @@ STDMETHODIMP CSymElementColl::ObjIdentByPt(_CTrans* Trans, LONG lScreenX, LONG l
 STDMETHODIMP CSymElementColl::ObjIdentByRect(_CTrans* Trans, _CRect** ScreenIdentRect,
                                              _CSymElementColl** value) {
     return Return(value, [&]() -> _CSymElementColl* {
+        const com::ComPtr<_CTrans> held(Trans);
         com::ComPtr<CSymElementColl> found;
         for (const com::ComPtr<_CSymElement>& element : Snapshot()) {
             VARIANT_BOOL hit = VARIANT_FALSE;
-            com::Check(element->ObjIdentByRect(Trans, ScreenIdentRect, &hit));
+            com::Call(*element, &_CSymElement::ObjIdentByRect, Trans, ScreenIdentRect, &hit);
             if (hit == VARIANT_FALSE)
                 continue;
             if (!found)
@@ -110,11 +114,15 @@ STDMETHODIMP CSymElementColl::PtIdent(_CTrans* Trans, LONG lScreenX, LONG lScree
     return Return(value, [&] {
         object_list::TakeOver(SymElem).Reset();
         object_list::TakeOver(Pt).Reset();
+        const com::ComPtr<_CTrans> held(Trans);
         Elements elements = Snapshot();
         for (auto element = elements.rbegin(); element != elements.rend() && *Pt == nullptr; ++element) {
-            com::Check((*element)->PtIdent(Trans, lScreenX, lScreenY, Pt));
-            if (*Pt != nullptr)
-                *SymElem = element->Detach();
+            com::ComPtr<_CPt> found;
+            com::Call(**element, &_CSymElement::PtIdent, Trans, lScreenX, lScreenY, found.Put());
+            if (!found)
+                continue;
+            *Pt = found.Detach();
+            *SymElem = element->Detach();
         }
         return VARIANT_FALSE; // also when a point was found: callers look at Pt
     });

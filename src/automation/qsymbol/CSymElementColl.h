@@ -10,6 +10,8 @@
 /// Public class CSymElementColl: the elements of a symbol in drawing order.
 class CSymElementColl final : public com::DualObject<CSymElementColl, _CSymElementColl> {
 public:
+    void Append(com::ComPtr<_CSymElement> element) { elements_.Append(std::move(element)); }
+
     STDMETHODIMP get_Count(LONG* value) override;
     STDMETHODIMP get_ItemByPos(LONG lPos, _CSymElement** value) override;
     STDMETHODIMP get_NewEnum(IUnknown** value) override;

@@ -48,27 +48,24 @@ STDMETHODIMP CSymInput::Draw(IDispatch* pb, _CTrans* Trans) {
 }
 
 STDMETHODIMP CSymInput::KeyUp(SHORT iKeyCode, SHORT iShift, IDispatch* pb, _CTrans* Trans) {
-    library::ReportAndSwallow(u"CSymInput.KeyUp", [&] {
+    return Do(library::ReportAndSwallow(u"CSymInput.KeyUp", [&] {
         HostTarget target(pb, Trans, point_);
         tool_.KeyUp(iKeyCode, iShift, target);
-    });
-    return S_OK;
+    }));
 }
 
 STDMETHODIMP CSymInput::MouseDown(float sScreenX, float sScreenY, IDispatch* pb, _CTrans* Trans) {
-    library::ReportAndSwallow(u"CSymInput.MouseDown", [&] {
+    return Do(library::ReportAndSwallow(u"CSymInput.MouseDown", [&] {
         HostTarget target(pb, Trans, point_);
         tool_.MouseDown({sScreenX, sScreenY}, target);
-    });
-    return S_OK;
+    }));
 }
 
 STDMETHODIMP CSymInput::MouseMove(float sScreenX, float sScreenY, IDispatch* pb, _CTrans* Trans) {
-    library::Swallow([&] {
+    return Do(library::Swallow([&] {
         HostTarget target(pb, Trans, point_);
         tool_.MouseMove({sScreenX, sScreenY}, target);
-    });
-    return S_OK;
+    }));
 }
 
 STDMETHODIMP CSymInput::SetOldLogPos(LONG lX, LONG lY) {

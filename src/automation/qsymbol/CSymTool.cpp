@@ -57,40 +57,37 @@ void CSymTool::Hand(const std::optional<qsymbol::SymbolPosition>& place, LONG* l
 }
 
 STDMETHODIMP CSymTool::KeyUp(SHORT iKeyCode, SHORT /*iShift*/, IDispatch* pb, _CTrans* Trans) {
-    library::ReportAndSwallow(u"CSymTool.KeyUp", [&] {
+    return Do(library::ReportAndSwallow(u"CSymTool.KeyUp", [&] {
         HostTarget target(pb, Trans, point_);
         tool_.KeyUp(iKeyCode, target);
-    });
-    return S_OK;
+    }));
 }
 
 STDMETHODIMP CSymTool::MouseDown(float sX, float sY, IDispatch* pb, _CTrans* Trans) {
-    library::ReportAndSwallow(u"CSymTool.MouseDown", [&] {
+    return Do(library::ReportAndSwallow(u"CSymTool.MouseDown", [&] {
         HostTarget target(pb, Trans, point_);
         tool_.MouseDown({sX, sY}, target);
-    });
-    return S_OK;
+    }));
 }
 
 STDMETHODIMP CSymTool::MouseDownReal(LONG lX, LONG lY, IDispatch* pb, _CTrans* Trans,
                                      VARIANT_BOOL* bSymRelativ) {
-    library::ReportAndSwallow(u"CSymTool.MouseDown", [&] {
+    return Do(library::ReportAndSwallow(u"CSymTool.MouseDown", [&] {
         HostTarget target(pb, Trans, point_);
         const bool relative = bSymRelativ != nullptr && *bSymRelativ != VARIANT_FALSE;
         tool_.MouseDownReal({lX, lY}, relative, target);
-    });
-    return S_OK;
+    }));
 }
 
 STDMETHODIMP CSymTool::MouseMove(float sScreenX, float sScreenY, IDispatch* pb, _CTrans* Trans) {
-    library::ReportAndSwallow(u"CSymTool.MouseMove", [&] {
+    return Do(library::ReportAndSwallow(u"CSymTool.MouseMove", [&] {
         HostTarget target(pb, Trans, point_);
         tool_.MouseMove({sScreenX, sScreenY}, target);
-    });
-    return S_OK;
+    }));
 }
 
 STDMETHODIMP CSymTool::SetMoveStartPos(LONG lX, LONG lY) {
-    library::ReportAndSwallow(u"CSymTool.SetMoveStartPos", [&] { tool_.SetMoveStartPos({lX, lY}); });
-    return S_OK;
+    return Do(library::ReportAndSwallow(u"CSymTool.SetMoveStartPos", [&] {
+        tool_.SetMoveStartPos({lX, lY});
+    }));
 }

@@ -1,5 +1,6 @@
 #include "automation/qsymbol/CSymbol.h"
 
+#include "automation/qsymbol/CSymElement.h"
 #include "automation/qsymbol/CSymElementColl.h"
 #include "automation/qsymbol/element_access.h"
 #include "automation/qsymbol/host_surface.h"
@@ -24,14 +25,13 @@ namespace {
 
 /// All elements of a collection as records. Error 9 for an empty collection.
 qsymbol::ElementList ToRecords(_CSymElementColl& elements) {
-    LONG count = 0;
-    com::Check(elements.get_Count(&count));
+    const LONG count = com::Get(elements, &_CSymElementColl::get_Count);
     if (count < 1)
         base::Raise(base::RunTimeError::SubscriptOutOfRange);
     qsymbol::ElementList records;
     for (LONG i = 1; i <= count; ++i) {
         com::ComPtr<_CSymElement> element;
-        com::Check(elements.get_ItemByPos(i, element.Put()));
+        com::Call(elements, &_CSymElementColl::get_ItemByPos, i, element.Put());
         records.push_back(ToRecord(com::Required(element.Get())));
     }
     return records;
@@ -103,6 +103,7 @@ STDMETHODIMP CSymbol::put_Height(LONG value) {
 STDMETHODIMP CSymbol::CreateNew(LONG lRefX, LONG lRefY, LONG lWidth, LONG lHeight,
                                 _CSymElementColl* SymElements) {
     return Do([&] {
+        const com::ComPtr<_CSymElementColl> held(SymElements);
         Edit().refX = lRefX;
         Edit().refY = lRefY;
         Edit().width = lWidth;
@@ -120,9 +121,10 @@ STDMETHODIMP CSymbol::Draw(LONG lLogX, LONG lLogY, double dAngle, IDispatch* ctr
         if (ctrl == nullptr || Trans == nullptr)
             return;
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
+        const HostTransformation transformation(*Trans);
         HostSurface surface(*ctrl);
-        qsymbol::DrawSymbol(*symbol, {.at = {lLogX, lLogY}, .angle = dAngle}, surface,
-                            HostTransformation(*Trans), factors, lMarkColor == nullptr ? -1 : *lMarkColor);
+        qsymbol::DrawSymbol(*symbol, {.at = {lLogX, lLogY}, .angle = dAngle}, surface, transformation,
+                            factors, lMarkColor == nullptr ? -1 : *lMarkColor);
     });
 }
 
@@ -154,17 +156,17 @@ STDMETHODIMP CSymbol::CatchPt(float* x, float* y, LONG* XKoord, LONG* YKoord, LO
 }
 
 STDMETHODIMP CSymbol::Draw2PBox(IDispatch* PBox) {
-    library::ReportAndSwallow(u"CSymbol.Draw2PBox", [&] {
+    return Do(library::ReportAndSwallow(u"CSymbol.Draw2PBox", [&] {
         if (PBox == nullptr)
             return;
+        const com::ComPtr<IDispatch> held(PBox);
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
         const double width = com::LateBoundMember(*PBox, L"ScaleWidth").GetDouble();
         const double height = com::LateBoundMember(*PBox, L"ScaleHeight").GetDouble();
         HostSurface surface(*PBox);
         last_factors::Keep(qsymbol::kUnscaled);
         qsymbol::DrawFitted(*symbol, surface, width, height);
-    });
-    return S_OK;
+    }));
 }
 
 STDMETHODIMP CSymbol::GetBoundingRect(LONG lLogX, LONG lLogY, double dAngle, _CRect** r) {
@@ -181,10 +183,8 @@ STDMETHODIMP CSymbol::GetSymElements(_CSymElementColl** value) {
     return Return(value, [&] {
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
         com::ComPtr<CSymElementColl> elements = CSymElementColl::Create();
-        for (const qsymbol::ElementRecord& record : symbol->elements) {
-            _CSymElement* element = NewElement(record).Detach();
-            com::Check(elements->AppendRef(&element));
-        }
+        for (const qsymbol::ElementRecord& record : symbol->elements)
+            elements->Append(com::ComPtr<_CSymElement>(CSymElement::CreateFrom(record).Get()));
         return elements.Detach();
     });
 }
@@ -205,6 +205,7 @@ STDMETHODIMP CSymbol::ObjIdentByRect(LONG lLogObjX, LONG lLogObjY, double dAngle
                                      _CRect* ScreenIdentRect, VARIANT_BOOL* value) {
     return Return(value, [&] {
         const std::shared_ptr<const qsymbol::Symbol> symbol = Value();
+        const com::ComPtr<_CRect> held(ScreenIdentRect);
         return Ask(*symbol, Trans, [&](const HostTransformation& transformation) {
             return qsymbol::ObjIdentByRect(*symbol, {.at = {lLogObjX, lLogObjY}, .angle = dAngle},
                                            last_factors::Screen(), transformation, GetRect(ScreenIdentRect));
@@ -236,8 +237,8 @@ STDMETHODIMP CSymbol::Write2File() {
 }
 
 STDMETHODIMP CSymbol::put_Etagenbreite(LONG value) {
-    library::ReportAndSwallow(u"CDrawGebObjColl.Etagenbreite", [&] { Edit().etagenbreite = value; });
-    return S_OK;
+    return Do(
+        library::ReportAndSwallow(u"CDrawGebObjColl.Etagenbreite", [&] { Edit().etagenbreite = value; }));
 }
 
 STDMETHODIMP CSymbol::DxfExportSym(LONG lLogX, LONG lLogY, double dAngle, BSTR stFilename) {

@@ -27,9 +27,8 @@ const com::ComPtr<_CSymbol>* CSymbolColl::Find(BSTR name) const {
 }
 
 void CSymbolColl::AppendKeyed(com::ComPtr<_CSymbol> symbol) {
-    com::Bstr name;
-    com::Check(com::Required(symbol.Get()).get_Name(name.Put()));
-    symbols_.Append(std::move(symbol), Key(name.View()));
+    const std::u16string name = com::GetText(com::Required(symbol.Get()), &_CSymbol::get_Name);
+    symbols_.Append(std::move(symbol), Key(name));
 }
 
 void CSymbolColl::Add(qsymbol::Symbol&& symbol) {
@@ -63,7 +62,9 @@ STDMETHODIMP CSymbolColl::ItemDa(BSTR stName, VARIANT_BOOL* value) {
 
 STDMETHODIMP CSymbolColl::Append(_CSymbol* o) {
     return Do([&] {
-        const com::ComPtr<CSymbol> source = com::Own<CSymbol>(o);
+        const com::ComPtr<CSymbol> source = com::Own<CSymbol>(com::Required(o));
+        if (!source)
+            base::Raise(base::RunTimeError::TypeMismatch);
         qsymbol::Symbol copy;
         qsymbol::CopySymbol(copy, *source->Value());
         Add(std::move(copy));
@@ -102,7 +103,7 @@ STDMETHODIMP CSymbolColl::GetSymInput(BSTR stSymName, _CSymInput** value) {
             // catalogue.
             if (const com::ComPtr<_CSymbol>* const found = Find(stSymName))
                 input = CSymInput::CreateFor(*com::ComPtr<_CSymbol>(*found).Get());
-        });
+        })();
         return input.Detach();
     });
 }
@@ -111,7 +112,7 @@ STDMETHODIMP CSymbolColl::SelectSymNameDlg(BSTR stOldName, BSTR* value) {
     return Return(value, [&] {
         std::u16string name;
         library::ReportAndSwallow(u"CSymbolColl.SelectSymDlg",
-                                  [&] { name = SelectSymbolName(*this, com::View(stOldName)); });
+                                  [&] { name = SelectSymbolName(*this, com::View(stOldName)); })();
         return com::NewBstr(name);
     });
 }

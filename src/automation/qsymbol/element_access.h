@@ -5,7 +5,7 @@
 
 #include <QSymbol.h>
 
-/// Reading and making public element objects; any implementation of the interface will do.
+// Reading public element objects; any implementation of the interface will do. The caller holds them.
 
 /// All plain values of an element; points and font stay empty.
 qsymbol::ElementRecord GetElementValues(_CSymElement& element);
@@ -20,6 +20,3 @@ qsymbol::ElementRecord ToDrawing(_CSymElement& element);
 /// The compact record of an element. Undefined elements give a record at its start values, a text without a
 /// font gets the standard one. Error 91 without a point list, 9 with an empty one.
 qsymbol::ElementRecord ToRecord(_CSymElement& element);
-
-/// A new element object with a point list and, for a text, a font of its own.
-com::ComPtr<_CSymElement> NewElement(const qsymbol::ElementRecord& record);

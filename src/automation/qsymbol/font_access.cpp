@@ -1,9 +1,9 @@
 #include "automation/qsymbol/font_access.h"
 
-#include "base/checked.h"
-#include "com/bstr.h"
+#include "base/wide.h"
 #include "com/error_info.h"
 #include "com/late_bound.h"
+#include "com/object_call.h"
 
 #include <cmath>
 
@@ -18,24 +18,12 @@ bool GetFlag(IDispatch& font, const wchar_t* name) {
 }
 
 qsymbol::FontRecord GetStandardFont(IFont& font) {
-    com::Bstr name;
-    CY size{};
-    BOOL bold = FALSE;
-    BOOL italic = FALSE;
-    BOOL strikethrough = FALSE;
-    BOOL underline = FALSE;
-    com::Check(font.get_Name(name.Put()));
-    com::Check(font.get_Size(&size));
-    com::Check(font.get_Bold(&bold));
-    com::Check(font.get_Italic(&italic));
-    com::Check(font.get_Strikethrough(&strikethrough));
-    com::Check(font.get_Underline(&underline));
-    return {.name = std::u16string(name.View()),
-            .size = static_cast<double>(size.int64) / kCurrencyUnits,
-            .bold = bold != FALSE,
-            .italic = italic != FALSE,
-            .strikethrough = strikethrough != FALSE,
-            .underline = underline != FALSE};
+    return {.name = com::GetText(font, &IFont::get_Name),
+            .size = static_cast<double>(com::Get(font, &IFont::get_Size).int64) / kCurrencyUnits,
+            .bold = com::Get(font, &IFont::get_Bold) != FALSE,
+            .italic = com::Get(font, &IFont::get_Italic) != FALSE,
+            .strikethrough = com::Get(font, &IFont::get_Strikethrough) != FALSE,
+            .underline = com::Get(font, &IFont::get_Underline) != FALSE};
 }
 
 } // namespace
@@ -58,7 +46,7 @@ com::ComPtr<IFontDisp> NewStdFont(const qsymbol::FontRecord& record) {
     std::u16string name = record.name;
     FONTDESC description{};
     description.cbSizeofstruct = sizeof description;
-    description.lpstrName = reinterpret_cast<wchar_t*>(name.data());
+    description.lpstrName = base::Wide(name.data());
     const double size = record.size * kCurrencyUnits;
     if (!(std::fabs(size) < 9e15))
         base::Raise(base::RunTimeError::Overflow);

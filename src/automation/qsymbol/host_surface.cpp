@@ -1,8 +1,8 @@
 #include "automation/qsymbol/host_surface.h"
 
-#include "automation/qsymbol/control_type.h"
 #include "base/checked.h"
-#include "com/error_info.h"
+#include "com/type_name.h"
+#include "platform/win32/gdi_object.h"
 
 #include <string>
 
@@ -24,7 +24,7 @@ VARIANTARG Single(std::int32_t value) {
 } // namespace
 
 HostSurface::HostSurface(IDispatch& control)
-    : control_(control), hDC_(control, L"hDC"), drawMode_(control, L"DrawMode"),
+    : control_(&control), hDC_(control, L"hDC"), drawMode_(control, L"DrawMode"),
       drawWidth_(control, L"DrawWidth"), drawStyle_(control, L"DrawStyle"), foreColor_(control, L"ForeColor"),
       fillColor_(control, L"FillColor"), fillStyle_(control, L"FillStyle"), context_(ReadContext()) {}
 
@@ -35,15 +35,16 @@ HDC HostSurface::ReadContext() {
 }
 
 qsymbol::SurfaceKind HostSurface::Kind() {
-    return IsPrinter(control_) ? qsymbol::SurfaceKind::Printer : qsymbol::SurfaceKind::PictureBox;
+    return com::TypeName(*control_) == u"Printer" ? qsymbol::SurfaceKind::Printer
+                                                  : qsymbol::SurfaceKind::PictureBox;
 }
 
 std::u16string HostSurface::Name() {
-    return com::LateBoundMember(control_, L"Name").GetText();
+    return com::LateBoundMember(*control_, L"Name").GetText();
 }
 
 void HostSurface::Line(qmath::Point from, qmath::Point to) {
-    com::LateBoundMember line(control_, L"Line");
+    com::LateBoundMember line(*control_, L"Line");
     VARIANTARG plain[4] = {Single(to.y), Single(to.x), Single(from.y), Single(from.x)};
     if (line.CallUnlessRefused(plain, nullptr))
         return;
@@ -90,14 +91,14 @@ void HostSurface::WriteText(qmath::Point anchor, std::u16string_view text) {
 }
 
 void HostSurface::WriteTextAsPath(qmath::Point anchor, std::u16string_view text) {
-    const HBRUSH brush = CreateSolidBrush(GetTextColor(context_));
-    const HGDIOBJ previous = SelectObject(context_, brush);
+    const std::string bytes = codePage_.Encode(text); // what can fail, before a path is open
+    const int length = base::Narrow<int>(bytes.size());
+    const platform::GdiObject brush(CreateSolidBrush(GetTextColor(context_)));
+    const platform::Selection selected(context_, brush);
     BeginPath(context_);
-    WriteText(anchor, text);
+    ::TextOutA(context_, anchor.x, anchor.y, bytes.data(), length);
     EndPath(context_);
     FillPath(context_);
-    SelectObject(context_, previous);
-    DeleteObject(brush);
 }
 
 void HostSurface::SelectFont(const base::FontRequest& request) {

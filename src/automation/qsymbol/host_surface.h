@@ -43,7 +43,7 @@ public:
 private:
     HDC ReadContext();
 
-    IDispatch& control_;
+    com::ComPtr<IDispatch> control_;
     com::LateBoundMember hDC_;
     com::LateBoundMember drawMode_;
     com::LateBoundMember drawWidth_;

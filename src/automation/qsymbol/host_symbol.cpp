@@ -11,9 +11,7 @@ std::shared_ptr<const HostSymbol> HostSymbol::Share(_CSymbol* symbol) {
         return nullptr;
     auto shared = std::make_shared<HostSymbol>();
     shared->symbol_ = com::ComPtr<_CSymbol>(symbol);
-    const HRESULT status = symbol->QueryInterface(__uuidof(CSymbol), shared->own_.PutVoid());
-    if (status != E_NOINTERFACE)
-        com::Check(status);
+    shared->own_ = com::Own<CSymbol>(*symbol);
     return shared;
 }
 
@@ -27,12 +25,14 @@ void HostSymbol::Draw(const qsymbol::SymbolPosition& place, qsymbol::DrawingTarg
     }
     LONG noMark = -1;
     const qsymbol::HostObjects& host = target.Host();
-    com::Check(symbol_->Draw(place.at.x, place.at.y, place.angle, host.control, host.trans,
-                             qsymbol::kUnscaled.printer, qsymbol::kUnscaled.screen, &noMark));
+    com::Call(*symbol_, &_CSymbol::Draw, place.at.x, place.at.y, place.angle, host.control.Get(),
+              host.trans.Get(), qsymbol::kUnscaled.printer, qsymbol::kUnscaled.screen, &noMark);
 }
 
 std::shared_ptr<const qsymbol::DrawableSymbol> HostSymbol::Copy() const {
+    if (!own_)
+        base::Raise(base::RunTimeError::TypeMismatch);
     qsymbol::Symbol copy;
-    qsymbol::CopySymbol(copy, *com::Own<CSymbol>(symbol_.Get())->Value());
+    qsymbol::CopySymbol(copy, *own_->Value());
     return Share(CSymbol::CreateFrom(std::move(copy)).Get());
 }

@@ -7,8 +7,8 @@
 #include <optional>
 
 struct qsymbol::HostObjects {
-    IDispatch* control;
-    _CTrans* trans;
+    com::ComPtr<IDispatch> control;
+    com::ComPtr<_CTrans> trans;
 };
 
 /// The control and the transformation of one event of a host.
@@ -16,7 +16,7 @@ class HostTarget final : public qsymbol::DrawingTarget {
 public:
     /// point: the tool's own, kept from event to event.
     HostTarget(IDispatch* control, _CTrans* trans, com::ComPtr<_CPt>& point)
-        : host_{control, trans}, point_(point) {}
+        : host_{com::ComPtr<IDispatch>(control), com::ComPtr<_CTrans>(trans)}, point_(point) {}
 
     qsymbol::Surface& OpenSurface() override;
     const qsymbol::Transformation& OpenTransformation() override;

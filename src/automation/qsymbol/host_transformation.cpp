@@ -17,21 +17,20 @@ void HostTransformation::ScreenToWorld(qmath::Point& point) const {
         SetPoint(pt.Get(), point);
     else
         pt = math_objects::NewPoint(point);
-    _CPt* passed = pt.Get();
-    com::Check(trans_.PtScreenToWorld(&passed));
-    point = GetPoint(passed);
+    com::Call(*trans_, &_CTrans::PtScreenToWorld, pt.InOut());
+    point = GetPoint(pt.Get());
     if (kept_ != nullptr)
         *kept_ = std::move(pt);
 }
 
 std::int32_t HostTransformation::LengthToScreen(std::int32_t length) const {
     LONG value = length;
-    com::Check(trans_.LengthToScreen(&value));
+    com::Call(*trans_, &_CTrans::LengthToScreen, &value);
     return value;
 }
 
 std::int32_t HostTransformation::FontSizeToScreen(double factor, std::int16_t size) const {
     LONG value = 0;
-    com::Check(trans_.FontSizeToScreen(factor, size, &value));
+    com::Call(*trans_, &_CTrans::FontSizeToScreen, factor, size, &value);
     return value;
 }

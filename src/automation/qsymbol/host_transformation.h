@@ -1,7 +1,6 @@
 #pragma once
 
-#include "com/com_ptr.h"
-#include "com/error_info.h"
+#include "com/object_call.h"
 #include "qsymbol/geometry/transformation.h"
 
 #include <QMath.h>
@@ -12,12 +11,12 @@ public:
     /// kept: where the point object of ScreenToWorld lies between its uses, so that not every mouse event
     /// makes one; may be missing.
     explicit HostTransformation(_CTrans& trans, com::ComPtr<_CPt>* kept = nullptr)
-        : trans_(trans), kept_(kept) {}
+        : trans_(&trans), kept_(kept) {}
 
     void WorldToScreen(qmath::Point& point) const override {
         LONG x = point.x;
         LONG y = point.y;
-        com::Check(trans_.WorldToScreen(&x, &y));
+        com::Call(*trans_, &_CTrans::WorldToScreen, &x, &y);
         point = {x, y};
     }
     void PointsToScreen(std::span<qmath::Point> points) const override;
@@ -26,6 +25,6 @@ public:
     std::int32_t FontSizeToScreen(double factor, std::int16_t size) const override;
 
 private:
-    _CTrans& trans_;
+    com::ComPtr<_CTrans> trans_;
     com::ComPtr<_CPt>* kept_;
 };

@@ -28,25 +28,29 @@ qsymbol::FileEnvironment FileEnvironmentNow();
 /// Shows the exception being handled to the user: source, line break, description. Never throws.
 void ReportCurrentError(std::u16string_view source) noexcept;
 
-/// Runs the body of an operation that a user triggers; an error is shown under the source and goes no
+/// The body of an operation that a user triggers: run, it shows an error under the source, which goes no
 /// further.
 template <class Body>
-void ReportAndSwallow(std::u16string_view source, Body&& body) noexcept {
-    try {
-        body();
-    } catch (...) {
-        ReportCurrentError(source);
-    }
+[[nodiscard]] auto ReportAndSwallow(std::u16string_view source, Body body) {
+    return [source, body]() noexcept {
+        try {
+            body();
+        } catch (...) {
+            ReportCurrentError(source);
+        }
+    };
 }
 
-/// Runs the body of an operation whose errors nobody is told.
+/// The body of an operation whose errors nobody is told.
 template <class Body>
-void Swallow(Body&& body) noexcept {
-    try {
-        body();
-    } catch (...) { // NOLINT(bugprone-empty-catch): that is the contract
-        return;
-    }
+[[nodiscard]] auto Swallow(Body body) {
+    return [body]() noexcept {
+        try {
+            body();
+        } catch (...) { // NOLINT(bugprone-empty-catch): that is the contract
+            return;
+        }
+    };
 }
 
 } // namespace library

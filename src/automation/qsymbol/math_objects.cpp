@@ -3,6 +3,7 @@
 #include "automation/shared/point_access.h"
 #include "com/error_info.h"
 #include "com/module.h"
+#include "com/object_call.h"
 
 #include <string>
 
@@ -32,14 +33,14 @@ com::ComPtr<IClassFactory> Factory(REFCLSID clsid) {
         return factory;
     factory = SiblingFactory(clsid);
     if (!factory)
-        com::ThrowPendingError(status);
+        com::ThrowSystemFailure(status);
     return factory;
 }
 
 template <class Interface>
 com::ComPtr<Interface> New(IClassFactory& factory) {
     com::ComPtr<Interface> object;
-    com::Check(factory.CreateInstance(nullptr, __uuidof(Interface), object.PutVoid()));
+    com::Call(factory, &IClassFactory::CreateInstance, nullptr, __uuidof(Interface), object.PutVoid());
     return object;
 }
 
@@ -59,17 +60,17 @@ com::ComPtr<_CPtList> NewPointList(std::span<const qmath::Point> points) {
     for (const qmath::Point& point : points) {
         const auto pt = New<_CPt>(*pointFactory.Get());
         SetPoint(pt.Get(), point);
-        com::Check(list->AddPoint(pt.Get()));
+        com::Call(*list, &_CPtList::AddPoint, pt.Get());
     }
     return list;
 }
 
 com::ComPtr<_CRect> NewRect(const qmath::Rect& rect) {
     auto object = New<_CRect>(*Factory(__uuidof(CRect)).Get());
-    com::Check(object->put_Left(rect.left));
-    com::Check(object->put_Top(rect.top));
-    com::Check(object->put_Right(rect.right));
-    com::Check(object->put_Bottom(rect.bottom));
+    com::Call(*object, &_CRect::put_Left, rect.left);
+    com::Call(*object, &_CRect::put_Top, rect.top);
+    com::Call(*object, &_CRect::put_Right, rect.right);
+    com::Call(*object, &_CRect::put_Bottom, rect.bottom);
     return object;
 }
 

@@ -39,12 +39,12 @@ bool HasItem(IDispatch& collection, const std::u16string& name) {
 } // namespace
 
 qsymbol::NameList NameListOf(IDispatch* collection) {
-    return {
-        .count = [collection] { return com::LateBoundMember(com::Required(collection), L"Count").GetLong(); },
-        .contains =
-            [collection](const std::u16string& name) {
-                IDispatch& list = com::Required(collection);
-                const bool canBeAsked = com::LateBoundMember(list, L"Exists").Exists();
-                return canBeAsked ? Exists(list, name) : HasItem(list, name);
-            }};
+    const com::ComPtr<IDispatch> held(collection);
+    return {.count = [held] { return com::LateBoundMember(com::Required(held.Get()), L"Count").GetLong(); },
+            .contains =
+                [held](const std::u16string& name) {
+                    IDispatch& list = com::Required(held.Get());
+                    const bool canBeAsked = com::LateBoundMember(list, L"Exists").Exists();
+                    return canBeAsked ? Exists(list, name) : HasItem(list, name);
+                }};
 }

@@ -6,7 +6,7 @@
 
 #include <oaidl.h>
 
-/// A host's collection as a list of names; used while the collection lives.
+/// A host's collection as a list of names, which holds it.
 ///
 /// One with `Exists(key)`, as a scripting dictionary has it, is asked that and stays unchanged; any other is
 /// asked for `Item(key)`, where every error means that the key is not there. Nothing is error 91, but only

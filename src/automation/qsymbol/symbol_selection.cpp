@@ -3,8 +3,8 @@
 #include "automation/dialog/select_symbol.h"
 #include "automation/qsymbol/library.h"
 #include "automation/qsymbol/math_objects.h"
-#include "com/error_info.h"
 #include "com/module.h"
+#include "com/object_call.h"
 
 namespace {
 
@@ -14,9 +14,7 @@ public:
     double operator()() {
         if (!settings_)
             settings_ = math_objects::Settings();
-        double factor = 0;
-        com::Check(settings_->get_UnitFactor(&factor));
-        return factor;
+        return com::Get(*settings_, &_CSettings::get_UnitFactor);
     }
 
 private:

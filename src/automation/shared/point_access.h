@@ -8,6 +8,8 @@
 
 #include <vector>
 
+// The caller holds the objects: what a host does in one of its own may let go of it.
+
 /// The coordinates of any CPt, also of a foreign implementation. Error 91 for Nothing.
 qmath::Point GetPoint(_CPt* pt);
 

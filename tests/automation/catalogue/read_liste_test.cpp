@@ -1,5 +1,6 @@
 #include "catalogue/catalogue_fixture.h"
 #include "support/basic_collection.h"
+#include "support/missing_member.h"
 
 namespace {
 
@@ -137,7 +138,8 @@ TEST_F(ReadListe, NeedsAList) {
     VARIANT_BOOL result = VARIANT_FALSE;
     EXPECT_EQ(Outcome(symbols->ReadListe(Bstr(folder.Path()), nullptr, &result)), RunTimeError(91));
     const Ref<_CPt> noList = support::NewPt(1, 2);
-    EXPECT_EQ(Outcome(symbols->ReadListe(Bstr(folder.Path()), noList.Get(), &result)), RunTimeError(438));
+    EXPECT_EQ(Outcome(symbols->ReadListe(Bstr(folder.Path()), noList.Get(), &result)),
+              support::MissingMember(L"CPt.Count"));
 }
 
 TEST_F(ReadListe, ErrorsOfTheListReachTheCaller) {

@@ -1,5 +1,6 @@
 #include "drawing/drawing_fixture.h"
 #include "drawing/host_trans.h"
+#include "support/missing_member.h"
 
 #include <utility>
 
@@ -30,7 +31,8 @@ const std::vector<ElementSpec> kElements{
 const Failure kFailures[] = {
     {support::Numbered(481), L"Gastgeber.Zeichenfläche", L"Ungültiges Bild"},
     {E_ACCESSDENIED, L"Gastgeber", L"Heute nicht"},
-    {MAKE_HRESULT(SEVERITY_ERROR, FACILITY_ITF, 0x1234), L"Anderswo", L"Eigene Nummer"}};
+    {MAKE_HRESULT(SEVERITY_ERROR, FACILITY_ITF, 0x1234), L"Anderswo", L"Eigene Nummer"},
+    {E_OUTOFMEMORY, L"Gastgeber.Puffer", L"Kein Platz für das Bild"}};
 
 class HostErrors : public DrawingTest {
 protected:
@@ -128,6 +130,28 @@ TEST_F(HostErrors, OfATransformationReachTheCallerUnchanged) {
     }
 }
 
+TEST_F(HostErrors, TextsThatNobodyAnswersForAreNotTaken) {
+    trans->AnswerForNothing();
+    for (const Failure& failure : kFailures) {
+        trans->Fail("WorldToScreen", failure);
+        VARIANT_BOOL hit = VARIANT_FALSE;
+        const Failure seen = support::Outcome(symbol->ObjIdentByPt(0, 0, 0, trans.Get(), 5, 5, &hit));
+        EXPECT_EQ(seen.status, failure.status);
+        EXPECT_EQ(seen.source, L"QSymbol");
+        EXPECT_NE(seen.description, failure.description);
+        EXPECT_NE(seen.description, L"");
+    }
+}
+
+TEST_F(HostErrors, AnOlderErrorsTextsAreNotTaken) {
+    trans->OnCall([] { support::Throw(kFailures[0]); }); // a try whose failure the host has dealt with
+    trans->FailWordless("FontSizeToScreen", E_ACCESSDENIED);
+    const Failure seen = support::Outcome(Draw(symbol.Get(), box.Get()));
+    EXPECT_EQ(seen.status, E_ACCESSDENIED);
+    EXPECT_EQ(seen.source, L"QSymbol");
+    EXPECT_NE(seen.description, kFailures[0].description);
+}
+
 TEST_F(HostErrors, EndTheDrawingWhereTheyHappen) {
     trans->Fail("FontSizeToScreen", kFailures[0]);
     drawn.UseFont(50);
@@ -145,7 +169,7 @@ TEST_F(HostErrors, EndTheDrawingWhereTheyHappen) {
 }
 
 TEST_F(HostErrors, ASurfaceWithoutTheProperties) {
-    const Failure missing = support::RunTimeError(438);
+    const Failure missing = support::MissingMember(L"CSymbol.hDC");
     HRESULT status = Draw(symbol.Get(), symbol.Get());
     EXPECT_EQ(support::Outcome(status), missing);
     status = support::NewElement(kElements[0])->Draw(symbol.Get(), trans.Get());

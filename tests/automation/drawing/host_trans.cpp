@@ -3,9 +3,11 @@
 namespace drawing {
 
 HRESULT HostTrans::Done(const std::string& operation) const {
-    if (action_)
-        action_();
-    return operation == failing_ ? support::Throw(failure_) : S_OK;
+    if (operation == failing_)
+        return wordless_ ? failure_.status : support::Throw(failure_);
+    if (const auto action = action_)
+        action();
+    return S_OK;
 }
 
 } // namespace drawing

@@ -20,6 +20,11 @@ public:
         failing_ = operation;
         failure_ = failure;
     }
+    /// Without error information.
+    void FailWordless(const std::string& operation, HRESULT status) {
+        Fail(operation, {status, {}, {}});
+        wordless_ = true;
+    }
     void OnCall(std::function<void()> action) { action_ = std::move(action); }
 
     STDMETHODIMP SetScale(double) override { return E_NOTIMPL; }
@@ -42,6 +47,7 @@ private:
     HRESULT Done(const std::string& operation) const;
 
     std::string failing_;
+    bool wordless_ = false;
     support::Failure failure_;
     std::function<void()> action_;
 };

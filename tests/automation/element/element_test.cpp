@@ -164,14 +164,22 @@ TEST_F(CopyFrom, IsIndependentOfItsSource) {
     EXPECT_EQ(after.Get(), before.Get()) << "its own list takes the contents";
 }
 
+/// What comes before the failing step is copied, what comes after it is not.
 TEST_F(CopyFrom, NeedsAPointListOfItsOwn) {
     EXPECT_OK(target->putref_PtList(nullptr));
     EXPECT_EQ(Outcome(target->CopyFrom(source.Get())), RunTimeError(91));
+    EXPECT_EQ(Describe(target.Get()), ElementSpec{.text = FilledText().text});
 }
 
 TEST_F(CopyFrom, NeedsAFontInItsSource) {
     EXPECT_OK(source->putref_TxtFont(nullptr));
     EXPECT_EQ(Outcome(target->CopyFrom(source.Get())), RunTimeError(91));
+    ElementSpec untilTheFont = FilledText();
+    untilTheFont.font.reset();
+    untilTheFont.lineWidth = 0;
+    untilTheFont.closed = false;
+    untilTheFont.type = symUndefined;
+    EXPECT_EQ(Describe(target.Get()), untilTheFont);
 }
 
 TEST_F(CopyFrom, NeedsPointsInItsSource) {

@@ -144,6 +144,14 @@ TEST_F(Points, ForEachSeesWhatIsAddedMeanwhile) {
     EXPECT_EQ(At(support::NextOf(points.Get())), (POINT{3, 4}));
     EXPECT_OK(list->Clear());
     EXPECT_EQ(support::NextOf(points.Get()).Type(), VT_EMPTY);
+    EXPECT_OK(list->AddPoint(NewPt(5, 6).Get()));
+    EXPECT_EQ(At(support::NextOf(points.Get())), (POINT{5, 6})) << "what comes after a clear is new";
+    EXPECT_OK(list->CopyPoints(NewPtList({{7, 8}, {9, 10}}).Get()));
+    EXPECT_EQ(At(support::NextOf(points.Get())), (POINT{7, 8}));
+    EXPECT_EQ(At(support::NextOf(points.Get())), (POINT{9, 10}));
+    EXPECT_EQ(support::NextOf(points.Get()).Type(), VT_EMPTY);
+    EXPECT_OK(points->Reset());
+    EXPECT_EQ(At(support::NextOf(points.Get())), (POINT{7, 8}));
 }
 
 } // namespace

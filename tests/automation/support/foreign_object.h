@@ -6,19 +6,32 @@
 
 namespace support {
 
-/// What objects of a host's own making share: identity and life. They are called by their vtable only.
+/// What objects of a host's own making share: identity, life, and that they answer for their errors. They are
+/// called by their vtable only.
 template <class Interface>
-class ForeignObject : public Interface {
+class ForeignObject : public Interface, public ISupportErrorInfo {
 public:
+    /// The object sets error information but does not answer for it, like one that knows nothing of it.
+    void AnswerForNothing() { answers_ = false; }
+
+    /// It gives itself for an interface that it does not have.
+    void ClaimToBe(REFIID id) { claimed_ = id; }
+    /// What it is not asked itself, another object is asked.
+    void HandQuestionsOnTo(IUnknown* other) { other_ = Ref<IUnknown>(other); }
+
     ForeignObject() = default;
     ForeignObject(const ForeignObject&) = delete;
     ForeignObject& operator=(const ForeignObject&) = delete;
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) override {
-        const bool known = id == IID_IUnknown || id == IID_IDispatch || id == __uuidof(Interface);
-        *object = known ? this : nullptr;
-        if (!known)
-            return Unknown();
+        if (id == IID_IUnknown || id == IID_IDispatch || id == __uuidof(Interface) || id == claimed_)
+            *object = static_cast<Interface*>(this);
+        else if (id == IID_ISupportErrorInfo && answers_)
+            *object = static_cast<ISupportErrorInfo*>(this);
+        else if (other_)
+            return other_->QueryInterface(id, object);
+        else
+            return *object = nullptr, Unknown();
         this->AddRef();
         return S_OK;
     }
@@ -36,6 +49,10 @@ public:
         return E_NOTIMPL;
     }
 
+    STDMETHODIMP InterfaceSupportsErrorInfo(REFIID id) override {
+        return id == __uuidof(Interface) ? S_OK : S_FALSE;
+    }
+
 protected:
     virtual ~ForeignObject() = default;
 
@@ -43,6 +60,9 @@ protected:
     virtual HRESULT Unknown() { return E_NOINTERFACE; }
 
 private:
+    bool answers_ = true;
+    IID claimed_{};
+    Ref<IUnknown> other_;
     ULONG references_ = 1;
 };
 

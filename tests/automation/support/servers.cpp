@@ -21,8 +21,7 @@ std::wstring ProgramFolder() {
     return full.substr(0, full.rfind(L'\\') + 1);
 }
 
-Server::Server(const std::wstring& name)
-    : path_(ProgramFolder() + name + L".dll"), module_(LoadLibraryW(path_.c_str())) {}
+Server::Server(const std::wstring& path) : path_(path), module_(LoadLibraryW(path_.c_str())) {}
 
 Server::~Server() {
     FreeLibrary(module_);
@@ -61,12 +60,12 @@ Ref<IClassFactory> Server::Factory(REFCLSID clsid) const {
 }
 
 Server& QMathServer() {
-    static Server server(L"QMath");
+    static Server server(ProgramFolder() + L"QMath.dll");
     return server;
 }
 
 Server& QSymbolServer() {
-    static Server server(L"QSymbol");
+    static Server server(ProgramFolder() + L"QSymbol.dll");
     return server;
 }
 

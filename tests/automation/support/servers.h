@@ -8,11 +8,10 @@
 
 namespace support {
 
-/// One of the two DLLs beside the program, reached through its entry points.
+/// A copy of one of the two DLLs, loaded by its full path and reached through its entry points.
 class Server {
 public:
-    /// Loads "QMath" or "QSymbol" from the program's folder.
-    explicit Server(const std::wstring& name);
+    explicit Server(const std::wstring& path);
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
     ~Server();
@@ -33,7 +32,7 @@ private:
     HMODULE module_ = nullptr;
 };
 
-/// Both DLLs, loaded for the whole run.
+/// The DLLs beside the program, loaded for the whole run.
 Server& QMathServer();
 Server& QSymbolServer();
 

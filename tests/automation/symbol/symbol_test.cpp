@@ -203,7 +203,10 @@ TEST_F(Symbol, AnElementWithoutAPointListFails) {
     Ref<_CSymElement> element;
     EXPECT_OK(elements->get_ItemByPos(1, element.Put()));
     EXPECT_OK(element->putref_PtList(nullptr));
+    EXPECT_OK(symbol->CreateNew(5, 6, 7, 8, NewElements({kTriangle}).Get()));
     EXPECT_EQ(Outcome(symbol->CreateNew(1, 2, 3, 4, elements.Get())), RunTimeError(91));
+    ExpectFrame(1, 2, 3, 4); // is stored first; elements are replaced as a whole
+    EXPECT_EQ(ElementsOf(symbol.Get()), (std::vector<ElementSpec>{kTriangle}));
 }
 
 TEST_F(Symbol, AnEmptyCollectionFails) {
