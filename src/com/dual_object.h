@@ -19,7 +19,7 @@ namespace com {
 template <class Face, class Interface>
 class DualObject : public Interface, public ISupportErrorInfo, public IProvideClassInfo2 {
 public:
-    DualObject() { TheModule().Lock(); }
+    DualObject() { TheModule().ObjectMade(); }
     DualObject(const DualObject&) = delete;
     DualObject& operator=(const DualObject&) = delete;
 
@@ -39,14 +39,13 @@ public:
         if (object == nullptr)
             return E_POINTER;
         *object = nullptr;
-        if (iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(Interface))
+        if (iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(Interface) ||
+            iid == PrivateId<Face>())
             *object = static_cast<Interface*>(this);
         else if (iid == IID_ISupportErrorInfo)
             *object = static_cast<ISupportErrorInfo*>(this);
         else if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2)
             *object = static_cast<IProvideClassInfo2*>(this);
-        else if (iid == PrivateId<Face>())
-            *object = static_cast<Face*>(this);
         else
             return E_NOINTERFACE;
         this->AddRef();
@@ -111,7 +110,7 @@ public:
     }
 
 protected:
-    virtual ~DualObject() { TheModule().Unlock(); }
+    virtual ~DualObject() { TheModule().ObjectGone(); }
 
     /// Runs the body of a method: no exception leaves it, and the object lives until its end, whatever a host
     /// does meanwhile.

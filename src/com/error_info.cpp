@@ -13,6 +13,26 @@
 
 namespace com {
 
+namespace {
+
+/// Sets the thread's error info; an empty source becomes the library's name.
+void SetErrorInfo(REFIID iid, std::u16string_view source, std::u16string_view description) noexcept {
+    try {
+        ComPtr<ICreateErrorInfo> create;
+        if (FAILED(CreateErrorInfo(create.Put())))
+            return;
+        create->SetGUID(iid);
+        create->SetSource(Bstr(source.empty() ? TheModule().Name() : source).Get());
+        create->SetDescription(Bstr(description).Get());
+        if (const ComPtr<IErrorInfo> info = create.As<IErrorInfo>())
+            ::SetErrorInfo(0, info.Get());
+    } catch (...) {
+        ::SetErrorInfo(0, nullptr);
+    }
+}
+
+} // namespace
+
 base::Error CurrentError() {
     try {
         throw;
@@ -33,21 +53,6 @@ HRESULT ReportCurrentException(REFIID iid) noexcept {
         return static_cast<HRESULT>(error.Status());
     } catch (...) {
         return E_OUTOFMEMORY;
-    }
-}
-
-void SetErrorInfo(REFIID iid, std::u16string_view source, std::u16string_view description) noexcept {
-    try {
-        ComPtr<ICreateErrorInfo> create;
-        if (FAILED(CreateErrorInfo(create.Put())))
-            return;
-        create->SetGUID(iid);
-        create->SetSource(Bstr(source.empty() ? TheModule().Name() : source).Get());
-        create->SetDescription(Bstr(description).Get());
-        if (const ComPtr<IErrorInfo> info = create.As<IErrorInfo>())
-            ::SetErrorInfo(0, info.Get());
-    } catch (...) {
-        ::SetErrorInfo(0, nullptr);
     }
 }
 

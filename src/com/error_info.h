@@ -23,9 +23,6 @@ inline void Check(HRESULT status) {
         ThrowSystemFailure(status);
 }
 
-/// Sets the thread's error info; an empty source becomes the library's name.
-void SetErrorInfo(REFIID iid, std::u16string_view source, std::u16string_view description) noexcept;
-
 /// Runs a face method: no exception leaves it, every failure carries error info.
 template <class Body>
 HRESULT Guard(REFIID iid, Body&& body) noexcept {

@@ -2,11 +2,36 @@
 
 #include "com/error_info.h"
 
+#include <algorithm>
+
 namespace com {
 
 Module& TheModule() {
     static Module module;
     return module;
+}
+
+namespace {
+
+thread_local long g_objects = 0; ///< that belong to this thread
+
+} // namespace
+
+void Module::ObjectMade() {
+    Lock();
+    ++g_objects;
+}
+
+void Module::ObjectGone() {
+    // A host that breaks the rules lets an object of another thread go: then there is one less than none.
+    g_objects = std::max(g_objects - 1, 0L);
+    if (g_objects == 0 && identity_.threadIsIdle != nullptr)
+        identity_.threadIsIdle();
+    Unlock();
+}
+
+bool Module::CanUnload() const {
+    return locks_ == 0 && (identity_.mayUnload == nullptr || identity_.mayUnload());
 }
 
 void Module::Start(HINSTANCE instance, const Identity& identity) {

@@ -24,6 +24,10 @@ public:
         WORD minor;
         LCID locale;
         std::span<const ClassEntry> classes;
+        /// Called when the last object of a thread goes, and when the system asks whether the DLL may: each
+        /// may be missing.
+        void (*threadIsIdle)() noexcept = nullptr;
+        bool (*mayUnload)() noexcept = nullptr;
     };
 
     void Start(HINSTANCE instance, const Identity& identity);
@@ -43,8 +47,11 @@ public:
 
     void Lock() { ++locks_; }
     void Unlock() { --locks_; }
+    /// A lock for the life of an object that belongs to the calling thread.
+    void ObjectMade();
+    void ObjectGone();
     /// True when no object lives and no lock is held.
-    bool CanUnload() const { return locks_ == 0; }
+    bool CanUnload() const;
 
 private:
     HINSTANCE instance_ = nullptr;

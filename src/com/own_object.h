@@ -24,15 +24,19 @@ const IID& PrivateId() {
 }
 
 /// The library's own object behind an interface that a host passed; empty for any other object. Passes on
-/// what the object says when it is asked, unless that it does not know the question.
+/// what the object says when it is asked, unless that it does not know the question. The caller holds the
+/// object.
 template <class Face, class Interface>
 ComPtr<Face> Own(Interface& object) {
-    ComPtr<Face> own;
-    Query(object, PrivateId<Face>(), own.PutVoid());
+    struct Nobody;
+    ComPtr<IUnknown> known;
+    Query(object, PrivateId<Face>(), known.PutVoid());
     // An object that hands all questions on to one of ours is another one.
-    if (own && static_cast<Interface*>(own.Get()) != &object)
-        own.Reset();
-    return own;
+    if (known.Get() != static_cast<IUnknown*>(&object))
+        return {};
+    // Nor is one of ours that says yes to every question.
+    Query(object, PrivateId<Nobody>(), known.PutVoid());
+    return known ? ComPtr<Face>() : ComPtr<Face>(static_cast<Face*>(&object));
 }
 
 } // namespace com

@@ -16,7 +16,6 @@ public:
 
     VARIANT* Get() { return &value_; }
     const VARIANT* Get() const { return &value_; }
-    VARIANT* operator->() { return &value_; }
     VARIANT* Put() {
         VariantClear(&value_);
         return &value_;

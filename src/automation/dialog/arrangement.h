@@ -20,7 +20,6 @@ public:
 
     SIZE MinimumWindow(HWND dialog) const;
     int PreviewMargin() const { return qsymbol::PreviewMargin(measures_); }
-    HFONT Font() const { return font_.Get(); }
 
 private:
     DialogFont font_;

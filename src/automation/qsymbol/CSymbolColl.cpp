@@ -85,14 +85,18 @@ STDMETHODIMP CSymbolColl::RemoveOnIndex(BSTR stName) {
 
 STDMETHODIMP CSymbolColl::ReadListe(BSTR stFolderPath, IDispatch* collSym, VARIANT_BOOL* value) {
     return Return(value, [&] {
-        const bool loaded = qsymbol::ReadListe(com::View(stFolderPath), NameListOf(collSym), *this,
-                                               library::FileEnvironmentNow());
+        const std::u16string folder = com::Text(stFolderPath); // a box may let the host change its variable
+        const bool loaded =
+            qsymbol::ReadListe(folder, NameListOf(collSym), *this, library::FileEnvironmentNow());
         return loaded ? VARIANT_TRUE : VARIANT_FALSE;
     });
 }
 
 STDMETHODIMP CSymbolColl::ReadKatalog(BSTR stFolderPath) {
-    return Do([&] { qsymbol::ReadKatalog(com::View(stFolderPath), *this, library::FileEnvironmentNow()); });
+    return Do([&] {
+        const std::u16string folder = com::Text(stFolderPath);
+        qsymbol::ReadKatalog(folder, *this, library::FileEnvironmentNow());
+    });
 }
 
 STDMETHODIMP CSymbolColl::GetSymInput(BSTR stSymName, _CSymInput** value) {

@@ -3,6 +3,7 @@
 #include "automation/qsymbol/CSymTool.h"
 #include "automation/qsymbol/CSymbol.h"
 #include "automation/qsymbol/CSymbolColl.h"
+#include "automation/qsymbol/math_library.h"
 #include "com/server.h"
 #include "qsymbol/draw/screen_point_buffer.h"
 
@@ -31,5 +32,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* reserved)
                             .major = 4,
                             .minor = 1,
                             .locale = 0x409,
-                            .classes = kClasses});
+                            .classes = kClasses,
+                            .threadIsIdle = math_library::GiveUp,
+                            .mayUnload = math_library::Unload});
 }

@@ -27,10 +27,14 @@ TEST_F(Identity, IsNotTheClassId) {
 }
 
 TEST_F(Identity, AnObjectThatClaimsTheClassDrawsItself) {
-    const auto foreign = ForeignSymbol::Create(L"Fremd");
-    foreign->ClaimToBe(CLSID_CSymbol);
-    Place(foreign.Get());
-    EXPECT_EQ(foreign->Draws().size(), 1U);
+    const auto claiming = ForeignSymbol::Create(L"Fremd");
+    claiming->ClaimToBe(CLSID_CSymbol);
+    const auto easy = ForeignSymbol::Create(L"Gefällig");
+    easy->ClaimToBeAnything();
+    for (const auto& foreign : {claiming, easy}) {
+        Place(foreign.Get());
+        EXPECT_EQ(foreign->Draws().size(), 1U);
+    }
 }
 
 TEST_F(Identity, AnObjectThatHandsQuestionsOnToOneOfOursDrawsItself) {

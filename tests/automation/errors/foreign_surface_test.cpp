@@ -164,7 +164,7 @@ TEST_F(ForeignSurface, AMissingMemberIsErrorFourHundredThirtyEight) {
 
 /// Some know values as functions, some as properties, and each may insist on it.
 TEST_F(ForeignSurface, FunctionsServeAsProperties) {
-    for (const WORD accepted : {DISPATCH_METHOD, DISPATCH_PROPERTYGET}) {
+    for (const int accepted : {DISPATCH_METHOD, DISPATCH_PROPERTYGET}) {
         int reads = 0;
         surface.answer = [&](WORD flags, VARIANT* result, EXCEPINFO*) -> HRESULT {
             if ((flags & DISPATCH_PROPERTYPUT) != 0)

@@ -14,8 +14,9 @@ public:
     /// The object sets error information but does not answer for it, like one that knows nothing of it.
     void AnswerForNothing() { answers_ = false; }
 
-    /// It gives itself for an interface that it does not have.
+    /// It gives itself for an interface that it does not have, or for every one.
     void ClaimToBe(REFIID id) { claimed_ = id; }
+    void ClaimToBeAnything() { claimsAll_ = true; }
     /// What it is not asked itself, another object is asked.
     void HandQuestionsOnTo(IUnknown* other) { other_ = Ref<IUnknown>(other); }
 
@@ -24,7 +25,8 @@ public:
     ForeignObject& operator=(const ForeignObject&) = delete;
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) override {
-        if (id == IID_IUnknown || id == IID_IDispatch || id == __uuidof(Interface) || id == claimed_)
+        if (id == IID_IUnknown || id == IID_IDispatch || id == __uuidof(Interface) || id == claimed_ ||
+            (claimsAll_ && id != IID_ISupportErrorInfo))
             *object = static_cast<Interface*>(this);
         else if (id == IID_ISupportErrorInfo && answers_)
             *object = static_cast<ISupportErrorInfo*>(this);
@@ -62,6 +64,7 @@ protected:
 private:
     bool answers_ = true;
     IID claimed_{};
+    bool claimsAll_ = false;
     Ref<IUnknown> other_;
     ULONG references_ = 1;
 };
