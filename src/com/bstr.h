@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/wide.h"
+#include "platform/wide/wide_text.h"
 
 #include <windows.h>
 
@@ -14,7 +14,7 @@ namespace com {
 
 /// The text of a BSTR, embedded zeros included; a null BSTR is empty.
 inline std::u16string_view View(BSTR text) {
-    return text == nullptr ? std::u16string_view() : base::Utf16({text, SysStringLen(text)});
+    return text == nullptr ? std::u16string_view() : platform::Utf16({text, SysStringLen(text)});
 }
 
 inline std::u16string Text(BSTR text) {

@@ -1,7 +1,7 @@
 #include "com/foreign_error.h"
 
-#include "base/wide.h"
 #include "com/com_ptr.h"
+#include "platform/wide/wide_text.h"
 
 #include <memory>
 #include <utility>
@@ -25,7 +25,7 @@ std::u16string SystemText(HRESULT status) {
         FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
         static_cast<DWORD>(status), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
     const std::unique_ptr<wchar_t, LocalDeleter> owner(text);
-    std::u16string_view result = base::Utf16({text, length});
+    std::u16string_view result = platform::Utf16({text, length});
     while (!result.empty() && (result.back() == u'\r' || result.back() == u'\n' || result.back() == u' '))
         result.remove_suffix(1);
     return std::u16string(result.empty() ? kAutomationError : result);

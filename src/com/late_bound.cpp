@@ -40,7 +40,7 @@ bool LateBoundMember::Exists() {
 
 void LateBoundMember::ThrowMissing() {
     std::u16string text(base::Description(base::RunTimeError::NoSuchMember));
-    text.append(u": ").append(TypeName(object_)).append(u".").append(base::Utf16(name_));
+    text.append(u": ").append(TypeName(object_)).append(u".").append(platform::Utf16(name_));
     throw base::Error(static_cast<std::int32_t>(base::RunTimeError::NoSuchMember), {}, std::move(text));
 }
 

@@ -2,6 +2,7 @@
 
 #include "com/class_entry.h"
 #include "com/com_ptr.h"
+#include "platform/wide/module_path.h"
 
 #include <windows.h>
 
@@ -38,9 +39,9 @@ public:
     std::u16string_view Name() const { return identity_.name; }
     const Identity& GetIdentity() const { return identity_; }
     /// Full path of the DLL; empty when the system does not tell.
-    std::wstring Path() const;
+    std::wstring Path() const { return platform::ModulePath(instance_); }
     /// Folder of the DLL with a backslash at its end.
-    std::wstring Folder() const;
+    std::wstring Folder() const { return platform::ModuleFolder(instance_); }
 
     /// The type library from the DLL's own resource, loaded once.
     ITypeLib& TypeLibrary();

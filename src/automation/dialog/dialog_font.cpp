@@ -1,7 +1,7 @@
 #include "automation/dialog/dialog_font.h"
 
 #include "automation/dialog/system_dpi.h"
-#include "base/wide.h"
+#include "platform/wide/wide_text.h"
 
 namespace dialog {
 
@@ -35,13 +35,13 @@ TextMeter::~TextMeter() {
 
 int TextMeter::Width(std::u16string_view text) const {
     SIZE size{};
-    GetTextExtentPoint32W(context_, base::Wide(text.data()), static_cast<int>(text.size()), &size);
+    GetTextExtentPoint32W(context_, platform::Wide(text.data()), static_cast<int>(text.size()), &size);
     return size.cx;
 }
 
 int TextMeter::CaptionWidth(std::u16string_view caption) const {
     RECT box{};
-    DrawTextW(context_, base::Wide(caption.data()), static_cast<int>(caption.size()), &box,
+    DrawTextW(context_, platform::Wide(caption.data()), static_cast<int>(caption.size()), &box,
               DT_CALCRECT | DT_SINGLELINE);
     return box.right - box.left;
 }

@@ -1,9 +1,9 @@
 #include "automation/qsymbol/font_access.h"
 
-#include "base/wide.h"
 #include "com/error_info.h"
 #include "com/late_bound.h"
 #include "com/object_call.h"
+#include "platform/wide/wide_text.h"
 
 #include <cmath>
 
@@ -46,7 +46,7 @@ com::ComPtr<IFontDisp> NewStdFont(const qsymbol::FontRecord& record) {
     std::u16string name = record.name;
     FONTDESC description{};
     description.cbSizeofstruct = sizeof description;
-    description.lpstrName = base::Wide(name.data());
+    description.lpstrName = platform::Wide(name.data());
     const double size = record.size * kCurrencyUnits;
     if (!(std::fabs(size) < 9e15))
         base::Raise(base::RunTimeError::Overflow);

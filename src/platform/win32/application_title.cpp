@@ -1,5 +1,8 @@
 #include "platform/win32/application_title.h"
 
+#include "platform/wide/module_path.h"
+#include "platform/wide/wide_text.h"
+
 #include <windows.h>
 
 #include <vector>
@@ -7,17 +10,6 @@
 namespace platform {
 
 namespace {
-
-std::wstring ProgramPath() {
-    std::wstring path(MAX_PATH, L'\0');
-    DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    while (length >= path.size()) {
-        path.resize(path.size() * 2);
-        length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    }
-    path.resize(length);
-    return path;
-}
 
 std::wstring FileDescription(const std::wstring& path) {
     DWORD ignored = 0;
@@ -47,13 +39,13 @@ std::wstring FileDescription(const std::wstring& path) {
 } // namespace
 
 std::u16string ApplicationTitle() {
-    const std::wstring path = ProgramPath();
+    const std::wstring path = ModulePath(nullptr);
     std::wstring title = FileDescription(path);
     if (title.empty()) {
         title = path.substr(path.find_last_of(L"\\/") + 1);
         title = title.substr(0, title.rfind(L'.'));
     }
-    return std::u16string(title.begin(), title.end());
+    return std::u16string(Utf16(title));
 }
 
 } // namespace platform

@@ -1,6 +1,7 @@
 #include "platform/win32/jpeg_file.h"
 
 #include "base/error.h"
+#include "platform/wide/wide_text.h"
 
 #include <objbase.h>
 #include <objidl.h>
@@ -47,8 +48,7 @@ Gdiplus::GpStatus SaveImage(Gdiplus::GpImage* image, const std::u16string& fileN
     parameters.Parameter[0].NumberOfValues = 1;
     parameters.Parameter[0].Type = Gdiplus::EncoderParameterValueTypeLong;
     parameters.Parameter[0].Value = &quality;
-    return flat::GdipSaveImageToFile(image, reinterpret_cast<const wchar_t*>(fileName.c_str()), &encoder,
-                                     &parameters);
+    return flat::GdipSaveImageToFile(image, Wide(fileName), &encoder, &parameters);
 }
 
 Gdiplus::GpStatus SaveBitmap(HBITMAP picture, const std::u16string& fileName, LONG quality) {

@@ -1,6 +1,7 @@
 #include "base/letter_case.h"
 
 #include "base/checked.h"
+#include "platform/wide/wide_text.h"
 
 #include <windows.h>
 
@@ -11,9 +12,8 @@ namespace {
 std::u16string Mapped(std::u16string_view text, DWORD flags) {
     std::u16string result(text);
     if (!text.empty())
-        LCMapStringEx(LOCALE_NAME_INVARIANT, flags, reinterpret_cast<const wchar_t*>(text.data()),
-                      Narrow<int>(text.size()), reinterpret_cast<wchar_t*>(result.data()),
-                      Narrow<int>(result.size()), nullptr, nullptr, 0);
+        LCMapStringEx(LOCALE_NAME_INVARIANT, flags, platform::Wide(text.data()), Narrow<int>(text.size()),
+                      platform::Wide(result.data()), Narrow<int>(result.size()), nullptr, nullptr, 0);
     return result;
 }
 

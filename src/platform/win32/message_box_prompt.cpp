@@ -1,5 +1,6 @@
 #include "platform/win32/message_box_prompt.h"
 
+#include "platform/wide/wide_text.h"
 #include "platform/win32/application_title.h"
 
 #include <windows.h>
@@ -13,8 +14,7 @@ namespace {
 int Show(std::u16string_view text, std::u16string_view title, UINT type) {
     const std::u16string ownText(text);
     const std::u16string ownTitle(title);
-    return MessageBoxW(GetActiveWindow(), reinterpret_cast<const wchar_t*>(ownText.c_str()),
-                       reinterpret_cast<const wchar_t*>(ownTitle.c_str()), type);
+    return MessageBoxW(GetActiveWindow(), Wide(ownText), Wide(ownTitle), type);
 }
 
 } // namespace

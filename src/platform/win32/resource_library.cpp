@@ -1,5 +1,7 @@
 #include "platform/win32/resource_library.h"
 
+#include "platform/wide/module_path.h"
+
 namespace platform {
 
 namespace {
@@ -8,20 +10,13 @@ HMODULE LoadAsData(const std::wstring& path) {
     return LoadLibraryExW(path.c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE | LOAD_LIBRARY_AS_IMAGE_RESOURCE);
 }
 
-std::wstring HostFolder() {
-    wchar_t path[MAX_PATH * 4];
-    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH * 4);
-    const std::wstring full(path, length < MAX_PATH * 4 ? length : 0);
-    return full.substr(0, full.rfind(L'\\') + 1);
-}
-
 } // namespace
 
 void ResourceLibrary::OpenResourceFile(const std::wstring& folder, const wchar_t* fileName) {
     // Full paths only: the search path could hold somebody else's library.
     library_ = LoadAsData(folder + fileName);
     if (library_ == nullptr)
-        library_ = LoadAsData(HostFolder() + fileName);
+        library_ = LoadAsData(ModuleFolder(nullptr) + fileName);
 }
 
 std::u16string ResourceLibrary::LoadResString(std::int32_t id) const {

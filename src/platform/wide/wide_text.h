@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace base {
+namespace platform {
 
 static_assert(sizeof(wchar_t) == sizeof(char16_t), "only where the system's wide texts are UTF-16");
 
@@ -22,4 +22,4 @@ inline std::u16string_view Utf16(std::wstring_view text) {
     return {reinterpret_cast<const char16_t*>(text.data()), text.size()};
 }
 
-} // namespace base
+} // namespace platform
