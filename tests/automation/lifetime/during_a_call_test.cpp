@@ -157,10 +157,12 @@ TEST_F(DuringACall, TheHostMayLetGoOfEverything) {
                 objects = {};
                 ASSERT_EQ(support::QSymbolServer().CanUnloadNow(), S_FALSE) << "the called object is gone";
                 EXPECT_GE(ReferencesOf(called), 1U);
-                if (road.usesBox)
+                if (road.usesBox) {
                     EXPECT_GE(ReferencesOf(surface), from == "box" ? 2U : 1U); // a box at work holds itself
-                if (road.usesTrans)
+                }
+                if (road.usesTrans) {
                     EXPECT_GE(ReferencesOf(trans), 1U);
+                }
             });
             EXPECT_GT(drops, 0);
             EXPECT_TRUE(drawn.Pixels() == undisturbed);

@@ -20,9 +20,9 @@ const support::Failure kFailure{support::Numbered(1000), L"Plan", L"Geht nicht"}
 class OpenBox : public catalogue::CatalogueTest {
 protected:
     OpenBox() {
-        AddFile(L"da.syb");
+        support::WriteBytes(folder / L"da.syt", "x");
         AddBrokenFile(L"kaputt.syb");
-        support::WriteLines(folder / L"fremd.wsc", {"UNBEKANNT 1 2 3"});
+        support::WriteLines(folder / L"fremd.wsc", {"BLT 120 80 0 0 0", "XYZ 1 2", "END"});
         surface->Fail("get", kFailure);
         refusing->RefuseQuestions(kFailure);
     }
@@ -93,7 +93,7 @@ protected:
                      EXPECT_OK(all->PtIdent(nullptr, 0, 0, hit.InOut(), pt.InOut(), &found));
                  })},
                 {"CSymbol.ReadFromFile", IDOK, file(L"fremd.wsc", &_CSymbol::ReadFromFile)},
-                {"CSymbol.Write2File", IDYES, file(L"da.syb", &_CSymbol::Write2File)},
+                {"CSymbol.Write2File", IDYES, file(L"da.syt", &_CSymbol::Write2File)},
                 {"CSymbol.Draw2PBox", IDOK,
                  [this](Ref<IDispatch>& only) -> std::function<void()> {
                      auto* const symbol = Keep(only, support::NewSymbol());
