@@ -149,7 +149,8 @@ TEST_F(FailingFittedDrawing, OnAnObjectThatIsNoBox) {
     EXPECT_OK(symbol->Draw2PBox(symbol.Get()));
     EXPECT_EQ(boxes.Seen(),
               std::vector{support::ErrorBox(
-                  L"CSymbol.Draw2PBox\r\nObjekt unterstützt diese Eigenschaft oder Methode nicht")});
+                  L"CSymbol.Draw2PBox\r\nObjekt unterstützt diese Eigenschaft oder Methode nicht: "
+                  L"CSymbol.ScaleWidth")});
 }
 
 } // namespace
