@@ -10,6 +10,7 @@
 #include "automation/qsymbol/math_objects.h"
 #include "automation/shared/point_access.h"
 #include "com/bstr.h"
+#include "platform/win32/gdi_text_measure.h"
 #include "qsymbol/draw/bounds.h"
 #include "qsymbol/draw/fitted_drawing.h"
 #include "qsymbol/draw/hit_test.h"
@@ -165,7 +166,8 @@ STDMETHODIMP CSymbol::Draw2PBox(IDispatch* PBox) {
         const double height = com::LateBoundMember(*PBox, L"ScaleHeight").GetDouble();
         HostSurface surface(*PBox);
         last_factors::Keep(qsymbol::kUnscaled);
-        qsymbol::DrawFitted(*symbol, surface, width, height);
+        const platform::GdiTextMeasure texts;
+        qsymbol::DrawFitted(*symbol, surface, width, height, &texts);
     }));
 }
 

@@ -16,8 +16,8 @@ HFONT CreateGdiFont(const base::FontRequest& request) {
     font.lfUnderline = request.underline ? TRUE : FALSE;
     font.lfStrikeOut = request.strikethrough ? TRUE : FALSE;
     font.lfCharSet = DEFAULT_CHARSET;
-    // A turned text needs a scalable font.
-    font.lfOutPrecision = OUT_TT_PRECIS;
+    // A raster font cannot turn, whatever its name.
+    font.lfOutPrecision = OUT_TT_ONLY_PRECIS;
     const std::size_t length = request.name.size() < LF_FACESIZE - 1 ? request.name.size() : LF_FACESIZE - 1;
     for (std::size_t i = 0; i < length; ++i)
         font.lfFaceName[i] = static_cast<wchar_t>(request.name[i]);

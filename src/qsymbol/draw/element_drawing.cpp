@@ -24,7 +24,9 @@ void DrawElements(std::size_t count, const std::function<ElementRecord(std::size
     if (count == 0)
         return;
     surface.PutDrawMode(kDrawModeCopy);
-    ElementPainter painter(surface, transformation, PaintRules());
+    PaintRules rules;
+    rules.copyMode = true;
+    ElementPainter painter(surface, transformation, rules);
     for (std::size_t i = 0; i < count; ++i)
         painter.Paint(element(i));
 }

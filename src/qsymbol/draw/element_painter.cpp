@@ -1,22 +1,19 @@
 #include "qsymbol/draw/element_painter.h"
 
 #include "base/checked.h"
+#include "qmath/arc.h"
 #include "qmath/math_util.h"
+#include "qsymbol/draw/font_size.h"
 #include "qsymbol/draw/screen_point_buffer.h"
-#include "qsymbol/draw/selected_font.h"
 #include "qsymbol/draw/surface_constants.h"
+#include "qsymbol/model/element_extent.h"
 
 #include <algorithm>
-#include <optional>
+#include <array>
 
 namespace qsymbol {
 
 namespace {
-
-/// World units to a millimetre, as font sizes take them.
-constexpr double kFontFactor = 100.0;
-/// A text record with the size flag keeps its font size in hundredths.
-constexpr double kFlaggedSizeDivisor = 100.0;
 
 std::size_t PointCount(ElementType type) {
     return type == ElementType::Arc ? 3 : 1;
@@ -30,7 +27,7 @@ qmath::Rect SquareAround(qmath::Point centre, std::int32_t radius) {
 } // namespace
 
 void ElementPainter::Paint(const ElementRecord& element) {
-    if (!HasItsPoints(element))
+    if (!CanBePainted(element))
         return;
     switch (element.type) {
     case ElementType::Poly: return PaintPoly(element);
@@ -41,10 +38,10 @@ void ElementPainter::Paint(const ElementRecord& element) {
     }
 }
 
-bool ElementPainter::HasItsPoints(const ElementRecord& element) const {
-    const std::size_t count = element.points.size();
+bool ElementPainter::CanBePainted(const ElementRecord& element) const {
     if (rules_.source == PaintSource::SymbolRecord)
-        return count >= PointCount(element.type);
+        return HasItsPoints(element);
+    const std::size_t count = element.points.size();
     switch (element.type) {
     case ElementType::Poly: return count >= 2;
     case ElementType::Text: return count >= 1;
@@ -86,23 +83,49 @@ void ElementPainter::PaintRound(const ElementRecord& element) {
     if (isCircle)
         surface_.Ellipse(box);
     else
-        surface_.Arc(box, points[2], points[3]);
+        PutArc(element, box, points[2], points[3]);
+}
+
+/// What the element says about its sweep counts, not what is left of it in pixels: the GDI draws the whole circle
+/// when both rays are the same.
+void ElementPainter::PutArc(const ElementRecord& arc, const qmath::Rect& box, qmath::Point start,
+                            qmath::Point end) {
+    const qmath::Arc own{arc.points[0], arc.points[1], arc.points[2]};
+    if (own.IsFullTurn())
+        return surface_.Arc(box, start, start);
+    if (start == end && own.IsBelowHalfTurn()) {
+        // A line leaves out its last pixel.
+        const std::array<qmath::Point, 2> pixel{start, {base::CheckedAdd(start.x, 1), start.y}};
+        return surface_.Polyline(pixel);
+    }
+    surface_.Arc(box, start, end);
 }
 
 void ElementPainter::PaintText(const ElementRecord& element) {
     pen_.ForeColor(Colour(element.mainColor));
+    const bool copyMode = InCopyMode();
     surface_.SetTextAlign(element.textAlign);
-    surface_.SetBkMode(rules_.copyMode ? element.textBkMode : kBkModeTransparent);
+    // An editor's element keeps its background even where that is not painted.
+    const bool keepsBackground = copyMode || rules_.source == PaintSource::Element;
+    surface_.SetBkMode(keepsBackground ? element.textBkMode : kBkModeTransparent);
 
-    std::optional<SelectedFont> font;
     if (element.font)
-        font.emplace(surface_, FontFor(element));
+        font_.Select(FontFor(element));
+    else
+        font_.Release();
     const ScreenPointBuffer::Lease buffer(ScreenPointBuffer::Shared(), 1);
     ToScreen(std::span(element.points).first(1), buffer.Points());
-    if (rules_.copyMode)
+    if (copyMode)
         surface_.WriteText(buffer.Points()[0], element.text);
     else
         surface_.WriteTextAsPath(buffer.Points()[0], element.text);
+}
+
+/// Only texts depend on it, so only they make the surface be asked.
+bool ElementPainter::InCopyMode() {
+    if (!rules_.copyMode)
+        rules_.copyMode = surface_.DrawMode() == kDrawModeCopy;
+    return *rules_.copyMode;
 }
 
 void ElementPainter::PutPen(const ElementRecord& element, bool filled) {
@@ -135,7 +158,7 @@ base::FontRequest ElementPainter::FontFor(const ElementRecord& element) const {
 std::int32_t ElementPainter::FontHeight(const ElementRecord& element) const {
     const std::int16_t size = base::RoundToInteger(element.font->size);
     double height = transformation_.FontSizeToScreen(kFontFactor, size);
-    if (rules_.source == PaintSource::SymbolRecord && element.lineClosed)
+    if (rules_.source == PaintSource::SymbolRecord && HasFlaggedSize(element))
         height /= kFlaggedSizeDivisor;
     return std::max(1, base::RoundToLong(height * rules_.textFactor));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "qsymbol/draw/kept_font.h"
 #include "qsymbol/draw/paint_rules.h"
 #include "qsymbol/draw/surface_pen.h"
 #include "qsymbol/geometry/transformation.h"
@@ -16,16 +17,18 @@ namespace qsymbol {
 class ElementPainter {
 public:
     ElementPainter(Surface& surface, const Transformation& transformation, const PaintRules& rules)
-        : surface_(surface), transformation_(transformation), rules_(rules), pen_(surface) {}
+        : surface_(surface), transformation_(transformation), rules_(rules), pen_(surface), font_(surface) {}
 
     /// Draws nothing for an unknown type or a number of points that the type cannot have.
     void Paint(const ElementRecord& element);
 
 private:
-    bool HasItsPoints(const ElementRecord& element) const;
+    bool CanBePainted(const ElementRecord& element) const;
     void PaintPoly(const ElementRecord& element);
     void PaintRound(const ElementRecord& element);
+    void PutArc(const ElementRecord& arc, const qmath::Rect& box, qmath::Point start, qmath::Point end);
     void PaintText(const ElementRecord& element);
+    bool InCopyMode();
     void PutPen(const ElementRecord& element, bool filled);
     std::int32_t Colour(std::int32_t own) const { return rules_.markColor >= 0 ? rules_.markColor : own; }
     base::FontRequest FontFor(const ElementRecord& element) const;
@@ -36,6 +39,7 @@ private:
     const Transformation& transformation_;
     PaintRules rules_;
     SurfacePen pen_;
+    KeptFont font_;
 };
 
 } // namespace qsymbol

@@ -22,14 +22,15 @@ double FittingScale(double width, double height, double boxWidth, double boxHeig
 
 } // namespace
 
-void DrawFitted(const Symbol& symbol, Surface& surface, double boxWidth, double boxHeight) {
+void DrawFitted(const Symbol& symbol, Surface& surface, double boxWidth, double boxHeight,
+                const base::TextMeasure* texts) {
     if (!(boxWidth > 0 && boxHeight > 0))
         return;
     qmath::Transform transform;
     double width = symbol.width;
     double height = symbol.height;
     if (width <= 0 && height <= 0) {
-        const qmath::Rect extent = SymbolExtent(symbol);
+        const qmath::Rect extent = SymbolExtent(symbol, texts);
         transform.SetOffsetX(extent.left);
         transform.SetOffsetY(extent.top);
         width = static_cast<double>(extent.right) - extent.left;

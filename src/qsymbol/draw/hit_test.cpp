@@ -2,6 +2,7 @@
 
 #include "qmath/outline.h"
 #include "qsymbol/draw/bounds.h"
+#include "qsymbol/draw/quick_hit.h"
 
 #include <array>
 
@@ -22,6 +23,9 @@ bool ObjIdentByPt(const Symbol& symbol, const SymbolPosition& position, double s
                   const Transformation& transformation, qmath::Point screen) {
     if (IsEmpty(symbol))
         return false;
+    if (const qmath::Transform* const plain = transformation.Plain())
+        if (const auto answer = QuickHit(symbol, position, screenFactor, *plain).Contains(screen))
+            return *answer;
     return qmath::OutlineContains(ScreenOutline(symbol, position, screenFactor, transformation), screen);
 }
 
@@ -29,6 +33,9 @@ bool ObjIdentByRect(const Symbol& symbol, const SymbolPosition& position, double
                     const Transformation& transformation, const qmath::Rect& screen) {
     if (IsEmpty(symbol))
         return false;
+    if (const qmath::Transform* const plain = transformation.Plain())
+        if (const auto answer = QuickHit(symbol, position, screenFactor, *plain).Meets(screen))
+            return *answer;
     return qmath::OutlineMeets(ScreenOutline(symbol, position, screenFactor, transformation), screen);
 }
 

@@ -3,6 +3,7 @@
 #include "qsymbol/geometry/placement.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace qsymbol {
 
@@ -18,7 +19,8 @@ struct PaintRules {
     Placement placement;         ///< the identity: points are world coordinates already
     double textFactor = 1;       ///< multiplies the font height
     std::int32_t markColor = -1; ///< replaces the element's colours unless negative
-    bool copyMode = true; ///< false: the image is combined with what is there, texts have no background
+    /// False: the image is combined with what is there, and texts go out as paths. Empty: as the surface says.
+    std::optional<bool> copyMode = {};
 };
 
 } // namespace qsymbol

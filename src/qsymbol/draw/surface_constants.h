@@ -14,5 +14,9 @@ inline constexpr std::int32_t kFillStyleSolid = 0;
 inline constexpr std::int32_t kFillStyleTransparent = 1;
 inline constexpr std::int32_t kBkModeTransparent = 1;
 inline constexpr std::int32_t kBlack = 0;
+inline constexpr std::int32_t kTextAlignRight = 2;
+inline constexpr std::int32_t kTextAlignCenter = 6;
+inline constexpr std::int32_t kTextAlignBottom = 8;
+inline constexpr std::int32_t kTextAlignBaseline = 24;
 
 } // namespace qsymbol

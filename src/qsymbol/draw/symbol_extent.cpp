@@ -1,53 +1,37 @@
 #include "qsymbol/draw/symbol_extent.h"
 
-#include "qmath/point.h"
+#include "qsymbol/draw/text_box.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <limits>
 
 namespace qsymbol {
 
 namespace {
 
-constexpr std::int64_t kLowest = std::numeric_limits<std::int32_t>::min();
-constexpr std::int64_t kHighest = std::numeric_limits<std::int32_t>::max();
+/// What doubles add to a whole number by themselves does not make a box larger.
+constexpr double kNoise = 1e-6;
 
-std::int32_t Clamped(std::int64_t value) {
+std::int32_t Whole(double value) {
+    constexpr double kLowest = std::numeric_limits<std::int32_t>::min();
+    constexpr double kHighest = std::numeric_limits<std::int32_t>::max();
     return static_cast<std::int32_t>(std::clamp(value, kLowest, kHighest));
 }
 
 } // namespace
 
-qmath::Rect SymbolExtent(const Symbol& symbol) {
-    std::int64_t left = kHighest;
-    std::int64_t top = kHighest;
-    std::int64_t right = kLowest;
-    std::int64_t bottom = kLowest;
-    const auto include = [&](qmath::Point point, std::int64_t reach) {
-        left = std::min(left, point.x - reach);
-        top = std::min(top, point.y - reach);
-        right = std::max(right, point.x + reach);
-        bottom = std::max(bottom, point.y + reach);
-    };
-    for (const ElementRecord& element : symbol.elements) {
-        if (element.points.empty())
-            continue;
-        switch (element.type) {
-        case ElementType::Poly:
-            for (const qmath::Point point : element.points)
-                include(point, 0);
-            break;
-        case ElementType::Circle:
-        case ElementType::Arc: include(element.points[0], std::abs(std::int64_t{element.radius})); break;
-        case ElementType::Text: include(element.points[0], 0); break;
-        case ElementType::Undefined: break;
-        }
-    }
-    if (left > right)
+qmath::Rect SymbolExtent(const Symbol& symbol, const base::TextMeasure* texts) {
+    Box box = symbol.elements.Extent().drawn;
+    if (texts != nullptr)
+        for (const ElementRecord& element : symbol.elements)
+            if (element.type == ElementType::Text)
+                IncludeText(box, element, *texts);
+    if (box.IsEmpty())
         return {};
-    return {Clamped(left), Clamped(top), Clamped(right), Clamped(bottom)};
+    return {Whole(std::floor(box.left + kNoise)), Whole(std::floor(box.top + kNoise)),
+            Whole(std::ceil(box.right - kNoise)), Whole(std::ceil(box.bottom - kNoise))};
 }
 
 } // namespace qsymbol

@@ -1,6 +1,7 @@
 #include "qsymbol/export/arc_geometry.h"
 
 #include "base/checked.h"
+#include "qmath/arc.h"
 #include "qmath/math_util.h"
 
 #include <cmath>
@@ -16,6 +17,12 @@ double DirectionDegrees(qmath::Point centre, qmath::Point point) {
     const double dx = static_cast<double>(point.x) - centre.x;
     const double dy = static_cast<double>(centre.y) - point.y;
     return qmath::VectorAngle(dx, dy) / qmath::kPi * 180;
+}
+
+double SweepDegrees(const qmath::Arc& arc) {
+    return std::fmod(DirectionDegrees(arc.centre, arc.end) - DirectionDegrees(arc.centre, arc.start) +
+                         kFullTurn,
+                     kFullTurn);
 }
 
 ArcGeometry Through(qmath::Point centre, qmath::Point onCircle, qmath::Point start, qmath::Point end) {
@@ -42,10 +49,18 @@ std::optional<ArcGeometry> PlacedArc(const ElementRecord& element, const Placeme
                            .endDegrees = kFullTurn};
     }
     if (element.type == ElementType::Arc && count == 3) {
-        ArcGeometry arc = Through(placed(0), placed(1), placed(1), placed(2));
-        if (placed(1) == placed(2)) {
+        const qmath::Point centre = placed(0);
+        const qmath::Point start = placed(1);
+        const qmath::Point end = placed(2);
+        ArcGeometry arc = Through(centre, start, start, end);
+        const qmath::Arc own{element.points[0], element.points[1], element.points[2]};
+        const bool meets = qmath::Arc{centre, start, end}.IsFullTurn();
+        if (own.IsFullTurn() || (meets && !own.IsBelowHalfTurn())) {
             arc.startDegrees = 0;
             arc.endDegrees = kFullTurn;
+        } else if (meets) {
+            // Equal angles would be read as a full turn: the sweep that rounding took away comes back.
+            arc.endDegrees = std::fmod(arc.startDegrees + SweepDegrees(own), kFullTurn);
         }
         return arc;
     }

@@ -21,7 +21,7 @@ struct ArcGeometry {
 ///
 /// Four points or more are taken as they stand: centre, a point on the circle, start, end. A circle of fewer
 /// points has the record's radius and makes a full turn, 0 to 360 degrees. An arc of three points (centre,
-/// start, end) passes through its start; where start and end fall together it makes a full turn, as it is
+/// start, end) passes through its start; where start and end lie in one direction it makes a full turn, as it is
 /// drawn. Records with too few points to be drawn give nothing. Error 6 outside the 32-bit range.
 std::optional<ArcGeometry> PlacedArc(const ElementRecord& element, const Placement& placement);
 

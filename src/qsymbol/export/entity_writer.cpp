@@ -4,6 +4,7 @@
 #include "qmath/math_util.h"
 #include "qsymbol/export/arc_geometry.h"
 #include "qsymbol/export/colour_table.h"
+#include "qsymbol/export/dxf_text.h"
 
 #include <string_view>
 
@@ -91,7 +92,7 @@ void EntityWriter::WriteText(const ElementRecord& element) {
     out_.Fixed("20", base::CheckedSub(etagenbreite_, anchor.y));
     out_.Text("30", kZero);
     out_.Real("40", base::RoundToLong(element.font->size) / kPointsPerUnit);
-    out_.Text("1", codePage_.Encode(element.text));
+    out_.Text("1", DxfText(element.text, codePage_));
     out_.Whole("62", NumberOfColour(element.mainColor));
     out_.Fixed("50", base::RoundToLong(degrees * 10.0) * kTenth);
 }

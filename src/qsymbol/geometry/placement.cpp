@@ -1,27 +1,8 @@
 #include "qsymbol/geometry/placement.h"
 
-#include <cmath>
+#include "qsymbol/geometry/turn.h"
 
 namespace qsymbol {
-
-namespace {
-
-struct Turn {
-    double angle = 0;
-    double sine = 0;
-    double cosine = 1;
-};
-
-/// Sine and cosine of the last angle asked for. A host draws and tests many symbols at the same few angles,
-/// and the two functions cost as much as all the rest of a hit test.
-const Turn& TurnBy(double angle) {
-    static Turn last;
-    if (angle != last.angle)
-        last = {angle, std::sin(angle), std::cos(angle)};
-    return last;
-}
-
-} // namespace
 
 Placement::Placement(qmath::Point reference, const SymbolPosition& position, double factor)
     : refX_(reference.x), refY_(reference.y), atX_(position.at.x), atY_(position.at.y),

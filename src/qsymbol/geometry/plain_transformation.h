@@ -19,6 +19,7 @@ public:
     std::int32_t FontSizeToScreen(double factor, std::int16_t size) const override {
         return transform_.FontSizeToScreen(factor, size);
     }
+    const qmath::Transform* Plain() const override { return &transform_; }
 
 private:
     qmath::Transform transform_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qmath/point.h"
+#include "qmath/transform.h"
 
 #include <cstdint>
 #include <span>
@@ -27,6 +28,10 @@ public:
     virtual std::int32_t LengthToScreen(std::int32_t length) const = 0;
     /// Character height in pixels for a font size in points; factor is world units to a millimetre.
     virtual std::int32_t FontSizeToScreen(double factor, std::int16_t size) const = 0;
+
+    /// The map as a value where it is one of our own, so that arithmetic can do without calls; nullptr where only
+    /// an object knows it.
+    virtual const qmath::Transform* Plain() const { return nullptr; }
 };
 
 } // namespace qsymbol

@@ -145,8 +145,8 @@ TEST(ElementDrawing, Text) {
                  .italic = false,
                  .strikethrough = true,
                  .underline = false};
-    EXPECT_EQ(Draw(text), (Calls{"ForeColor=11", "TextAlign=24", "BkMode=2", "Font 42 300 b--s Courier",
-                                 "Text (10,20) Tisch", "ReleaseFont"}));
+    EXPECT_EQ(Draw(text), (Calls{"ForeColor=11", "DrawMode?", "TextAlign=24", "BkMode=2",
+                                 "Font 42 300 b--s Courier", "Text (10,20) Tisch", "ReleaseFont"}));
     text.font = {.name = u"Times",
                  .size = 12.5,
                  .bold = false,
@@ -154,27 +154,28 @@ TEST(ElementDrawing, Text) {
                  .strikethrough = false,
                  .underline = true};
     text.textAngle = -0.0001;
-    EXPECT_EQ(Draw(text)[3], "Font 42 0 -iu- Times");
+    EXPECT_EQ(Draw(text)[4], "Font 42 0 -iu- Times");
 }
 
 TEST(ElementDrawing, TextWithoutFontUsesTheSurfacesOwn) {
     ElementRecord text = Text({100, 200}, u"abc");
     text.font.reset();
-    EXPECT_EQ(Draw(text), (Calls{"ForeColor=11", "TextAlign=0", "BkMode=1", "Text (10,20) abc"}));
+    EXPECT_EQ(Draw(text),
+              (Calls{"ForeColor=11", "DrawMode?", "TextAlign=0", "BkMode=1", "Text (10,20) abc"}));
 }
 
 TEST(ElementDrawing, TextNeedsAPointAndUsesTheFirst) {
     EXPECT_EQ(Draw(Element(ElementType::Text, {})), Calls{});
     ElementRecord text = Text({100, 200}, u"abc");
     text.points.push_back({900, 900});
-    EXPECT_EQ(Draw(text)[4], "Text (10,20) abc");
+    EXPECT_EQ(Draw(text)[5], "Text (10,20) abc");
 }
 
 TEST(ElementDrawing, TheSizeFlagMeansNothingHere) {
     ElementRecord text = Text({0, 0}, u"a");
     text.font->size = 1200;
     text.lineClosed = true;
-    EXPECT_EQ(Draw(text)[3], "Font 4233 0 ---- Arial");
+    EXPECT_EQ(Draw(text)[4], "Font 4233 0 ---- Arial");
 }
 
 TEST(ElementDrawing, AFontSizeBeyond16BitsIsError6) {

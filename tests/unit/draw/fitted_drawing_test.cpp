@@ -1,6 +1,5 @@
 #include "qsymbol/draw/fitted_drawing.h"
 
-#include "qsymbol/draw/symbol_extent.h"
 #include "support/elements.h"
 #include "support/error_number_of.h"
 #include "support/recording_surface.h"
@@ -17,9 +16,6 @@ using support::Calls;
 using support::Circle;
 using support::Poly;
 using support::Text;
-
-constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
 
 /// A symbol whose only line runs along the diagonal from (0, 0) to (1000, 500).
 Symbol Diagonal(std::int32_t width, std::int32_t height) {
@@ -64,15 +60,20 @@ TEST(FittedDrawing, WithoutWidthTheHeightRules) {
     EXPECT_EQ(Fitted(Diagonal(-5, 500), 10, 100), "Polyline (0,0) (200,100)");
 }
 
-TEST(FittedDrawing, WithoutSizeTheExtentOfThePointsStandsIn) {
-    EXPECT_EQ(Fitted(Diagonal(0, 0), 100, 100), "Polyline (0,0) (100,50)");
-    EXPECT_EQ(Fitted(Diagonal(-10, -10), 100, 100), "Polyline (0,0) (100,50)");
+TEST(FittedDrawing, WithoutSizeTheTrueExtentStandsIn) {
+    // 1020 by 520 with the pen, in 102 pixels.
+    EXPECT_EQ(Fitted(Diagonal(0, 0), 102, 102), "Polyline (1,1) (101,51)");
+    EXPECT_EQ(Fitted(Diagonal(-10, -10), 102, 102), "Polyline (1,1) (101,51)");
     Symbol away;
     away.elements = {Poly({{5000, -700}, {6000, -200}})};
-    EXPECT_EQ(Fitted(away, 100, 100), "Polyline (0,0) (100,50)");
+    EXPECT_EQ(Fitted(away, 102, 102), "Polyline (1,1) (101,51)");
     Symbol circle;
-    circle.elements = {Circle({500, 500}, 250)};
-    EXPECT_EQ(Fitted(circle, 100, 50), "Ellipse (0,0) (50,50)");
+    circle.elements = {Circle({500, 500}, 240)};
+    EXPECT_EQ(Fitted(circle, 100, 50), "Ellipse (1,1) (49,49)");
+    Symbol quarter; // its circle would be four times as large
+    quarter.elements = {support::Arc({0, 0}, 480, {480, 0}, {0, -480})};
+    quarter.elements[0].lineWidth = 0;
+    EXPECT_EQ(Fitted(quarter, 48, 48), "Arc (-48,0) (48,96) (48,48) (0,0)");
 }
 
 TEST(FittedDrawing, NothingToFitDrawsNothing) {
@@ -99,21 +100,6 @@ TEST(FittedDrawing, AHostsErrorPasses) {
     surface.failing = "ForeColor";
     EXPECT_EQ(support::ErrorNumberOf([&] { qsymbol::DrawFitted(Diagonal(1000, 500), surface, 100, 100); }),
               438);
-}
-
-TEST(SymbolExtent, AroundWhatIsDrawn) {
-    Symbol symbol;
-    EXPECT_EQ(qsymbol::SymbolExtent(symbol), (qmath::Rect{0, 0, 0, 0}));
-    symbol.elements = {support::Element(ElementType::Undefined, {{-9000, 9000}}),
-                       support::Element(ElementType::Poly, {}), support::Element(ElementType::Circle, {}),
-                       Poly({{10, 20}, {30, 5}})};
-    EXPECT_EQ(qsymbol::SymbolExtent(symbol), (qmath::Rect{10, 5, 30, 20}));
-    symbol.elements.push_back(Text({-3, 40}, u"a"));
-    EXPECT_EQ(qsymbol::SymbolExtent(symbol), (qmath::Rect{-3, 5, 30, 40}));
-    symbol.elements.push_back(support::Arc({0, 0}, -50, {1, 1}, {2, 2}));
-    EXPECT_EQ(qsymbol::SymbolExtent(symbol), (qmath::Rect{-50, -50, 50, 50}));
-    symbol.elements.push_back(Circle({kLowest + 5, kHighest - 5}, kHighest));
-    EXPECT_EQ(qsymbol::SymbolExtent(symbol), (qmath::Rect{kLowest, -50, 50, kHighest}));
 }
 
 } // namespace

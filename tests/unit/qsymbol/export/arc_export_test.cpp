@@ -102,11 +102,28 @@ TEST(ArcExport, AnArcWhoseEndsMeetIsAFullTurn) {
     EXPECT_EQ(values.at(51), 360);
 }
 
+TEST(ArcExport, EndsInOneDirectionAreAFullTurnWhateverTheAngleRoundsThemTo) {
+    const Symbol collinear = Only(Element(ElementType::Arc, {{0, 0}, {30, 40}, {3000, 4000}}));
+    for (int step = 0; step < 100; ++step) {
+        const auto values = Values(Export(collinear, {.at = {5, 5}, .angle = 0.063 * step}));
+        ASSERT_EQ(values.at(50), 0) << step;
+        ASSERT_EQ(values.at(51), 360) << step;
+    }
+}
+
+TEST(ArcExport, AShortSweepThatRoundingTakesAwayIsNoFullTurn) {
+    // 1.1 degrees, of which the factor leaves nothing between the placed points.
+    const Symbol sliver = Only(Element(ElementType::Arc, {{0, 0}, {5000, 0}, {5000, -100}}));
+    const auto values = Values(Export(sliver, {}, 0.001));
+    EXPECT_EQ(values.at(50), 0);
+    EXPECT_NEAR(values.at(51), 1.1458, 1e-4);
+}
+
 TEST(ArcExport, APointAsRadius) {
     const auto values = Values(Export(Only(Element(ElementType::Arc, {{5, 5}, {5, 5}, {9, 5}}))));
     EXPECT_EQ(values.at(40), 0);
     EXPECT_EQ(values.at(50), 0);
-    EXPECT_EQ(values.at(51), 0);
+    EXPECT_EQ(values.at(51), 360);
 }
 
 TEST(ArcExport, NegativeRadiiAndFactors) {
