@@ -31,11 +31,12 @@ step_done() {
 }
 
 # What must be installed, by what it is for: a preset of CMakePresets.json or a need of tests/checks.
-COMPILING="cmake ninja-build ccache"
+COMPILING="cmake ninja-build ccache libcli11-dev nlohmann-json3-dev"
 CROSS_COMPILING="$COMPILING googletest g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix binutils-mingw-w64-x86-64
     binutils-mingw-w64-i686 mingw-w64-tools libwine-dev"
 declare -A PACKAGES=(
     [checks]="cmake ninja-build python3"
+    [linux]="$COMPILING g++"
     [native]="$COMPILING g++ googletest libdxflib-dev"
     [gcov]="$COMPILING g++ googletest gcovr"
     [release]="$COMPILING g++ libbenchmark-dev libdime-dev libdxflib-dev"
@@ -47,7 +48,7 @@ declare -A PACKAGES=(
     [display]="xvfb xdotool python3"
     [german]="locales"
     [x86]="debootstrap"
-    [lint]="clang-format clang-tidy cmake ninja-build g++ googletest ccache python3 shellcheck"
+    [lint]="$COMPILING clang-format clang-tidy g++ googletest python3 shellcheck"
 )
 
 # packages NAME…: installs the Debian packages that are missing, or names the command that would. A name with a @ stands

@@ -3,6 +3,7 @@
 #include "dxf_file.h"
 #include "plan_symbols.h"
 #include "text.h"
+#include "unfinished_file.h"
 #include "wall_outline.h"
 
 #include <algorithm>
@@ -70,22 +71,26 @@ void WriteTitleAndLabels(const Plan& plan, DxfFile& file) {
 
 void ExportPlan(const Plan& plan, _CSymbolColl& catalogue, const std::filesystem::path& path) {
     const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, catalogue);
+    // Beside the old file, which stays until the new one is whole.
+    UnfinishedFile unfinished(path);
     {
-        DxfFile file(path, DxfFile::New);
+        DxfFile file(unfinished.Path(), DxfFile::New);
         file.Begin(InFile(plan, {static_cast<double>(plan.width), 0}), {"WAENDE", "RAEUME", "SYMBOLE"});
         WriteWalls(plan, file);
         file.Close();
     }
     // The library appends each symbol on its own; the file is closed meanwhile, so nothing of ours comes
     // between.
-    const Bstr name(path.wstring());
+    const Bstr name(unfinished.Path().wstring());
     for (std::size_t i = 0; i < symbols.size(); ++i) {
         if (i == 0)
             SetScale(*symbols[i].Get());
         AppendSymbol(plan.symbols[i], Exported(plan.height * kUnitsPerMillimetre), *symbols[i].Get(), name);
     }
-    DxfFile file(path, DxfFile::Continue);
+    DxfFile file(unfinished.Path(), DxfFile::Continue);
     WriteTitleAndLabels(plan, file);
     file.End();
     file.Close();
+    if (!unfinished.Finish())
+        throw Failure{L"Die Datei lässt sich nicht schreiben: " + path.wstring()};
 }

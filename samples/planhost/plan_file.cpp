@@ -2,6 +2,7 @@
 
 #include "millimetres.h"
 #include "text.h"
+#include "unfinished_file.h"
 
 #include <cmath>
 #include <cstdio>
@@ -204,19 +205,12 @@ Plan ReadPlan(const std::filesystem::path& file) {
 
 void WritePlan(const Plan& plan, const std::filesystem::path& file) {
     const std::vector<std::string> lines = LinesOf(plan);
-    std::filesystem::path unfinished = file;
-    unfinished += L".neu";
-    std::ofstream stream(unfinished, std::ios::binary);
-    const bool isOpen = stream.is_open();
+    UnfinishedFile unfinished(file);
+    std::ofstream stream(unfinished.Path(), std::ios::binary);
     for (const std::string& line : lines)
         stream << line << '\n';
     stream.close();
-    std::error_code error;
-    if (stream)
-        std::filesystem::rename(unfinished, file, error);
-    if (stream && !error)
+    if (stream && unfinished.Finish())
         return;
-    if (isOpen)
-        std::filesystem::remove(unfinished, error);
     throw Failure{L"Der Plan kann nicht geschrieben werden: " + file.wstring()};
 }

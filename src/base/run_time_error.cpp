@@ -12,6 +12,7 @@ std::u16string_view Description(RunTimeError number) {
     case RunTimeError::BadFileName: return u"Dateiname oder -nummer falsch";
     case RunTimeError::FileNotFound: return u"Datei nicht gefunden";
     case RunTimeError::DeviceIo: return u"E/A-Fehler beim Lesen/Schreiben von Gerät";
+    case RunTimeError::FileExists: return u"Datei existiert bereits";
     case RunTimeError::DiskFull: return u"Datenträger voll";
     case RunTimeError::InputPastEnd: return u"Einlesen hinter Dateiende";
     case RunTimeError::PermissionDenied: return u"Zugriff verweigert";

@@ -15,6 +15,7 @@ enum class RunTimeError : std::int32_t {
     BadFileName = 52,
     FileNotFound = 53,
     DeviceIo = 57,
+    FileExists = 58,
     DiskFull = 61,
     InputPastEnd = 62,
     PermissionDenied = 70,

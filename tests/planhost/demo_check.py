@@ -21,6 +21,17 @@ def left(names):
         raise AssertionError(f"{symbols} symbols; missing of {names}: {missing}")
 
 
+def keeps_the_old_plan():
+    """An export that fails in its middle leaves the file of before, and nothing beside it."""
+    plan, target = OUT / "zu weit.plan", OUT / "zu weit.dxf"
+    plan.write_text("PLAN;Haus;5000;4000\nSYMBOL;Herd;100;100;0\nSYMBOL;Herd;900000;100;0\n", encoding="utf-8")
+    target.write_text("the old plan")
+    export = '. scripts/common.sh; wine_run dist/x64/planhost.exe dxf "$(windows build/demo/katalog)" "$(windows "$1")" "$(windows "$2")"'
+    ran = subprocess.run(["bash", "-c", export, "-", plan, target])
+    if ran.returncode == 0 or target.read_text() != "the old plan" or len(list(OUT.glob("zu weit.dxf*"))) != 1:
+        raise AssertionError(f"status {ran.returncode}, {sorted(OUT.glob('zu weit*'))}")
+
+
 def main():
     cases = {
         "demo": lambda: subprocess.run(["scripts/demo"], check=True),
@@ -28,6 +39,7 @@ def main():
         "its DXF file": lambda: subprocess.run(
             [sys.executable, "tests/dxf/plan_check.py", OUT / "wohnung.dxf", "samples/planhost/wohnung.plan",
              "samples/katalog", "build/native/tests/dxf/dxflib_dump"], check=True),
+        "a failed export": keeps_the_old_plan,
     }  # fmt: skip
     failed = 0
     for name, case in cases.items():

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "cli/source_file.h"
+
+#include <string>
+#include <vector>
+
+namespace cli {
+
+/// The symbol files that paths stand for: files as they are, of folders the files with an extension that can
+/// be read, in the order of their names, then, if wanted, those of the subfolders. A file that is met again
+/// is left out.
+///
+/// What cannot be used stands in the list with its failure: 53 missing, 3503 no symbol file's extension, 75
+/// no file, 70 a folder that must not be read.
+std::vector<SourceFile> SymbolFiles(const std::vector<std::string>& paths, bool recursive);
+
+} // namespace cli

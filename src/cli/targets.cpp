@@ -1,0 +1,120 @@
+#include "cli/targets.h"
+
+#include "base/letter_case.h"
+#include "base/whole_file.h"
+#include "cli/paths.h"
+#include "qmath/str_util.h"
+
+#include <filesystem>
+#include <random>
+
+namespace cli {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// One spelling for all ways to write a path; without regard to case where the system's files have none.
+std::u16string OneSpelling(const std::u16string& path) {
+    std::u16string plain = fs::absolute(fs::path(path)).lexically_normal().u16string();
+    constexpr bool kCaseMatters = fs::path::preferred_separator == '/';
+    return kCaseMatters ? plain : base::LowerCase(plain);
+}
+
+/// A name that is short enough wherever the target's own name is.
+std::u16string NameBeside() {
+    constexpr std::u16string_view kDigits = u"0123456789abcdef";
+    std::random_device random;
+    std::u16string name = u".qsymbol-";
+    for (unsigned bits = random(), i = 0; i < 8; ++i, bits >>= 4)
+        name += kDigits[bits & 15U];
+    return name + u".tmp";
+}
+
+/// A file that is gone at the end, unless it was renamed before.
+class Passing {
+public:
+    explicit Passing(fs::path path) : path_(std::move(path)) {}
+    Passing(const Passing&) = delete;
+    Passing& operator=(const Passing&) = delete;
+    ~Passing() {
+        std::error_code ignored;
+        if (!path_.empty())
+            fs::remove(path_, ignored);
+    }
+    void Rename(const fs::path& target) {
+        fs::rename(path_, target);
+        path_.clear();
+    }
+
+private:
+    fs::path path_;
+};
+
+/// The file that a link leads to, else the path itself: what is renamed would take the link's place.
+fs::path BehindLinks(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_symlink(path, ignored) ? fs::canonical(path) : path;
+}
+
+/// Error 58 for what exists and is not to be overwritten, 75 for what is no file, 70 for a protected file.
+void MakeSureItMayBeWritten(const std::u16string& path, bool overwrite) {
+    const Kind kind = KindOf(path);
+    if (kind == Kind::Missing)
+        return;
+    if (!overwrite)
+        throw RunTime(base::RunTimeError::FileExists);
+    if (kind != Kind::File)
+        throw RunTime(base::RunTimeError::PathFileAccess);
+    if ((fs::status(fs::path(path)).permissions() & fs::perms::owner_write) == fs::perms::none)
+        throw RunTime(base::RunTimeError::PermissionDenied);
+}
+
+void WriteBesideAndRename(const std::u16string& path, std::string_view bytes, base::FileSystem& files) {
+    const fs::path target = BehindLinks(fs::path(path));
+    const fs::path folder = target.parent_path();
+    if (!folder.empty())
+        fs::create_directories(folder);
+    const fs::path beside = folder / fs::path(NameBeside());
+    Passing passing(beside);
+    base::WriteWholeFile(files, beside.u16string(), base::OpenMode::Replace, bytes);
+    std::error_code none;
+    const fs::file_status old = fs::status(target, none);
+    if (fs::exists(old))
+        fs::permissions(beside, old.permissions());
+    passing.Rename(target);
+}
+
+/// Does work on a target; what fails is told of the target and not of the source.
+template <class Work>
+void OnTarget(const std::u16string& path, Work work) {
+    try {
+        work();
+    } catch (const base::Error& error) {
+        throw FailureOf(path, error);
+    } catch (const fs::filesystem_error& failure) {
+        throw FailureOf(path, ErrorOf(failure.code()));
+    }
+}
+
+} // namespace
+
+void Targets::Claim(const std::u16string& path) {
+    if (!claimed_.insert(OneSpelling(path)).second)
+        throw RunTime(base::RunTimeError::FileExists);
+    OnTarget(path, [&] { MakeSureItMayBeWritten(path, run_.options.overwrite); });
+}
+
+void Targets::Write(const std::u16string& path, std::string_view bytes) const {
+    OnTarget(path, [&] { WriteBesideAndRename(path, bytes, run_.OnSystem().files); });
+}
+
+std::u16string TargetIn(const std::u16string& folder, const SourceFile& source,
+                        std::u16string_view extension) {
+    std::u16string name(qmath::NameWithoutExtension(qmath::FileNamePart(source.path)));
+    name += u'.';
+    name += extension;
+    return Join(source.folder.empty() ? folder : Join(folder, source.folder), name);
+}
+
+} // namespace cli
