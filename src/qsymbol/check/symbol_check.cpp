@@ -13,10 +13,10 @@ namespace qsymbol {
 
 namespace {
 
-/// What a rule sees: the symbol and, if it draws lines, their extent.
+/// What a rule sees.
 struct Subject {
     const Symbol& symbol;
-    std::optional<DrawnExtent> extent;
+    Box drawn; ///< what lines reach to
 };
 
 using Found = std::vector<Finding>;
@@ -92,29 +92,29 @@ void CheckZeroSize(const Subject& subject, Found& found) {
 void CheckSizeMismatch(const Subject& subject, Found& found) {
     const double width = subject.symbol.width;
     const double height = subject.symbol.height;
-    if (!subject.extent || (width == 0 && height == 0))
+    if (subject.drawn.IsEmpty() || (width == 0 && height == 0))
         return;
     constexpr double kTolerance = 0.05;
     const double allowed = kTolerance * std::max(width, height);
-    const DrawnExtent& drawn = *subject.extent;
-    if (std::abs(drawn.Width() - width) > allowed || std::abs(drawn.Height() - height) > allowed)
+    const Box& drawn = subject.drawn;
+    if (std::abs(WidthOf(drawn) - width) > allowed || std::abs(HeightOf(drawn) - height) > allowed)
         Warn(found, "size-mismatch",
              "the nominal size is " + Size(width, height) + ", what is drawn measures " +
-                 Size(drawn.Width(), drawn.Height()));
+                 Size(WidthOf(drawn), HeightOf(drawn)));
 }
 
 void CheckReference(const Subject& subject, Found& found) {
-    if (!subject.extent)
+    if (subject.drawn.IsEmpty())
         return;
-    const DrawnExtent& drawn = *subject.extent;
+    const Box& drawn = subject.drawn;
     const double x = subject.symbol.refX;
     const double y = subject.symbol.refY;
     const double distance = std::hypot(std::max({drawn.left - x, x - drawn.right, 0.0}),
                                        std::max({drawn.top - y, y - drawn.bottom, 0.0}));
-    if (distance > drawn.LargerSide())
+    if (distance > std::max(WidthOf(drawn), HeightOf(drawn)))
         Warn(found, "reference-far",
              "the reference point is " + Rounded(distance) + " mm away from what is drawn, which measures " +
-                 Size(drawn.Width(), drawn.Height()));
+                 Size(WidthOf(drawn), HeightOf(drawn)));
 }
 
 void CheckColours(const Subject& subject, Found& found) {
@@ -142,8 +142,8 @@ void CheckTextSizes(const Subject& subject, Found& found) {
     // is written as it stands.
     constexpr double kUnitsPerPoint = 1000.0 / 30;
     double height = subject.symbol.height;
-    if (height <= 0 && subject.extent)
-        height = subject.extent->Height();
+    if (height <= 0 && !subject.drawn.IsEmpty())
+        height = HeightOf(subject.drawn);
     if (height <= 0)
         return;
     WarnOfElements(found, "dxf-text-size", subject.symbol, [&](const ElementRecord& element) -> std::string {
@@ -159,9 +159,7 @@ void CheckTextSizes(const Subject& subject, Found& found) {
 } // namespace
 
 std::vector<Finding> CheckSymbol(const Symbol& symbol) {
-    Subject subject{symbol, DrawnExtent()};
-    if (!FindDrawnExtent(symbol, *subject.extent))
-        subject.extent.reset();
+    const Subject subject{symbol, DrawnExtent(symbol)};
     Found found;
     for (const auto rule : {CheckEmpty, CheckUndefined, CheckDegenerate, CheckZeroSize, CheckSizeMismatch,
                             CheckReference, CheckColours, CheckLineBreaks, CheckTextSizes})
