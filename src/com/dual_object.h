@@ -119,6 +119,11 @@ protected:
         const ComPtr<Interface> self(static_cast<Interface*>(this));
         return Guard(__uuidof(Interface), std::forward<Body>(body));
     }
+    /// The same for a method that asks nobody, so that nobody can let go of the object meanwhile.
+    template <class Body>
+    static HRESULT Compute(Body&& body) noexcept {
+        return Guard(__uuidof(Interface), std::forward<Body>(body));
+    }
     /// Runs the body of a method and stores its result; a failure leaves nothing there.
     template <class Result, class Body>
     HRESULT Return(Result* place, Body&& body) noexcept {

@@ -15,7 +15,7 @@ STDMETHODIMP CTrans::SetOffsetY(LONG value) {
 }
 
 STDMETHODIMP CTrans::WorldToScreen(LONG* x, LONG* y) {
-    return Do([&] {
+    return Compute([&] { // the workhorse of all drawing
         const qmath::Point pixel = transform_.WorldToScreen({com::Out(x), com::Out(y)});
         *x = pixel.x;
         *y = pixel.y;

@@ -144,9 +144,10 @@ TEST_F(HostErrors, TextsThatNobodyAnswersForAreNotTaken) {
 }
 
 TEST_F(HostErrors, AnOlderErrorsTextsAreNotTaken) {
-    trans->OnCall([] { support::Throw(kFailures[0]); }); // a try whose failure the host has dealt with
-    trans->FailWordless("FontSizeToScreen", E_ACCESSDENIED);
-    const Failure seen = support::Outcome(Draw(symbol.Get(), box.Get()));
+    support::Throw(kFailures[0]); // nobody has read it
+    trans->FailWordless("WorldToScreen", E_ACCESSDENIED);
+    VARIANT_BOOL hit = VARIANT_FALSE;
+    const Failure seen = support::Outcome(symbol->ObjIdentByPt(0, 0, 0, trans.Get(), 5, 5, &hit));
     EXPECT_EQ(seen.status, E_ACCESSDENIED);
     EXPECT_EQ(seen.source, L"QSymbol");
     EXPECT_NE(seen.description, kFailures[0].description);
