@@ -39,7 +39,7 @@ declare -A PACKAGES=(
     [linux]="$COMPILING g++"
     [native]="$COMPILING g++ googletest libdxflib-dev"
     [gcov]="$COMPILING g++ googletest gcovr"
-    [release]="$COMPILING g++ libbenchmark-dev libdime-dev libdxflib-dev"
+    [release]="$COMPILING python3 g++ libbenchmark-dev libdime-dev libdxflib-dev"
     [fuzz]="$COMPILING clang libclang-rt-14-dev"
     [mingw-x64]="$CROSS_COMPILING"
     [mingw-x86]="$CROSS_COMPILING"
@@ -47,7 +47,7 @@ declare -A PACKAGES=(
     [wine]="wine wine64 fonts-liberation"
     [display]="xvfb xdotool python3"
     [german]="locales"
-    [x86]="debootstrap"
+    [x86]=""
     [lint]="$COMPILING clang-format clang-tidy g++ googletest python3 shellcheck"
 )
 

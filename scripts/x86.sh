@@ -1,4 +1,4 @@
-# Running 32-bit programs on a machine whose own Wine knows 64 bits only: in a small 32-bit Debian under build/i386.
+# Running 32-bit programs on a machine whose own Wine knows 64 bits only: Debian's 32-bit Wine, unpacked under build/i386.
 # shellcheck shell=bash
 
 X86_ROOT=$ROOT/build/i386
@@ -6,8 +6,37 @@ X86_ROOT=$ROOT/build/i386
 # x86_own: whether this machine's own Wine runs 32-bit programs.
 x86_own() { [ -x /usr/lib/wine/wine ]; }
 
-# x86_root: makes the 32-bit Debian with Wine, once. Takes root's rights and a few minutes of downloading; false where it
-# cannot be made, with the reason in build/i386.reason.
+# x86_unshare COMMAND…: with mounts of its own; without root's rights in a user namespace, where the system allows that.
+x86_unshare() {
+    if [ "$(id -u)" -eq 0 ]; then unshare --mount "$@"; else unshare --map-root-user --mount "$@"; fi
+}
+
+# x86_unpack: downloads what the 32-bit Wine needs from where this machine's own packages come from, and unpacks it. Nothing
+# of it is installed, so this takes no rights.
+x86_unpack() {
+    local folder=$ROOT/build/sources/i386 package
+    rm -rf "$folder" "$X86_ROOT"
+    mkdir -p "$folder/lists/partial" "$folder/archives/partial" "$X86_ROOT"/{tmp,dev,proc,root,program}
+    : >"$folder/status"
+    local apt=(apt-get -qq -o APT::Architecture=i386 -o APT::Architectures::=i386 -o APT::Sandbox::User=
+        -o "Dir::State::Lists=$folder/lists" -o "Dir::State::status=$folder/status" -o Debug::NoLocking=1
+        -o "Dir::State::extended_states=$folder/extended" -o "Dir::Cache=$folder")
+    "${apt[@]}" update || true # not every list has something for 32 bits
+    "${apt[@]}" -y --no-install-recommends --download-only install wine wine32 fonts-liberation libc-bin || return
+    for package in "$folder"/archives/*.deb; do
+        dpkg-deb --extract "$package" "$X86_ROOT" || return
+    done
+    rm -rf "$folder"
+    # What installing would have done: zlib as one of Wine's own libraries, which a mark of 32 bytes tells; and a user.
+    local zlib=$X86_ROOT/usr/lib/i386-linux-gnu/wine/i386-windows/zlib1.dll
+    cp "$X86_ROOT/usr/i686-w64-mingw32/lib/zlib1.dll" "$zlib"
+    printf '%-16s%b' 'Wine builtin DLL' "$(printf '\\0%.0s' {1..16})" | dd of="$zlib" bs=1 seek=64 conv=notrunc
+    mkdir -p "$X86_ROOT/etc"
+    echo "root:x:0:0::/root:/bin/sh" >"$X86_ROOT/etc/passwd"
+}
+
+# x86_root: makes the 32-bit Wine and its prefix, once; false where that is not possible, with the reason in
+# build/i386.reason.
 x86_root() {
     rm -f "$X86_ROOT.reason"
     if x86_own; then
@@ -15,74 +44,57 @@ x86_root() {
         return
     fi
     [ -f "$X86_ROOT/.ready" ] && return
-    if [ "$(id -u)" -ne 0 ] || ! unshare --mount true 2>/dev/null; then
-        echo "no 32-bit Wine here, and making one takes root's rights and a mount" >"$X86_ROOT.reason"
+    if ! x86_unshare true 2>/dev/null; then
+        echo "no 32-bit Wine here, and this user may not run one in build/i386" >"$X86_ROOT.reason"
         return 1
     fi
-    # Packages come from where this machine's own come from.
-    local release mirror
-    release=$(. /etc/os-release && echo "$VERSION_CODENAME")
-    mirror=$(apt-get indextargets --format '$(RELEASE) $(COMPONENT) $(REPO_URI)' 'Created-By: Packages' 'Origin: Debian' |
-        sed -n "s/^$release main //p" | head -n 1)
-    rm -rf "$X86_ROOT"
-    mkdir -p "$X86_ROOT"
-    timeout 1200 debootstrap --arch=i386 --variant=minbase --include=wine,wine32,fonts-liberation "$release" \
-        "$X86_ROOT" "$mirror" >"$X86_ROOT.log" 2>&1 || {
+    { x86_unpack && mkdir "$X86_ROOT/prefix" && x86_prefix; } >"$X86_ROOT.log" 2>&1 || {
         echo "no 32-bit Wine here, and none could be made: build/i386.log" >"$X86_ROOT.reason"
         return 1
     }
-    rm -f "$X86_ROOT"/var/cache/apt/archives/*.deb
-    mkdir -p "$X86_ROOT/bin-under-test"
     touch "$X86_ROOT/.ready"
 }
 
-# What happens in the 32-bit Debian: the program runs in a copy of that one's prefix, which is made like the project's own.
-X86_INSIDE=$(
-    cat <<'END'
-cd /bin-under-test
-(
-    flock 9
-    [ -f /prefix/.ready ] && exit
-    rm -rf /prefix
-    {
-        wineboot -i
-        wine reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f
-        wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v Arial /d 'Liberation Sans' /f
-        wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v 'Times New Roman' /d 'Liberation Serif' /f
-        wineserver -w
-    } >/dev/null 2>&1
-    touch /prefix/.ready
-) 9>/prefix.lock
-export WINEPREFIX=/prefixes/$1
-copy_prefix /prefix "$WINEPREFIX"
-shift
-status=0
-wine "$@" || status=$?
-wineserver -k || true
-exit $status
-END
-)
+# x86_prefix: like wine_prefix, inside.
+x86_prefix() {
+    local wine=(x86_wine /prefix "$X86_ROOT/program")
+    "${wine[@]}" wineboot -i &&
+        "${wine[@]}" reg add 'HKCU\Software\Wine\Drivers' /v Graphics /d null /f &&
+        "${wine[@]}" reg add 'HKCU\Software\Wine\Fonts\Replacements' /v Arial /d 'Liberation Sans' /f &&
+        "${wine[@]}" reg add 'HKCU\Software\Wine\Fonts\Replacements' /v 'Times New Roman' /d 'Liberation Serif' /f &&
+        x86_inside /prefix "$X86_ROOT/program" /usr/lib/wine/wineserver32 -w
+}
 
-# The mounts are those of one process and end with it.
-X86_MOUNTED=$(
-    cat <<'END'
-mount -t proc proc "$1/proc"
-mount --bind "$2" "$1/bin-under-test"
-exec chroot "$1" /usr/bin/env -i PATH=/usr/bin:/bin HOME=/root LC_ALL=C.UTF-8 WINEPREFIX=/prefix WINEARCH=win32 \
-    WINEDEBUG=-all bash -euc "$3" inside "${@:4}"
-END
-)
+# x86_inside PREFIX FOLDER COMMAND…: in the unpacked Debian, where the folder is to be seen as /program. The mounts end with
+# the command.
+x86_inside() {
+    local prefix=$1 folder=$2
+    shift 2
+    x86_unshare bash -euc '
+        mount --rbind /dev "$1/dev"
+        mount --rbind /proc "$1/proc"
+        mount --bind "$2" "$1/program"
+        shift 2
+        exec "$@"' x86 "$X86_ROOT" "$folder" env -i HOME=/root USER=root PATH=/usr/lib/wine:/usr/bin:/bin LC_ALL=C.UTF-8 \
+        WINEPREFIX="$prefix" WINEARCH=win32 WINEDEBUG=-all WINESERVER=/usr/lib/wine/wineserver32 \
+        WINEDLLOVERRIDES=winemenubuilder.exe= /usr/sbin/chroot "$X86_ROOT" "$@"
+}
 
-# wine32_run FOLDER PROGRAM ARGUMENT…: a 32-bit program of a folder, with that folder as the current one; where none can
-# run, a skipped case.
+x86_wine() { x86_inside "$1" "$2" /usr/lib/wine/wine "${@:3}"; }
+
+# wine32_run FOLDER PROGRAM ARGUMENT…: a 32-bit program of a folder; where none can run, a skipped case.
 wine32_run() {
     if x86_own; then
         wine_home
         copy_prefix build/wine/prefix "$WINEPREFIX"
-        (cd "$1" && wine_run "${@:2}")
+        wine_run "$1/$2" "${@:3}"
     elif [ -f "$X86_ROOT/.ready" ]; then
-        unshare --mount bash -euc "$X86_MOUNTED" mounted "$X86_ROOT" "$ROOT/$1" "$(declare -f copy_prefix)
-$X86_INSIDE" "$(basename "$WINEPREFIX")" "${@:2}"
+        local prefix status=0
+        prefix=/prefixes/$(basename "$WINEPREFIX")
+        copy_prefix "$X86_ROOT/prefix" "$X86_ROOT$prefix"
+        x86_wine "$prefix" "$ROOT/$1" "Z:\\program\\$2" "${@:3}" || status=$?
+        x86_inside "$prefix" "$ROOT/$1" /usr/lib/wine/wineserver32 -k || true
+        return $status
     else
         echo "skipped: $2: $(cat "$X86_ROOT.reason")"
         echo "0 passed, 0 failed, 1 skipped"

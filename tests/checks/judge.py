@@ -4,14 +4,17 @@ Two ways of telling a result are understood: a last line "N passed, N failed, N 
 "skipped: NAME: REASON" for every skipped case), else GoogleTest's report. The check is red when a case failed, when its
 exit status is not 0, when nothing ran, when there is no result or one that does not add up, when a case was skipped
 without a reason, and when it took longer than its limit. Its output goes to build/test-logs, its figures to
-build/test-results: a line "passed failed skipped", then what there is to say about each failed and skipped case."""
+build/test-results: a line "passed failed skipped seconds processor-seconds", then what there is to say about each failed and
+skipped case."""
 
 import os
 import pathlib
 import re
+import resource
 import signal
 import subprocess
 import sys
+import time
 
 SKIPPED = 77  # what CTest takes for skipped
 CLOSING = re.compile(r"(\d+) passed, (\d+) failed, (\d+) skipped")
@@ -122,10 +125,13 @@ def main():
         folder.mkdir(parents=True, exist_ok=True)
     log, file = logs / f"{name}.log", results / name
     file.unlink(missing_ok=True)
+    began = time.monotonic()
     status = run([runner, "inside", name, *arguments], log, limit)
     text = log.read_text(encoding="utf-8", errors="replace")
     result = judge(text, status)
-    file.write_text("\n".join([f"{result.passed} {result.failed} {result.skipped}", *result.notes]) + "\n", encoding="utf-8")
+    used = resource.getrusage(resource.RUSAGE_CHILDREN)
+    figures = f"{result.passed} {result.failed} {result.skipped} {time.monotonic() - began:.0f} {used.ru_utime + used.ru_stime:.0f}"
+    file.write_text("\n".join([figures, *result.notes]) + "\n", encoding="utf-8")
     print(f"{result.passed} passed, {result.failed} failed, {result.skipped} skipped")
     if result.failed:
         shown = [line for line in text.replace("\r", "").splitlines() if not NOISE.match(line)]

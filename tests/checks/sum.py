@@ -14,11 +14,11 @@ def main():
         if file.exists():
             figures, *lines = file.read_text(encoding="utf-8").splitlines()
         else:
-            figures, lines = "0 1 0", ["failed: no result"]
-        counts = list(map(int, figures.split()))
+            figures, lines = "0 1 0 0 0", ["failed: no result"]
+        *counts, seconds, used = map(int, figures.split())
         total = [a + b for a, b in zip(total, counts)]
         notes += [f"{name}: {line}" for line in lines]
-        print(f"{name:32} {counts[0]:5} passed {counts[1]:4} failed {counts[2]:4} skipped")
+        print(f"{name:32} {counts[0]:5} passed {counts[1]:4} failed {counts[2]:4} skipped {seconds:6} s {used:6} s of a processor")
     if ctest_status != 0 and total[1] == 0:
         total[1] = 1
         notes.append(f"failed: ctest ended with {ctest_status}")

@@ -22,7 +22,7 @@ def test(*arguments):
     for line in (run.stdout + run.stderr).splitlines():
         print("|", line)
     figures = {}
-    for name, *counts in re.findall(r"^(\S+) +(\d+) passed +(\d+) failed +(\d+) skipped$", run.stdout, re.MULTILINE):
+    for name, *counts in re.findall(r"^(\S+) +(\d+) passed +(\d+) failed +(\d+) skipped +\d+ s", run.stdout, re.MULTILINE):
         figures[name] = tuple(map(int, counts))
     return run.returncode, run.stdout.splitlines(), figures
 
