@@ -37,8 +37,11 @@ std::string Kinds(const Symbol& symbol) {
         ++counts[type >= 1 && type <= 4 ? type - 1 : 4];
     }
     std::string text;
-    for (const std::size_t count : counts)
-        text += (text.empty() ? "" : " ") + std::to_string(count);
+    for (const std::size_t count : counts) {
+        if (!text.empty())
+            text += ' ';
+        text += std::to_string(count);
+    }
     return text;
 }
 
