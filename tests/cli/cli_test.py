@@ -1,0 +1,209 @@
+"""cli_test.py PROGRAM…: runs the program qsymbol as its users do; PROGRAM may be a command with arguments (Wine)."""
+
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+PROGRAM = [os.path.abspath(word) if os.path.exists(word) else word for word in sys.argv[1:]]
+UNDER_WINE = "wine" in PROGRAM[0]
+CATALOGUE = pathlib.Path("samples/katalog").resolve()
+DOOR = ("SYM;CNT=2;WID=3.00;HEI=2.00;RPX=0.00;RPY=0.00\r\nPOLY;CNT=3;COL=255;WID=0.00;CLS=FALSE;FIL=-1\r\nPOINT;0.00;0.00\r\n"
+        "POINT;3.00;2.00\r\nPOINT;0.00;2.00\r\nTEXT;COL=0;ANG=12.34;NAM=Arial;HEI=6;BOL=FALSE;ITA=FALSE;UND=FALSE;STR=FALSE;ALI=0;BKM=1"
+        "\r\nPOINT;0.50;0.50\r\nSTRING;\"Tür\"\r\n").encode("cp1252")  # fmt: skip
+COMMA = re.sub(rb"(\d)\.(\d\d)", rb"\1,\2", DOOR)
+CHAIN = b"BLT 6000 6000 0 0 0\r\nSTR F=0 D=0.5 a b c 0 0 6000.0 6000.0\r\nEND\r\n"
+
+
+def run(*arguments, environment=None, status=0):
+    """Output and errors of the program, which has to end with this status."""
+    ran = subprocess.run([*PROGRAM, *map(str, arguments)], capture_output=True, timeout=120,
+                         env={**os.environ, **(environment or {})})  # fmt: skip
+    out, errors = ran.stdout.decode("utf-8"), ran.stderr.decode("utf-8", "replace")
+    if UNDER_WINE:  # it has advice of its own about 32 bits
+        errors = "".join(line + "\n" for line in errors.splitlines() if line.startswith(("qsymbol", "Run ")))
+    assert ran.returncode == status, f"status {ran.returncode} instead of {status}: {out}{errors}"
+    return out, errors
+
+
+def as_json(*arguments, **more):
+    return json.loads(run(*arguments, "--json", **more)[0])
+
+
+def codes(*arguments, **more):
+    return [[finding["code"] for finding in file["findings"]] for file in as_json("check", "--decimal", "point", *arguments, **more)]
+
+
+def put(name, data=DOOR):
+    path = pathlib.Path(name)
+    path.parent.mkdir(parents=True, exist_ok=True)
+    path.write_bytes(data)
+    return path
+
+
+def info_tells_lengths_in_units_and_kinds():
+    put("Tür.syt")
+    assert as_json("info", "--decimal", "point", "Tür.syt") == [
+        {"path": "Tür.syt", "name": "Tür", "format": "syt", "width": 300, "height": 200, "refX": 0, "refY": 0,
+         "elements": {"poly": 1, "circle": 0, "arc": 0, "text": 1, "undefined": 0}, "points": 4, "bytes": len(DOOR)}]  # fmt: skip
+    out, _ = run("info", "--decimal", "point", "Tür.syt")
+    assert "3 x 2" in out and "Tür" in out, out
+
+
+def one_array_holds_all_paths_and_bad_ones_are_told_of():
+    put("a/x.syt"), put("a/sub/y.syt"), put("a/schlecht.syt", b"kein Symbol"), put("a/read.me", b"")
+    put("b.txt", b"")
+    bad = ("info", "--decimal", "point", "nix.syt", "b.txt", "a", "-r")
+    out, errors = run(*bad, "--json", status=1)
+    assert [pathlib.PureWindowsPath(entry["path"]).name for entry in json.loads(out)] == ["x.syt", "y.syt"]
+    lines = errors.splitlines()
+    assert lines[0] == "qsymbol: nix.syt: error 53: Datei nicht gefunden", errors
+    assert lines[1] == "qsymbol: b.txt: error 3503: Keine gültige Extension für eine Symboldatei.", errors
+    assert re.fullmatch(r"qsymbol: a[/\\]schlecht\.syt: error 3501: Keine gültige Symboldatei\.", lines[2]), errors
+    assert len(lines) == 3
+    assert len(as_json("info", "--decimal", "point", "a", status=1)) == 1, "without -r no subfolders"
+    pathlib.Path("leer").mkdir()
+    assert as_json("info", "leer") == [] and as_json("check", "leer") == []
+
+
+def numbers_follow_the_decimal_separator():
+    put("p.syt"), put("k.syt", COMMA)
+    width = lambda name, *more, **env: as_json("info", name, *more, **env)[0]["width"]
+    assert width("p.syt", "--decimal", "point") == width("k.syt", "--decimal", "comma") == 300
+    if UNDER_WINE:
+        return
+    for variable, value in (("LC_ALL", "de_DE.UTF-8"), ("LC_NUMERIC", "fr_FR.UTF-8"), ("LANG", "nl_NL")):
+        clean = {"LC_ALL": "", "LC_NUMERIC": "", "LANG": "en_US.UTF-8", variable: value}
+        assert width("k.syt", environment=clean) == 300, value
+    for value in ("C", "en_US.UTF-8", "de_CH.UTF-8"):
+        assert width("p.syt", environment={"LC_ALL": value}) == 300, value
+
+
+def check_finds_what_is_wrong():
+    good = put("gut.syt")
+    assert codes(good) == [[]]
+    head, rest = DOOR.split(b"\r\n", 1)
+    cases = {
+        "zero-size": DOOR.replace(b"WID=3.00;HEI=2.00", b"WID=0.00;HEI=0.00"),
+        "size-mismatch": DOOR.replace(b"WID=3.00", b"WID=4.00"),
+        "reference-far": DOOR.replace(b"RPX=0.00", b"RPX=6.01"),
+        "colour-not-in-table": DOOR.replace(b"COL=255", b"COL=256000"),
+        "degenerate-element": head.replace(b"CNT=2", b"CNT=3") + b"\r\n" + rest
+        + b"CIRCLE;COL=0;WID=0.00;MPX=1.00;MPY=1.00;RAD=0.00;FIL=-1\r\n",
+        "undefined-element": head.replace(b"CNT=2", b"CNT=3") + b"\r\n" + rest,
+        "dxf-text-size": DOOR.replace(b"HEI=6;", b"HEI=7;"),
+        "empty": b"\r\n",
+        "unreadable": b"SYM;CNT=1;WID=1;HEI=1;RPX=0;XYZ=0\r\n",
+    }
+    for code, data in cases.items():
+        found = as_json("check", "--decimal", "point", put("fall.syt", data), status=1)[0]
+        expected = [code, "zero-size"] if code == "empty" else [code]
+        assert [finding["code"] for finding in found["findings"]] == expected, (code, found)
+        assert found["status"] == ("error" if code == "unreadable" else "warning")
+        assert found["findings"][0]["number"] == (3502 if code == "unreadable" else None)
+        element = {"colour-not-in-table": 1, "degenerate-element": 3, "undefined-element": 3, "dxf-text-size": 2}.get(code)
+        assert found["findings"][0]["element"] == element, found
+    put("fremd.wsc", CHAIN.replace(b"END", b"XYZ 1"))
+    stopped = as_json("check", "fremd.wsc", status=1)[0]["findings"]
+    assert [f["message"] for f in stopped] == ["Folgende Zeile kann nicht verarbeitet werden: XYZ 1 --> Abbruch"], stopped
+    put("o/gut.syt"), put("u/GUT.SYT"), put("u/gut.syb", b"")
+    assert codes("o", "u/GUT.SYT", status=1) == [[], ["duplicate-name"]]
+    assert "2 files, 1 error, 0 warnings" in run("check", "--decimal", "point", "o", "u/GUT.SYT", status=1)[0]
+
+
+def the_sample_catalogue_has_no_finding():
+    assert run("check", CATALOGUE)[0] == f"{len(list(CATALOGUE.glob('*.syt')))} files, 0 errors, 0 warnings\n"
+
+
+def converting_is_whole_and_never_overwrites_unasked():
+    put("q/Tür.syt"), put("q/sub/Tür.syt"), put("q/schlecht.syb", b"")
+    out, errors = run("convert", "--decimal", "point", "-r", "q", "z/neu", "--to", "syb", status=1)
+    assert out == "2 files written\n" and errors.count("\n") == 1 and "error 62: " in errors, out + errors
+    assert {p.relative_to("z/neu").as_posix() for p in pathlib.Path("z/neu").rglob("*.*")} == {"Tür.syb", "sub/Tür.syb"}
+    run("convert", "--decimal", "point", "z/neu/Tür.syb", "back.syt")
+    assert pathlib.Path("back.syt").read_bytes() == DOOR
+    run("convert", "--decimal", "comma", "z/neu/Tür.syb", "komma.syt", "-q")
+    assert pathlib.Path("komma.syt").read_bytes() == COMMA
+    _, errors = run("convert", "--decimal", "comma", "z/neu/Tür.syb", "back.syt", status=1)
+    assert errors == "qsymbol: back.syt: error 58: Datei existiert bereits\n", errors
+    assert pathlib.Path("back.syt").read_bytes() == DOOR
+    run("convert", "-f", "--decimal", "comma", "z/neu/Tür.syb", "back.syt")
+    assert pathlib.Path("back.syt").read_bytes() == COMMA
+    assert "error 3503" in run("convert", "back.syt", "back.wsc", status=1)[1]
+    put("zwei/a.syt"), put("zwei/a.wsc", CHAIN)
+    _, errors = run("convert", "--decimal", "point", "-f", "zwei", "eins", "--to", "syb", status=1)
+    assert re.fullmatch(r"qsymbol: zwei[/\\]a\.wsc: error 58: Datei existiert bereits\n", errors), errors
+    assert not list(pathlib.Path().rglob("*.tmp")), "nothing is left beside"
+
+
+def diff_tells_changes_and_nothing_of_formats():
+    old = put("alt/Tür.syt")
+    run("convert", "--decimal", "point", old, "alt.syb"), put("komma.syt", COMMA)
+    for other in ("alt.syb", "komma.syt"):
+        assert as_json("diff", old, other) == [] == as_json("diff", other, old)
+    put("neu/Tür.syt", DOOR.replace(b"WID=3.00", b"WID=3.50").replace(b"POINT;3.00;2.00", b"POINT;3.00;1.00"))
+    put("neu/Gast.syt", DOOR.replace(b"HEI=2.00", b"HEI=1.00")), put("alt/Alt.syt", DOOR.replace(b"HEI=2.00", b"HEI=1.00"))
+    put("neu/Mehr.syt", DOOR.replace(b"HEI=2.00", b"HEI=5.00"))
+    assert as_json("diff", "alt", "neu", status=1) == [
+        {"symbol": "Gast", "change": "symbol-renamed", "from": "Alt", "to": "Gast"},
+        {"symbol": "Mehr", "change": "symbol-added"},
+        {"symbol": "Tür", "change": "header", "field": "width", "from": 300, "to": 350},
+        {"symbol": "Tür", "change": "element-changed", "element": 1, "type": "poly", "oldElement": 1, "field": "points",
+         "point": 2, "from": [300, 200], "to": [300, 100]}]  # fmt: skip
+    assert "element 1 (poly) point 2: (3, 2) -> (3, 1)" in run("diff", "alt/Tür.syt", "neu/Tür.syt", status=1)[0]
+    assert as_json("diff", "/dev/null", old, status=1) == [{"symbol": "Tür", "change": "symbol-added"}]
+
+
+def wrong_usage_is_status_2():
+    put("x.syt")
+    for arguments in ((), ("gibtsnicht",), ("info",), ("info", "--nein", "x.syt"), ("info", "--decimal", "x", "x.syt"),
+                      ("convert", "x.syt", "y.syb", "--to", "wsc"), ("convert", ".", "y"), ("diff", "x.syt", ".")):  # fmt: skip
+        out, errors = run(*arguments, status=2)
+        assert out == "" and errors.startswith("qsymbol: "), (arguments, out, errors)
+    assert re.fullmatch(r"qsymbol \d+\.\d+\.\d+\n", run("--version")[0])
+    page = (pathlib.Path(__file__).resolve().parents[2] / "man/qsymbol.1").read_text(encoding="utf-8").replace("\\-", "-")
+    text = run("--help")[0]
+    for command in re.findall(r"^  ([a-z]+) ", text.split("Subcommands:")[1], re.M):
+        assert f"qsymbol {command}" in page or f".B {command}" in page, command
+        for option in re.findall(r"--[a-z]+", run(command, "--help")[0]):
+            assert option in page, f"the manual page lacks {command} {option}"
+
+
+def only_files_are_files():
+    if UNDER_WINE:
+        return
+    os.mkfifo("rohr.syt")
+    os.symlink("schleife", "schleife")
+    os.makedirs("f/g")
+    os.symlink("..", "f/g/zurück")
+    put("f/a.syt")
+    for path in ("rohr.syt", "/dev/null"):
+        assert "error 75" in run("info", path, status=1)[1]
+    run("info", "schleife", status=1)
+    assert len(as_json("info", "-r", "f", "f/a.syt", "--decimal", "point")) == 1
+    with open("/dev/full", "wb") as full:
+        assert subprocess.run([*PROGRAM, "info", CATALOGUE], stdout=full, stderr=subprocess.DEVNULL).returncode == 1
+
+
+def main():
+    cases = [case for name, case in globals().items() if callable(case) and "_" in name and case.__module__ == __name__
+             and name not in ("as_json",)]  # fmt: skip
+    failed = 0
+    for case in cases:
+        with tempfile.TemporaryDirectory() as folder:
+            os.chdir(folder)
+            try:
+                case()
+            except Exception as error:  # every kind is a failure of this case alone
+                failed += 1
+                print(f"failed: {case.__name__}: {error!r}")
+            os.chdir(CATALOGUE)
+    print(f"{len(cases) - failed} passed, {failed} failed, 0 skipped")
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
