@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/error.h"
+#include "base/utf8.h"
 #include "qsymbol/draw/surface.h"
 
 #include <string>
@@ -58,10 +59,10 @@ public:
     void SetTextAlign(std::int32_t flags) override { Put("TextAlign", flags); }
     void SetBkMode(std::int32_t mode) override { Put("BkMode", mode); }
     void WriteText(qmath::Point anchor, std::u16string_view text) override {
-        Note("Text" + Text(anchor) + " " + Ascii(text));
+        Note("Text" + Text(anchor) + " " + base::ToUtf8(text));
     }
     void WriteTextAsPath(qmath::Point anchor, std::u16string_view text) override {
-        Note("TextPath" + Text(anchor) + " " + Ascii(text));
+        Note("TextPath" + Text(anchor) + " " + base::ToUtf8(text));
     }
     void SelectFont(const base::FontRequest& request) override {
         std::string flags;
@@ -70,7 +71,7 @@ public:
         flags += request.underline ? 'u' : '-';
         flags += request.strikethrough ? 's' : '-';
         Note("Font " + std::to_string(request.height) + " " + std::to_string(request.escapement) + " " +
-             flags + " " + Ascii(request.name));
+             flags + " " + base::ToUtf8(request.name));
     }
     void ReleaseFont() noexcept override { calls.emplace_back("ReleaseFont"); }
 
@@ -109,12 +110,6 @@ private:
         for (const qmath::Point point : points)
             text += Text(point);
         return text;
-    }
-    static std::string Ascii(std::u16string_view text) {
-        std::string ascii;
-        for (const char16_t unit : text)
-            ascii += static_cast<char>(unit);
-        return ascii;
     }
 };
 

@@ -1,5 +1,7 @@
 #include "support/scripted_prompt.h"
 
+#include "base/utf8.h"
+
 #include <gtest/gtest.h>
 
 namespace support {
@@ -19,14 +21,19 @@ Answer Next(std::deque<Answer>& answers, Answer otherwise) {
 
 } // namespace
 
-bool ScriptedPrompt::AskYesNo(std::u16string_view text, std::u16string_view title) {
+void ScriptedPrompt::Say(const std::string& kind, std::u16string_view text) {
     said.emplace_back(text);
+    told_.push_back(kind + " " + base::ToUtf8(text));
+}
+
+bool ScriptedPrompt::AskYesNo(std::u16string_view text, std::u16string_view title) {
+    Say("ask " + base::ToUtf8(title) + ":", text);
     titles.emplace_back(title);
     return Next(yesNo, false);
 }
 
 messages::FailureChoice ScriptedPrompt::AskAbortRetryIgnore(std::u16string_view text) {
-    said.emplace_back(text);
+    Say("failure", text);
     return Next(failures, messages::FailureChoice::Abort);
 }
 

@@ -39,15 +39,6 @@ TEST_F(ReadKatalog, ATrailingBackslashMakesNoDifference) {
     EXPECT_EQ(support::Dispatch(symbol).Get(L"FilePath").value.Text(), folder / L"Herd.syb");
 }
 
-TEST_F(ReadKatalog, AMissingFolderLoadsNothingAndShowsNothing) {
-    MessageBoxes boxes;
-    EXPECT_OK(Load(folder / L"weg"));
-    EXPECT_OK(Load(L""));
-    AddFile(L"Herd.syb");
-    EXPECT_OK(Load(folder / L"Herd.syb")); // a file is no folder
-    EXPECT_EQ(Names(), Texts{});
-}
-
 TEST_F(ReadKatalog, AddsToWhatIsThere) {
     AddFile(L"Herd.syb");
     Ref<_CSymbol> other = support::NewSymbolAt(L"WC.syb");
@@ -66,27 +57,6 @@ TEST_F(ReadKatalog, TheSameNameTwiceIsADuplicateKey) {
     EXPECT_EQ(Names(), Texts{L"Herd"});
 }
 
-TEST_F(ReadKatalog, IgnoreGoesOnWithTheNextFile) {
-    AddFile(L"a.syb");
-    AddBrokenFile(L"b.syb");
-    AddFile(L"c.syb");
-    MessageBoxes boxes{IDIGNORE};
-    EXPECT_OK(Load(folder.Path()));
-    ASSERT_EQ(boxes.Seen().size(), 1U);
-    EXPECT_EQ(boxes.Seen()[0], FailureBox(L"b.syb", kNoSymbol));
-    EXPECT_EQ(Names(), (Texts{L"a", L"c"}));
-}
-
-TEST_F(ReadKatalog, AbortStopsAtOnce) {
-    AddBrokenFile(L"a.syb");
-    AddBrokenFile(L"b.syb");
-    AddBrokenFile(L"c.syb");
-    MessageBoxes boxes{IDIGNORE, IDABORT};
-    EXPECT_OK(Load(folder.Path()));
-    EXPECT_EQ(boxes.Seen().size(), 2U);
-    EXPECT_EQ(Names(), Texts{});
-}
-
 TEST_F(ReadKatalog, RetryReadsTheSameFileAgain) {
     AddBrokenFile(L"b.syb");
     MessageBoxes boxes{IDRETRY, IDRETRY};
@@ -100,14 +70,6 @@ TEST_F(ReadKatalog, RetryReadsTheSameFileAgain) {
     EXPECT_OK(Load(folder.Path()));
     EXPECT_EQ(boxes.Seen(), (std::vector{FailureBox(L"b.syb", kNoSymbol), FailureBox(L"b.syb", kNoSymbol)}));
     EXPECT_EQ(Names(), Texts{L"b"});
-}
-
-TEST_F(ReadKatalog, RunTimeErrorsAreShownWithTheirText) {
-    support::WriteBytes(folder / L"kurz.syb", "\x03");
-    MessageBoxes boxes{IDIGNORE};
-    EXPECT_OK(Load(folder.Path()));
-    ASSERT_EQ(boxes.Seen().size(), 1U);
-    EXPECT_EQ(boxes.Seen()[0], FailureBox(L"kurz.syb", L"Einlesen hinter Dateiende"));
 }
 
 /// A message box lets the host's events through, and they may use the catalogue.

@@ -35,23 +35,6 @@ protected:
     bool Read(const Texts& keys) const { return Read(folder.Path(), BasicCollection::Create(keys).Get()); }
 };
 
-TEST_F(ReadListe, ALongListLeavesTheWorkToTheCaller) {
-    AddFiles(10);
-    EXPECT_FALSE(Read(Keys(9)));
-    EXPECT_EQ(Names(), Texts{});
-    EXPECT_TRUE(Read(Keys(8)));
-    EXPECT_EQ(Names(), (Texts{L"s1", L"s2", L"s3", L"s4", L"s5", L"s6", L"s7", L"s8"}));
-}
-
-TEST_F(ReadListe, EveryFileOfTheFolderCounts) {
-    AddFiles(1);
-    for (const wchar_t* const name : {L"a.txt", L"b.txt", L"c.txt", L"d"})
-        support::WriteBytes(folder / name, "x");
-    EXPECT_TRUE(Read({L"S1", L"S2", L"S3", L"S4"})) << "five files, four names";
-    EXPECT_EQ(Names(), Texts{L"s1"}) << "names without a file are passed over";
-    EXPECT_FALSE(Read({L"S1", L"S2", L"S3", L"S4", L"S5"}));
-}
-
 TEST_F(ReadListe, NamesAreLookedUpInUpperCase) {
     AddFile(L"wc.syb");
     AddFile(L"öltank.syb");
@@ -75,42 +58,10 @@ TEST_F(ReadListe, ADictionaryIsAskedAndNotChanged) {
     EXPECT_EQ(list.Get(L"Count").value.Long(), 1);
 }
 
-TEST_F(ReadListe, OnlyBinaryFilesAreLoaded) {
-    AddFile(L"wc.syt");
-    AddFile(L"bad.syb");
-    EXPECT_TRUE(Read({L"WC"}));
-    EXPECT_EQ(Names(), Texts{});
-}
-
-TEST_F(ReadListe, AnEmptyListLoadsNothing) {
-    AddFiles(2);
-    EXPECT_TRUE(Read(Texts{}));
-    EXPECT_EQ(Names(), Texts{});
-}
-
-TEST_F(ReadListe, AMissingFolderIsDone) {
-    MessageBoxes boxes;
-    EXPECT_TRUE(Read(folder / L"weg", BasicCollection::Create(Keys(9)).Get()));
-    EXPECT_EQ(Names(), Texts{});
-}
-
-TEST_F(ReadListe, AnEmptyFolderIsTooSmallForAnyName) {
-    EXPECT_FALSE(Read(Keys(1)));
-    EXPECT_TRUE(Read(Texts{}));
-}
-
 TEST_F(ReadListe, ATrailingBackslashMakesNoDifference) {
     AddFiles(2);
     EXPECT_TRUE(Read(folder.Path() + L"\\", BasicCollection::Create({L"S2"}).Get()));
     EXPECT_EQ(Names(), Texts{L"s2"});
-}
-
-TEST_F(ReadListe, OnlyListedFilesAreTried) {
-    AddFiles(3);
-    AddBrokenFile(L"kaputt.syb");
-    MessageBoxes boxes;
-    EXPECT_TRUE(Read({L"S1"}));
-    EXPECT_EQ(Names(), Texts{L"s1"});
 }
 
 TEST_F(ReadListe, AbortStopsAndIsStillDone) {
@@ -122,15 +73,6 @@ TEST_F(ReadListe, AbortStopsAndIsStillDone) {
     EXPECT_TRUE(Read({L"A", L"B", L"C"}));
     ASSERT_EQ(boxes.Seen().size(), 1U);
     EXPECT_EQ(boxes.Seen()[0].buttons, (std::vector<int>{IDABORT, IDRETRY, IDIGNORE}));
-}
-
-TEST_F(ReadListe, LateBound) {
-    AddFiles(3);
-    const support::Answer answer = Dispatch(symbols).Call(
-        L"ReadListe", {folder.Path(), support::Value(BasicCollection::Create({L"S3"}).Get())});
-    EXPECT_OK(answer.status);
-    EXPECT_TRUE(answer.value.Bool());
-    EXPECT_EQ(Names(), Texts{L"s3"});
 }
 
 TEST_F(ReadListe, NeedsAList) {

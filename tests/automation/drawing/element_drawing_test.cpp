@@ -44,14 +44,6 @@ TEST_P(ElementDrawing, AnOpenPolylineWithoutItsLastPoint) {
     ExpectSame();
 }
 
-TEST_P(ElementDrawing, AClosedPolylineWithoutAFill) {
-    Draw({.type = symPoly, .points = shape, .lineWidth = 0, .closed = true, .mainColor = kBlue});
-    expected.UsePen(PS_SOLID, 1, kBlue);
-    expected.UseNoBrush();
-    Closed(At(allButTheLast));
-    ExpectSame();
-}
-
 TEST_P(ElementDrawing, AFilledPolygon) {
     Draw({.type = symPoly,
           .points = shape,
@@ -65,53 +57,11 @@ TEST_P(ElementDrawing, AFilledPolygon) {
     ExpectSame();
 }
 
-TEST_P(ElementDrawing, AFilledPolygonOfWidthZeroHasNoOutline) {
-    Draw({.type = symPoly, .points = shape, .closed = true, .fillColor = kGreen, .mainColor = kBlue});
-    expected.UsePen(PS_NULL, 1, 0);
-    expected.UseBrush(kGreen);
-    Closed(At(allButTheLast));
-    ExpectSame();
-}
-
-TEST_P(ElementDrawing, ThreePointsMakeOneSegmentTwoNone) {
-    Draw({.type = symPoly, .points = {shape[0], shape[1]}});
-    ExpectNothingDrawn();
-    Draw({.type = symPoly, .points = {shape[0]}});
-    ExpectNothingDrawn();
-    Draw({.type = symPoly, .points = {shape[0], shape[1], shape[2]}, .mainColor = kRed});
-    expected.UsePen(PS_SOLID, 1, kRed);
-    Line(At({shape[0], shape[1]}));
-    ExpectSame();
-}
-
 TEST_P(ElementDrawing, ACircleOfOnePoint) {
     Draw({.type = symCircle, .points = {{900, 800}}, .lineWidth = 30, .mainColor = kRed, .radius = 555});
     expected.UsePen(PS_SOLID, 3, kRed);
     expected.UseNoBrush();
     Circle(Pixel(view, {900, 800}), 56); // 55.5 to the even neighbour
-    ExpectSame();
-}
-
-TEST_P(ElementDrawing, AFilledCircleOfWidthZeroHasNoOutlineAndAPenOfOnePixel) {
-    Draw({.type = symCircle, .points = {{900, 800}}, .fillColor = kGreen, .mainColor = kRed, .radius = 500});
-    expected.UsePen(PS_NULL, 1, 0);
-    expected.UseBrush(kGreen);
-    Circle(Pixel(view, {900, 800}), 50);
-    ExpectSame();
-    EXPECT_EQ(box->Property(L"DrawStyle"), 5);
-    EXPECT_EQ(box->Property(L"DrawWidth"), 1);
-}
-
-TEST_P(ElementDrawing, AFilledCircleWithAnOutline) {
-    Draw({.type = symCircle,
-          .points = {{900, 800}},
-          .lineWidth = 80,
-          .fillColor = kGreen,
-          .mainColor = kRed,
-          .radius = 500});
-    expected.UsePen(PS_INSIDEFRAME, 8, kRed);
-    expected.UseBrush(kGreen);
-    Circle(Pixel(view, {900, 800}), 50);
     ExpectSame();
 }
 
@@ -128,23 +78,6 @@ TEST_P(ElementDrawing, AnArcOfThreePointsIsNeverFilled) {
     const POINT end = Pixel(view, {700, 300});
     Arc(Dc(), c.x - 50, c.y - 50, c.x + 50, c.y + 50, start.x, start.y, end.x, end.y);
     ExpectSame();
-}
-
-TEST_P(ElementDrawing, OtherNumbersOfPointsDrawNothing) {
-    const POINT a{900, 800};
-    const POINT b{1400, 900};
-    for (const std::vector<POINT>& points :
-         {std::vector<POINT>{}, std::vector<POINT>{a, b}, std::vector<POINT>{a, b, a, b}}) {
-        Draw({.type = symCircle, .points = points, .fillColor = kGreen, .radius = 500});
-        Draw({.type = symArc, .points = points, .radius = 500});
-    }
-    Draw({.type = symCircle, .points = {a, b, a}, .fillColor = kGreen, .radius = 500});
-    Draw({.type = symArc, .points = {a}, .radius = 500});
-    Draw({.type = symPoly});
-    Draw({.type = symText, .text = L"nirgends"});
-    for (const LONG type : {0L, 5L, -1L})
-        Draw({.type = type, .points = {a, b, a}, .radius = 500, .text = L"unbekannt"});
-    ExpectNothingDrawn();
 }
 
 TEST_P(ElementDrawing, ATextInItsFont) {
@@ -168,19 +101,6 @@ TEST_P(ElementDrawing, ATextInItsFont) {
             ExpectSame();
         }
     }
-}
-
-/// The size flag is one of placed symbols only.
-TEST_P(ElementDrawing, AFlaggedTextKeepsItsSize) {
-    Draw({.type = symText,
-          .points = {{900, 800}},
-          .closed = true,
-          .text = L"Bad",
-          .font = FontSpec{.size = 24, .bold = true}});
-    expected.UseFont(85, 0, L"Arial", FW_BOLD);
-    SetBkMode(Dc(), TRANSPARENT);
-    Text(Pixel(view, {900, 800}), "Bad");
-    ExpectSame();
 }
 
 TEST_P(ElementDrawing, ATextWithoutAFontStandsInTheFontOfTheSurface) {
@@ -246,18 +166,6 @@ TEST_P(ElementDrawing, OfACollectionInItsOrderAndItsHandles) {
     EXPECT_EQ(box->Logged("put"), std::vector<std::string>{});
     call(L"DrawTracker");
     EXPECT_TRUE(drawn.Pixels() == before) << "the second time they are gone";
-}
-
-TEST_P(ElementDrawing, APixelOutsideTheRangeIsAnOverflow) {
-    const auto circle =
-        support::NewElement({.type = symCircle, .points = {{2000000000, 0}}, .radius = 2000000000});
-    const auto trans = support::NewTrans(1);
-    if (GetParam()) {
-        EXPECT_EQ(support::Dispatch(circle).Call(L"Draw", {box, trans}).failure, support::RunTimeError(6));
-    } else {
-        EXPECT_EQ(support::Outcome(circle->Draw(box.Get(), trans.Get())), support::RunTimeError(6));
-    }
-    ExpectNothingDrawn();
 }
 
 } // namespace

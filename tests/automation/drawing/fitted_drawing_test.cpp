@@ -35,58 +35,9 @@ protected:
     support::MessageBoxes none; ///< each box that is shown is a failure
 };
 
-TEST_F(FittedDrawing, AWideSymbolFillsTheWidth) {
-    DrawFrame(4800, 1000);
-    ExpectFrame(240, 50);
-}
-
-TEST_F(FittedDrawing, ATallSymbolFillsTheHeight) {
-    DrawFrame(1200, 4800);
-    ExpectFrame(60, 240);
-}
-
-TEST_F(FittedDrawing, TheBoxDecidesWhatIsWide) {
-    box->SetScale(200, 50);
-    DrawFrame(2000, 1000);
-    ExpectFrame(100, 50);
-    StartAgain();
-    box->SetScale(50, 200);
-    DrawFrame(1000, 2000);
-    ExpectFrame(50, 100);
-}
-
-TEST_F(FittedDrawing, EqualRatiosFillBoth) {
-    box->SetScale(200, 100);
-    DrawFrame(3000, 1500);
-    ExpectFrame(200, 100);
-}
-
 TEST_F(FittedDrawing, AnEnlargedSymbol) {
     DrawFrame(24, 12);
     ExpectFrame(240, 120);
-}
-
-TEST_F(FittedDrawing, AFlatSymbolFillsTheWidthWhateverTheBox) {
-    box->SetScale(200000, 5); // flatter still than the symbol, so the heights would be the limit
-    DrawFrame(1000000, 80);
-    expected.UsePen(PS_NULL, 1, 0);
-    expected.UseBrush(kGreen);
-    Closed({{0, 0}, {200000, 0}, {200000, 16}, {0, 16}});
-    expected.UsePen(PS_SOLID, 1, kRed);
-    Line({{0, 0}, {200000, 16}});
-    ExpectSame();
-}
-
-TEST_F(FittedDrawing, AWidthOfZeroFillsTheHeight) {
-    const auto symbol = support::NewSymbol(0, 0, 0, 4800, Frame(1200, 4800));
-    EXPECT_OK(symbol->Draw2PBox(box.Get()));
-    ExpectFrame(60, 240);
-}
-
-TEST_F(FittedDrawing, AHeightOfZeroFillsTheWidth) {
-    const auto symbol = support::NewSymbol(0, 0, 4800, 0, Frame(4800, 1000));
-    EXPECT_OK(symbol->Draw2PBox(box.Get()));
-    ExpectFrame(240, 50);
 }
 
 /// A copy in a catalogue has no size of its own; the extent of its points stands in.
@@ -116,13 +67,6 @@ TEST_F(FittedDrawing, AnEmptyBoxAnEmptySymbolAndNoBoxDrawNothing) {
     EXPECT_OK(support::NewSymbol(0, 0, 100, 0, {{.type = symUndefined}})->Draw2PBox(box.Get()));
     EXPECT_OK(support::NewSymbol(0, 0, 10, 10, Frame(10, 10))->Draw2PBox(nullptr));
     ExpectNothingDrawn();
-}
-
-TEST_F(FittedDrawing, LateBoundTheFactorOfTheMainDrawingAreaIsOne) {
-    StartAgain(L"GraphicBox");
-    const auto symbol = support::NewSymbol(7, 8, 4800, 1000, Frame(4800, 1000));
-    EXPECT_OK(support::Dispatch(symbol).Call(L"Draw2PBox", {box}).status);
-    ExpectFrame(240, 50);
 }
 
 class FailingFittedDrawing : public DrawingTest {

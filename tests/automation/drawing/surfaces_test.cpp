@@ -93,59 +93,6 @@ protected:
     const std::vector<POINT> line{{0, 0}, {500, 400}};
 };
 
-TEST_F(SurfaceAccess, ASymbolPutsAPropertyOnlyWhenItDiffers) {
-    const auto symbol =
-        support::NewSymbol(0, 0, 100, 100,
-                           {{.type = symPoly, .points = line, .lineWidth = 30, .mainColor = kRed},
-                            {.type = symPoly, .points = line, .lineWidth = 31, .mainColor = kRed},
-                            {.type = symPoly,
-                             .points = line,
-                             .lineWidth = 30,
-                             .closed = true,
-                             .fillColor = kGreen,
-                             .mainColor = kRed},
-                            {.type = symText, .points = {{0, 0}}, .mainColor = kRed, .text = L"x"},
-                            {.type = symCircle,
-                             .points = {{0, 0}},
-                             .lineWidth = 0,
-                             .fillColor = kGreen,
-                             .mainColor = kBlue,
-                             .radius = 50}});
-    EXPECT_OK(symbol->Draw(0, 0, 0, box.Get(), Trans().Get(), 1, 1, nullptr));
-    const auto put = [](const char* name, long value) {
-        return "put " + std::string(name) + " " + std::to_string(value);
-    };
-    EXPECT_EQ(box->Logged("put"),
-              (Log{put("ForeColor", kRed), put("DrawWidth", 3), put("DrawStyle", 0), put("FillColor", 0),
-                   put("FillStyle", 1), put("DrawStyle", 6), put("FillColor", kGreen), put("FillStyle", 0),
-                   put("ForeColor", kBlue), put("DrawWidth", 1), put("DrawStyle", 5)}));
-    // The first put of a call is always made, whatever an earlier call left there.
-    box->ClearLog();
-    EXPECT_OK(symbol->Draw(0, 0, 0, box.Get(), Trans().Get(), 1, 1, nullptr));
-    EXPECT_EQ(box->Logged("put").size(), 11U);
-    EXPECT_EQ(box->Logged("get"), (Log{"get hDC", "get DrawMode", "get Name"}));
-}
-
-TEST_F(SurfaceAccess, ACollectionPutsTheDrawModeOnce) {
-    const ElementSpec element{.type = symPoly, .points = {{0, 0}, {500, 400}, {0, 0}}, .mainColor = kRed};
-    box->SetProperty(L"DrawMode", R2_NOTXORPEN);
-    EXPECT_OK(support::NewElements({element, element, element})->Draw(box.Get(), Trans().Get()));
-    EXPECT_EQ(box->Logged("put DrawMode"), Log{"put DrawMode 13"});
-    EXPECT_EQ(box->Logged("put").front(), "put DrawMode 13");
-    EXPECT_EQ(box->Logged("put ForeColor").size(), 1U);
-    expected.UsePen(PS_SOLID, 1, kRed);
-    Line({Pixel(view, {0, 0}), Pixel(view, {500, 400})});
-    ExpectSame();
-
-    box->ClearLog();
-    EXPECT_OK(support::NewElement(element)->Draw(box.Get(), Trans().Get()));
-    EXPECT_EQ(box->Logged("put DrawMode"), Log{});
-
-    box->ClearLog();
-    EXPECT_OK(support::NewElements({})->Draw(box.Get(), Trans().Get()));
-    EXPECT_EQ(box->Logged("put"), Log{});
-}
-
 TEST_F(SurfaceAccess, WithoutSurfaceOrTransformationNothingIsDrawn) {
     const ElementSpec element{.type = symPoly, .points = {{0, 0}, {500, 400}, {0, 0}}};
     const auto symbol = support::NewSymbol(0, 0, 100, 100, {element});
@@ -170,15 +117,6 @@ TEST_F(SurfaceAccess, WithoutSurfaceOrTransformationNothingIsDrawn) {
     EXPECT_OK(support::NewSymbol()->Draw(0, 0, 0, box.Get(), Trans().Get(), 1, 1, nullptr));
     ExpectNothingDrawn();
     EXPECT_EQ(box->Logged("put"), Log{});
-}
-
-TEST_F(SurfaceAccess, AnOmittedMarkColourIsNone) {
-    const support::Dispatch symbol(
-        support::NewSymbol(0, 0, 100, 100, {{.type = symPoly, .points = line, .mainColor = kRed}}));
-    EXPECT_OK(symbol.Call(L"Draw", {0, 0, 0.0, box, Trans(), 1.0, 1.0}).status);
-    expected.UsePen(PS_SOLID, 1, kRed);
-    Line({Pixel(view, line[0]), Pixel(view, line[1])});
-    ExpectSame();
 }
 
 } // namespace

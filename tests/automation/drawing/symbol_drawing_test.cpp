@@ -62,21 +62,6 @@ TEST_P(SymbolDrawing, AnOpenPolylineWithAllItsPoints) {
     ExpectSame();
 }
 
-TEST_P(SymbolDrawing, AnOpenPolylineIsNeverFilled) {
-    Draw({{.type = symPoly, .points = shape, .lineWidth = 0, .fillColor = kGreen, .mainColor = kRed}});
-    expected.UsePen(PS_SOLID, 1, kRed);
-    Line(At(shape));
-    ExpectSame();
-}
-
-TEST_P(SymbolDrawing, AClosedPolylineWithoutAFill) {
-    Draw({{.type = symPoly, .points = shape, .lineWidth = 0, .closed = true, .mainColor = kBlue}});
-    expected.UsePen(PS_SOLID, 1, kBlue);
-    expected.UseNoBrush();
-    Closed(At(shape));
-    ExpectSame();
-}
-
 TEST_P(SymbolDrawing, AFilledPolygonWithAThickOutlineInside) {
     Draw({{.type = symPoly,
            .points = shape,
@@ -90,60 +75,11 @@ TEST_P(SymbolDrawing, AFilledPolygonWithAThickOutlineInside) {
     ExpectSame();
 }
 
-TEST_P(SymbolDrawing, AFilledPolygonOfWidthZeroHasNoOutline) {
-    Draw({{.type = symPoly,
-           .points = shape,
-           .lineWidth = 0,
-           .closed = true,
-           .fillColor = 0,
-           .mainColor = kBlue}});
-    expected.UsePen(PS_NULL, 1, kBlue);
-    expected.UseBrush(RGB(0, 0, 0));
-    Closed(At(shape));
-    ExpectSame();
-    EXPECT_EQ(box->Property(L"DrawWidth"), 1);
-    EXPECT_EQ(box->Property(L"DrawStyle"), 5);
-}
-
-TEST_P(SymbolDrawing, AWidthBelowAPixelIsOnePixelAndVisible) {
-    Draw({{.type = symPoly,
-           .points = shape,
-           .lineWidth = 2,
-           .closed = true,
-           .fillColor = kGreen,
-           .mainColor = kBlue}});
-    expected.UsePen(PS_INSIDEFRAME, 1, kBlue);
-    expected.UseBrush(kGreen);
-    Closed(At(shape));
-    ExpectSame();
-}
-
 TEST_P(SymbolDrawing, ACircle) {
     Draw({{.type = symCircle, .points = {{200, 150}}, .lineWidth = 40, .mainColor = kRed, .radius = 373}});
     expected.UsePen(PS_SOLID, 4, kRed);
     expected.UseNoBrush();
     Circle(At(200, 150), 37);
-    ExpectSame();
-}
-
-TEST_P(SymbolDrawing, AFilledCircleWithAndWithoutAnOutline) {
-    Draw({{.type = symCircle,
-           .points = {{-200, 50}},
-           .lineWidth = 50,
-           .fillColor = kGreen,
-           .mainColor = kRed,
-           .radius = 300},
-          {.type = symCircle,
-           .points = {{420, 50}},
-           .lineWidth = 0,
-           .fillColor = kGreen,
-           .mainColor = kRed,
-           .radius = 250}});
-    expected.UseBrush(kGreen);
-    expected.UsePen(PS_INSIDEFRAME, 5, kRed);
-    Circle(At(-200, 50), 30);
-    expected.UsePen(PS_NULL, 1, kRed);
-    Circle(At(420, 50), 25);
     ExpectSame();
 }
 
@@ -200,64 +136,6 @@ TEST_P(SymbolDrawing, ATurnedTextOnAnOpaqueBackground) {
     SetBkMode(Dc(), OPAQUE);
     Text(At(0, 90), "Wohnen");
     ExpectSame();
-}
-
-TEST_P(SymbolDrawing, ASizeInHundredths) {
-    Draw({{.type = symText,
-           .points = {{-300, 90}},
-           .closed = true,
-           .text = L"Flur",
-           .font = FontSpec{.size = 900}}});
-    // 900 points are 317.5 mm, 3175 pixels, a hundredth of that is 31.75.
-    expected.UseFont(32, Escapement(0));
-    SetBkMode(Dc(), TRANSPARENT);
-    Text(At(-300, 90), "Flur");
-    ExpectSame();
-}
-
-TEST_P(SymbolDrawing, LaterElementsLieAboveEarlierOnes) {
-    Draw({{.type = symPoly, .points = shape, .closed = true, .fillColor = kGreen},
-          {.type = symUndefined, .points = {{0, 0}}},
-          {.type = symCircle, .points = {{0, 0}}, .fillColor = kRed, .radius = 300},
-          {.type = symText, .points = {{0, 0}}, .mainColor = kBlue, .text = L"oben"}});
-    expected.UsePen(PS_NULL, 1, 0);
-    expected.UseBrush(kGreen);
-    Closed(At(shape));
-    expected.UseBrush(kRed);
-    Circle(At(0, 0), 30);
-    expected.UseFont(21, Escapement(0));
-    SetTextColor(Dc(), kBlue);
-    SetBkMode(Dc(), TRANSPARENT);
-    Text(At(0, 0), "oben");
-    ExpectSame();
-}
-
-/// All kinds of elements in one colour, fills included.
-TEST_P(SymbolDrawing, AMarkColourReplacesAllColours) {
-    for (const COLORREF mark : {RGB(0, 0, 0), RGB(255, 120, 0)}) {
-        StartAgain();
-        Draw({{.type = symPoly, .points = shape, .closed = true, .fillColor = kGreen, .mainColor = kRed},
-              {.type = symPoly, .points = {{-900, 0}, {900, 20}}, .mainColor = kRed},
-              {.type = symCircle, .points = {{0, 700}}, .lineWidth = 30, .fillColor = kBlue, .radius = 90},
-              {.type = symCircle, .points = {{300, 700}}, .mainColor = kBlue, .radius = 90},
-              {.type = symText, .points = {{-300, -800}}, .mainColor = kBlue, .text = L"Bad"}},
-             static_cast<LONG>(mark));
-        expected.UseBrush(mark);
-        expected.UsePen(PS_NULL, 1, mark);
-        Closed(At(shape));
-        expected.UsePen(PS_SOLID, 1, mark);
-        Line({At(-900, 0), At(900, 20)});
-        expected.UsePen(PS_INSIDEFRAME, 3, mark);
-        Circle(At(0, 700), 9);
-        expected.UsePen(PS_SOLID, 1, mark);
-        expected.UseNoBrush();
-        Circle(At(300, 700), 9);
-        expected.UseFont(21, Escapement(0));
-        SetTextColor(Dc(), mark);
-        SetBkMode(Dc(), TRANSPARENT);
-        Text(At(-300, -800), "Bad");
-        ExpectSame();
-    }
 }
 
 TEST_P(SymbolDrawing, DrawnTwiceInAnInvertingModeItIsGone) {

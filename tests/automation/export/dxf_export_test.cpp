@@ -96,16 +96,6 @@ protected:
     std::filesystem::path path;
 };
 
-TEST_F(DxfExport, AppendsTwice) {
-    PutHead();
-    const Ref<_CSymbol> symbol = Flag();
-    EXPECT_OK(Append(symbol.Get()));
-    EXPECT_EQ(BytesOf(path), head + FlagEntities()) << "with a point under any regional settings";
-    EXPECT_TRUE(OpensAlone());
-    EXPECT_OK(Append(symbol.Get()));
-    EXPECT_EQ(BytesOf(path), head + FlagEntities() + FlagEntities());
-}
-
 TEST_F(DxfExport, LateBound) {
     const Dispatch symbol(Flag());
     EXPECT_OK(symbol.Put(L"Etagenbreite", 5000).status);
@@ -118,26 +108,6 @@ TEST_F(DxfExport, LateBound) {
                   {{L"stFilename", path.wstring()}, {L"dAngle", 0.0}, {L"lLogY", 2000}, {L"lLogX", 1000}})
             .status);
     EXPECT_EQ(BytesOf(path), FlagEntities() + FlagEntities());
-}
-
-TEST_F(DxfExport, FollowsTheScreenFactorOfTheLastDrawing) {
-    SetScreenFactor(2);
-    EXPECT_OK(Append(Flag().Get()));
-    EXPECT_NE(BytesOf(path).find(" 10\r\n0.01200000000000\r\n 20\r\n0.03000000000000\r\n"),
-              std::string::npos);
-}
-
-TEST_F(DxfExport, CirclesAndArcs) {
-    const Ref<_CSymbol> symbol =
-        support::NewSymbol(0, 0, 100, 100,
-                           {{.type = symCircle, .points = {{0, 0}}, .radius = 50},
-                            {.type = symArc, .points = {{0, 0}, {30, 40}, {-50, 0}}, .radius = 50}});
-    EXPECT_OK(Append(symbol.Get()));
-    const std::string arc =
-        "0\r\nARC\r\n8\r\nSYMBOLE\r\n6\r\nCONTINUOUS\r\n62\r\n7\r\n10\r\n0.01000000000000\r\n"
-        "20\r\n0.03000000000000\r\n30\r\n0.0\r\n40\r\n0.00050000000000\r\n";
-    EXPECT_EQ(BytesOf(path), arc + "50\r\n0.00000000000000\r\n51\r\n360.00000000000000\r\n" + arc +
-                                 "50\r\n306.86989764584400\r\n51\r\n180.00000000000000\r\n");
 }
 
 TEST_F(DxfExport, ASymbolWithoutElementsKeepsTheFileOpenAndLocksNobodyOut) {
@@ -175,13 +145,6 @@ TEST_F(DxfExport, ItsNextExportClosesTheFileLeftOpen) {
     EXPECT_EQ(BytesOf(path), head);
 }
 
-TEST_F(DxfExport, AFolderThatIsMissing) {
-    EXPECT_EQ(Outcome(AppendTo(Flag().Get(), folder / L"fehlt" / L"plan.dxf")), RunTimeError(76));
-    const Answer answer =
-        Dispatch(Flag()).Call(L"DxfExportSym", {0, 0, 0, (folder / L"fehlt" / L"plan.dxf").wstring()});
-    EXPECT_EQ(answer.failure, RunTimeError(76));
-}
-
 TEST_F(DxfExport, FilesThatCannotBeWritten) {
     EXPECT_EQ(Outcome(AppendTo(Flag().Get(), folder)), RunTimeError(75));
     PutHead();
@@ -206,14 +169,6 @@ TEST_F(DxfExport, AFileThatTheHostKeepsToItself) {
     EXPECT_EQ(Outcome(Append(Flag().Get())), RunTimeError(70));
     CloseHandle(alone);
     EXPECT_EQ(BytesOf(path), head);
-}
-
-TEST_F(DxfExport, WhatWasAppendedStaysWhenANumberLeavesItsRange) {
-    EXPECT_OK(Append(Flag().Get()));
-    const Ref<_CSymbol> symbol = Flag();
-    EXPECT_OK(symbol->put_Etagenbreite(MINLONG));
-    EXPECT_EQ(Outcome(symbol->DxfExportSym(0, 1000, 0, Bstr(path.wstring()))), RunTimeError(6));
-    EXPECT_EQ(BytesOf(path), FlagEntities());
 }
 
 TEST_F(DxfExport, TheReservedMethodDoesNothing) {

@@ -61,8 +61,11 @@ std::ostream& operator<<(std::ostream& out, const Box& box) {
     return out;
 }
 
-MessageBoxes::MessageBoxes(std::initializer_list<int> answers)
-    : hook_(SetWindowsHookExW(WH_CBT, Hook, nullptr, GetCurrentThreadId())), answers_(answers) {
+MessageBoxes::MessageBoxes(std::initializer_list<int> answers) : MessageBoxes(std::vector<int>(answers)) {}
+
+MessageBoxes::MessageBoxes(const std::vector<int>& answers)
+    : hook_(SetWindowsHookExW(WH_CBT, Hook, nullptr, GetCurrentThreadId())),
+      answers_(answers.begin(), answers.end()) {
     g_current = this;
 }
 

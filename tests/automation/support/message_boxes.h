@@ -29,6 +29,7 @@ class MessageBoxes {
 public:
     /// `answers` are pressed one after the other.
     explicit MessageBoxes(std::initializer_list<int> answers = {});
+    explicit MessageBoxes(const std::vector<int>& answers);
     MessageBoxes(const MessageBoxes&) = delete;
     MessageBoxes& operator=(const MessageBoxes&) = delete;
     /// Reports answers that were not needed.

@@ -1,14 +1,11 @@
 #include "qsymbol/draw/bounds.h"
 
-#include "qmath/math_util.h"
-#include "support/error_number_of.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <array>
 #include <complex>
-#include <limits>
 #include <random>
 
 namespace {
@@ -17,8 +14,6 @@ using qmath::Rect;
 using qsymbol::GetBoundingRect;
 using qsymbol::Symbol;
 
-constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
 
 Symbol Box(std::int32_t width, std::int32_t height, qmath::Point reference = {}) {
     Symbol symbol;
@@ -27,48 +22,6 @@ Symbol Box(std::int32_t width, std::int32_t height, qmath::Point reference = {})
     symbol.refX = reference.x;
     symbol.refY = reference.y;
     return symbol;
-}
-
-TEST(Bounds, UnturnedAndUnscaled) {
-    EXPECT_EQ(GetBoundingRect(Box(400, 300, {100, 50}), {.at = {1000, 2000}, .angle = 0}, 0),
-              (Rect{900, 1950, 1300, 2250}));
-}
-
-TEST(Bounds, QuarterTurn) {
-    // Counter-clockwise: what lay to the right of the reference point lies above it.
-    EXPECT_EQ(GetBoundingRect(Box(400, 300, {100, 50}), {.at = {1000, 2000}, .angle = qmath::kPi / 2}, 0),
-              (Rect{950, 1700, 1250, 2100}));
-}
-
-TEST(Bounds, FactorScalesAboutTheReferencePoint) {
-    const Symbol box = Box(400, 300, {100, 50});
-    EXPECT_EQ(GetBoundingRect(box, {.at = {1000, 2000}, .angle = 0}, 2), (Rect{800, 1900, 1600, 2500}));
-    EXPECT_EQ(GetBoundingRect(box, {.at = {1000, 2000}, .angle = 0}, 1),
-              GetBoundingRect(box, {.at = {1000, 2000}, .angle = 0}, 0));
-}
-
-TEST(Bounds, ASymbolWithoutSizeIsAPoint) {
-    EXPECT_EQ(GetBoundingRect(Box(0, 0), {.at = {7, 8}, .angle = 1}, 0), (Rect{7, 8, 7, 8}));
-}
-
-TEST(Bounds, NegativeSizesAreOrdered) {
-    EXPECT_EQ(GetBoundingRect(Box(-400, -300), {.at = {0, 0}, .angle = 0}, 0), (Rect{-400, -300, 0, 0}));
-}
-
-TEST(Bounds, SeedsAreTheLargestLongAndItsNegative) {
-    EXPECT_EQ(GetBoundingRect(Box(0, 0), {.at = {kLowest, kHighest}, .angle = 0}, 0),
-              (Rect{kLowest, kHighest, -kHighest, kHighest}));
-}
-
-TEST(Bounds, OutsideTheRangeIsError6) {
-    EXPECT_EQ(support::ErrorNumberOf([] {
-                  GetBoundingRect(Box(400, 300), {.at = {kHighest - 399, 0}, .angle = 0}, 0);
-              }),
-              6);
-    EXPECT_EQ(support::ErrorNumberOf([] {
-                  GetBoundingRect(Box(400, 300), {.at = {kHighest - 400, 0}, .angle = 0}, 0);
-              }),
-              0);
 }
 
 TEST(Bounds, AgreeWithComplexNumbers) {

@@ -35,31 +35,6 @@ std::string Fitted(const Symbol& symbol, double boxWidth, double boxHeight) {
     return surface.calls.empty() ? "" : surface.calls.back();
 }
 
-TEST(FittedDrawing, FillsTheBoxInItsLimitingDirection) {
-    EXPECT_EQ(Fitted(Diagonal(1000, 500), 100, 100), "Polyline (0,0) (100,50)"); // relatively wider: widths
-    EXPECT_EQ(Fitted(Diagonal(1000, 500), 400, 100),
-              "Polyline (0,0) (200,100)"); // relatively higher: heights
-    EXPECT_EQ(Fitted(Diagonal(1000, 500), 200, 100), "Polyline (0,0) (200,100)"); // the same shape
-    EXPECT_EQ(Fitted(Diagonal(2000, 500), 100, 100), "Polyline (0,0) (50,25)");   // the nominal size rules
-}
-
-TEST(FittedDrawing, ABoxMayBeSmallerThanItsFraction) {
-    EXPECT_EQ(Fitted(Diagonal(1000, 500), 50.5, 1000), "Polyline (0,0) (50,25)");
-}
-
-TEST(FittedDrawing, FlatSymbolsAreFittedByTheirWidth) {
-    EXPECT_EQ(Fitted(Diagonal(1000, 0), 100, 10), "Polyline (0,0) (100,50)");
-    // Ratio 0.00005: by the widths, although the box is flatter still.
-    EXPECT_EQ(Fitted(Diagonal(2000000, 100), 100000, 1), "Polyline (0,0) (50,25)");
-    // Ratio 0.0002: by the heights.
-    EXPECT_EQ(Fitted(Diagonal(500000, 100), 100000, 1), "Polyline (0,0) (10,5)");
-}
-
-TEST(FittedDrawing, WithoutWidthTheHeightRules) {
-    EXPECT_EQ(Fitted(Diagonal(0, 500), 10, 100), "Polyline (0,0) (200,100)");
-    EXPECT_EQ(Fitted(Diagonal(-5, 500), 10, 100), "Polyline (0,0) (200,100)");
-}
-
 TEST(FittedDrawing, WithoutSizeTheTrueExtentStandsIn) {
     // 1020 by 520 with the pen, in 102 pixels.
     EXPECT_EQ(Fitted(Diagonal(0, 0), 102, 102), "Polyline (1,1) (101,51)");
@@ -85,14 +60,6 @@ TEST(FittedDrawing, NothingToFitDrawsNothing) {
     Symbol point;
     point.elements = {Text({5, 5}, u"a")};
     EXPECT_EQ(Fitted(point, 100, 100), "");
-}
-
-TEST(FittedDrawing, OwnColoursAndBothFactorsOne) {
-    support::RecordingSurface surface;
-    surface.name = u"GraphicBox";
-    qsymbol::DrawFitted(Diagonal(1000, 500), surface, 100, 100);
-    EXPECT_EQ(surface.calls, (Calls{"DrawMode?", "Kind?", "Name?", "ForeColor=11", "DrawWidth=2",
-                                    "DrawStyle=0", "FillColor=0", "FillStyle=1", "Polyline (0,0) (100,50)"}));
 }
 
 TEST(FittedDrawing, AHostsErrorPasses) {

@@ -100,31 +100,6 @@ TEST_F(CatalogLoader, OneSeparatorAtTheEndGoes) {
     EXPECT_EQ(catalog_.symbols.Count(), 0) << "only one";
 }
 
-TEST_F(CatalogLoader, AMissingFolderLoadsNothing) {
-    EXPECT_EQ(Load(u"none"), Caught());
-    EXPECT_EQ(Load(u""), Caught());
-    EXPECT_TRUE(LoadList({u"WC"}, u"none"));
-    EXPECT_EQ(catalog_.symbols.Count(), 0);
-    EXPECT_THAT(world_.prompt.said, IsEmpty());
-}
-
-TEST_F(CatalogLoader, AnEmptyFolder) {
-    EXPECT_EQ(Load(), Caught());
-    EXPECT_EQ(catalog_.symbols.Count(), 0);
-    EXPECT_TRUE(LoadList({}));
-    EXPECT_FALSE(LoadList({u"WC"}));
-}
-
-TEST_F(CatalogLoader, IgnoreGoesOn) {
-    PutBroken(u"plan/a.syb");
-    PutSymbol(u"plan/b.syb");
-    world_.prompt.failures = {messages::FailureChoice::Ignore};
-    EXPECT_EQ(Load(), Caught());
-    EXPECT_THAT(catalog_.Names(), ElementsAre(u"b"));
-    EXPECT_THAT(world_.prompt.said, ElementsAre(u"Das Symbol \"plan/a.syb\" konnte nicht geladen werden.\r\n"
-                                                u"Einlesen hinter Dateiende"));
-}
-
 TEST_F(CatalogLoader, AbortStopsAtOnce) {
     PutSymbol(u"plan/a.syb");
     PutBroken(u"plan/b.syb");
@@ -180,40 +155,6 @@ TEST_F(CatalogLoader, ReadingThatRunsOutOfMemoryIsAFileThatFails) {
     world_.prompt.failures = {messages::FailureChoice::Ignore};
     EXPECT_EQ(Load(), Caught());
     EXPECT_TRUE(world_.prompt.said.at(0).ends_with(u"\r\nNicht genügend Speicher"));
-}
-
-TEST_F(CatalogLoader, AListThatCoversTooMuchLoadsNothing) {
-    std::set<std::u16string> names;
-    for (char16_t c = u'A'; c < u'K'; ++c) {
-        PutSymbol(std::u16string(u"plan/") + c + u".syb");
-        if (c < u'J')
-            names.insert(std::u16string(1, c));
-    }
-    EXPECT_FALSE(LoadList(names)) << "nine of ten";
-    EXPECT_EQ(catalog_.symbols.Count(), 0);
-    EXPECT_THAT(asked_, IsEmpty());
-    names.erase(u"A");
-    EXPECT_TRUE(LoadList(names)) << "eight of ten";
-    EXPECT_EQ(catalog_.symbols.Count(), 8);
-    EXPECT_EQ(catalog_.symbols.ItemByKey(u"A$"), nullptr);
-}
-
-TEST_F(CatalogLoader, ListNamesAreUpperCase) {
-    for (const char16_t* path :
-         {u"plan/wc.syb", u"plan/tür.SYB", u"plan/other.syb", u"plan/text.syt", u"plan/x"})
-        PutSymbol(path);
-    EXPECT_TRUE(LoadList({u"WC", u"TÜR", u"TEXT", u"MISSING"}));
-    EXPECT_THAT(catalog_.Names(), UnorderedElementsAre(u"wc", u"tür"));
-    EXPECT_TRUE(asked_.contains(u"OTHER"));
-}
-
-TEST_F(CatalogLoader, AListStoppedByAbortIsTrue) {
-    PutBroken(u"plan/a.syb");
-    PutSymbol(u"plan/b.syb");
-    PutSymbol(u"plan/c.syb");
-    world_.prompt.failures = {messages::FailureChoice::Abort};
-    EXPECT_TRUE(LoadList({u"A", u"B"}));
-    EXPECT_EQ(catalog_.symbols.Count(), 0);
 }
 
 TEST_F(CatalogLoader, ErrorsOfTheListAreThrown) {

@@ -1,12 +1,10 @@
 #include "qmath/math_util.h"
-#include "support/caught.h"
 #include "unit/qsymbol/export/export_support.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <complex>
-#include <limits>
 #include <map>
 #include <random>
 #include <sstream>
@@ -19,7 +17,6 @@ using export_test::Only;
 using qsymbol::ElementRecord;
 using qsymbol::ElementType;
 using qsymbol::Symbol;
-using qsymbol::SymbolPosition;
 
 /// The real values of the first entity by group code.
 std::map<int, double> Values(const std::string& bytes) {
@@ -37,71 +34,6 @@ double TurnsApart(double degrees, double otherDegrees) {
     return std::fabs(std::remainder(degrees - otherDegrees, 360));
 }
 
-ElementRecord Circle(qmath::Point centre, std::int32_t radius) {
-    ElementRecord circle = Element(ElementType::Circle, {centre});
-    circle.radius = radius;
-    return circle;
-}
-
-TEST(ArcExport, ArcOfThreePoints) {
-    ElementRecord arc = Element(ElementType::Arc, {{150, 100}, {200, 100}, {150, 50}});
-    arc.mainColor = 0x00FF00;
-    EXPECT_EQ(Export(Only(arc, 300)),
-              "0\r\nARC\r\n8\r\nSYMBOLE\r\n6\r\nCONTINUOUS\r\n62\r\n3\r\n10\r\n0.00150000000000\r\n"
-              "20\r\n0.00200000000000\r\n30\r\n0.0\r\n40\r\n0.00050000000000\r\n50\r\n0.00000000000000\r\n"
-              "51\r\n90.00000000000000\r\n");
-}
-
-TEST(ArcExport, CircleOfOnePoint) {
-    EXPECT_EQ(Export(Only(Circle({150, 100}, 50))),
-              "0\r\nARC\r\n8\r\nSYMBOLE\r\n6\r\nCONTINUOUS\r\n62\r\n7\r\n10\r\n0.00150000000000\r\n"
-              "20\r\n-0.00100000000000\r\n30\r\n0.0\r\n40\r\n0.00050000000000\r\n50\r\n0.00000000000000\r\n"
-              "51\r\n360.00000000000000\r\n");
-}
-
-TEST(ArcExport, FourPointsAsTheyStand) {
-    // Centre, a point 50 away, a start to the upper left, an end straight below.
-    const std::string expected =
-        "0\r\nARC\r\n8\r\nSYMBOLE\r\n6\r\nCONTINUOUS\r\n62\r\n7\r\n10\r\n0.00100000000000\r\n"
-        "20\r\n-0.00100000000000\r\n30\r\n0.0\r\n40\r\n0.00050000000000\r\n50\r\n135.00000000000000\r\n"
-        "51\r\n270.00000000000000\r\n";
-    for (const ElementType type : {ElementType::Arc, ElementType::Circle}) {
-        ElementRecord element = Element(type, {{100, 100}, {130, 140}, {0, 0}, {100, 900}});
-        element.radius = 777;
-        EXPECT_EQ(Export(Only(element)), expected);
-        element.points.push_back({5, 5});
-        EXPECT_EQ(Export(Only(element)), expected);
-    }
-}
-
-TEST(ArcExport, FourPointsWithEqualDirectionsAreNotCompleted) {
-    const auto values =
-        Values(Export(Only(Element(ElementType::Circle, {{0, 0}, {10, 0}, {0, -10}, {0, -10}}))));
-    EXPECT_EQ(values.at(50), 90);
-    EXPECT_EQ(values.at(51), 90);
-}
-
-TEST(ArcExport, OtherCountsOfPoints) {
-    ElementRecord circle = Circle({1, 2}, 3);
-    const std::string one = Export(Only(circle));
-    circle.points = {{1, 2}, {9, 9}};
-    EXPECT_EQ(Export(Only(circle)), one);
-    circle.points = {{1, 2}, {9, 9}, {8, 8}};
-    EXPECT_EQ(Export(Only(circle)), one);
-    circle.points.clear();
-    EXPECT_EQ(Export(Only(circle)), "");
-    EXPECT_EQ(Export(Only(Element(ElementType::Arc, {}))), "");
-    EXPECT_EQ(Export(Only(Element(ElementType::Arc, {{1, 2}}))), "");
-    EXPECT_EQ(Export(Only(Element(ElementType::Arc, {{1, 2}, {3, 4}}))), "");
-}
-
-TEST(ArcExport, AnArcWhoseEndsMeetIsAFullTurn) {
-    const auto values = Values(Export(Only(Element(ElementType::Arc, {{0, 0}, {30, 40}, {30, 40}}))));
-    EXPECT_EQ(values.at(40), 0.0005);
-    EXPECT_EQ(values.at(50), 0);
-    EXPECT_EQ(values.at(51), 360);
-}
-
 TEST(ArcExport, EndsInOneDirectionAreAFullTurnWhateverTheAngleRoundsThemTo) {
     const Symbol collinear = Only(Element(ElementType::Arc, {{0, 0}, {30, 40}, {3000, 4000}}));
     for (int step = 0; step < 100; ++step) {
@@ -117,30 +49,6 @@ TEST(ArcExport, AShortSweepThatRoundingTakesAwayIsNoFullTurn) {
     const auto values = Values(Export(sliver, {}, 0.001));
     EXPECT_EQ(values.at(50), 0);
     EXPECT_NEAR(values.at(51), 1.1458, 1e-4);
-}
-
-TEST(ArcExport, APointAsRadius) {
-    const auto values = Values(Export(Only(Element(ElementType::Arc, {{5, 5}, {5, 5}, {9, 5}}))));
-    EXPECT_EQ(values.at(40), 0);
-    EXPECT_EQ(values.at(50), 0);
-    EXPECT_EQ(values.at(51), 360);
-}
-
-TEST(ArcExport, NegativeRadiiAndFactors) {
-    EXPECT_EQ(Values(Export(Only(Circle({0, 0}, -50)))).at(40), 0.0005);
-    EXPECT_EQ(Values(Export(Only(Circle({0, 0}, 50)), {}, -2)).at(40), 0.001);
-}
-
-TEST(ArcExport, RadiiStayIn32Bits) {
-    const support::Caught overflow = support::Expected(base::RunTimeError::Overflow);
-    constexpr std::int32_t kMaxLong = std::numeric_limits<std::int32_t>::max();
-    EXPECT_EQ(support::CaughtFrom([&] { Export(Only(Circle({0, 0}, kMaxLong)), {}, 2); }), overflow);
-    EXPECT_EQ(support::CaughtFrom([&] { Export(Only(Circle({0, 0}, -kMaxLong - 1))); }), overflow);
-    EXPECT_EQ(support::CaughtFrom([&] {
-                  Export(Only(Element(ElementType::Arc, {{-kMaxLong, 0}, {kMaxLong, 0}, {0, 0}})));
-              }),
-              overflow);
-    EXPECT_EQ(Values(Export(Only(Circle({0, 0}, kMaxLong)))).at(40), 21474.83647);
 }
 
 /// One placed arc, worked out in the mathematician's plane (y upwards) with complex numbers.

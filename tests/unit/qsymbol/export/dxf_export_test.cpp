@@ -51,28 +51,6 @@ protected:
     platform::Windows1252 codePage_;
 };
 
-TEST_F(DxfExport, AppendsBehindWhatIsThere) {
-    memory_.files[kPath] = kHead;
-    EXPECT_EQ(Append(support::WashRoom()), nullptr);
-    const std::string once = Export(support::WashRoom(), kPosition);
-    EXPECT_EQ(memory_.files[kPath], kHead + once);
-    EXPECT_EQ(Append(support::WashRoom()), nullptr);
-    EXPECT_EQ(memory_.files[kPath], kHead + once + once);
-    EXPECT_EQ(memory_.openNow, 0);
-}
-
-TEST_F(DxfExport, MakesAFileThatIsMissing) {
-    Append(support::WashRoom());
-    EXPECT_EQ(memory_.files[kPath], Export(support::WashRoom(), kPosition));
-}
-
-TEST_F(DxfExport, FollowsTheScreenFactor) {
-    factor_ = 2.5;
-    Append(support::WashRoom());
-    EXPECT_EQ(memory_.files[kPath], Export(support::WashRoom(), kPosition, 2.5));
-    EXPECT_NE(memory_.files[kPath], Export(support::WashRoom(), kPosition));
-}
-
 TEST_F(DxfExport, ASymbolWithoutElementsLeavesTheFileOpen) {
     memory_.files[kPath] = kHead;
     std::unique_ptr<base::File> left = Append(Symbol());
@@ -83,12 +61,6 @@ TEST_F(DxfExport, ASymbolWithoutElementsLeavesTheFileOpen) {
     EXPECT_EQ(memory_.files[kPath], kHead + Export(support::WashRoom(), kPosition));
     left.reset();
     EXPECT_EQ(memory_.openNow, 0);
-}
-
-TEST_F(DxfExport, ElementsThatWriteNothingCloseTheFile) {
-    EXPECT_EQ(Append(Only(Element(ElementType::Undefined, {}))), nullptr);
-    EXPECT_EQ(memory_.openNow, 0);
-    EXPECT_EQ(memory_.files[kPath], "");
 }
 
 TEST_F(DxfExport, OpenFailures) {
@@ -112,16 +84,6 @@ TEST_F(DxfExport, WhatAFullDiskTookStays) {
 TEST_F(DxfExport, AFailureOnClosingIsReported) {
     memory_.closeError = RunTimeError::DeviceIo;
     EXPECT_EQ(Error(support::WashRoom()), Expected(RunTimeError::DeviceIo));
-    EXPECT_EQ(memory_.openNow, 0);
-}
-
-TEST_F(DxfExport, ASymbolThatCannotBeComposedAppendsNothing) {
-    memory_.files[kPath] = kHead;
-    Symbol symbol = support::WashRoom();
-    constexpr std::int32_t kMaxLong = std::numeric_limits<std::int32_t>::max();
-    symbol.elements.push_back(Element(ElementType::Poly, {{0, 0}, {kMaxLong, kMaxLong}}));
-    EXPECT_EQ(Error(symbol), Expected(RunTimeError::Overflow));
-    EXPECT_EQ(memory_.files[kPath], kHead);
     EXPECT_EQ(memory_.openNow, 0);
 }
 

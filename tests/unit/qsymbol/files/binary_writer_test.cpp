@@ -30,54 +30,6 @@ protected:
     }
 };
 
-TEST_F(BinaryWriter, ByteForByte) {
-    Symbol symbol;
-    symbol.width = 1;
-    symbol.height = -1;
-    symbol.refX = 256;
-    symbol.refY = 0x01020304;
-    symbol.elements.resize(2);
-    symbol.elements[0].type = qsymbol::ElementType::Text;
-    symbol.elements[0].lineClosed = true;
-    symbol.elements[0].lineWidth = 2;
-    symbol.elements[0].textAlign = 3;
-    symbol.elements[0].textBkMode = 4;
-    symbol.elements[0].textAngle = 1.0;
-    symbol.elements[0].radius = 5;
-    symbol.elements[0].mainColor = 6;
-    symbol.elements[0].fillColor = 7;
-    symbol.elements[0].text = u"ü";
-    symbol.elements[0].points = {{8, 9}};
-    symbol.elements[0].font = qsymbol::FontRecord{u"A", 10, true, false, false, true};
-    const std::string_view expected = "\3\0SYM"
-                                      "\1\0\0\0\xFF\xFF\xFF\xFF\0\1\0\0\4\3\2\1"
-                                      "\1\0\0\0"
-                                      // the text element
-                                      "\4\0\0\0\xFF\xFF\2\0\0\0\3\0\0\0\4\0\0\0"
-                                      "\0\0\0\0\0\0\xF0\x3F"
-                                      "\5\0\0\0\6\0\0\0\7\0\0\0"
-                                      "\1\0\xFC"
-                                      "\0\0\0\0\x8\0\0\0\x9\0\0\0"
-                                      "\xFF\xFF\xFF\xFF\0\0\1\0A\xA\0\0\0\0\0\xFF\xFF"
-                                      // the undefined element
-                                      "\0\0\0\0\0\0\0\0\0\0\0\0\0\0\1\0\0\0"
-                                      "\0\0\0\0\0\0\0\0"
-                                      "\0\0\0\0\0\0\0\0\xFF\xFF\xFF\xFF"
-                                      "\0\0"
-                                      "\xFF\xFF\xFF\xFF"
-                                      "\0\0"sv;
-    EXPECT_EQ(Compose(symbol), expected);
-}
-
-TEST_F(BinaryWriter, EveryFieldComesBackBitForBit) {
-    const Symbol symbol = support::EveryField();
-    Symbol expected = symbol;
-    for (qsymbol::ElementRecord& element : expected.elements)
-        if (!element.font)
-            element.font.emplace(); // every element has one after reading
-    EXPECT_EQ(Back(symbol), expected);
-}
-
 TEST_F(BinaryWriter, AnglesKeepEveryBit) {
     Symbol symbol;
     symbol.elements.resize(1);
@@ -86,13 +38,6 @@ TEST_F(BinaryWriter, AnglesKeepEveryBit) {
         symbol.elements[0].textAngle = std::bit_cast<double>(bits);
         EXPECT_EQ(std::bit_cast<std::uint64_t>(Back(symbol).elements[0].textAngle), bits);
     }
-}
-
-TEST_F(BinaryWriter, NoElementsAreTwentyFiveBytesThatDoNotReadBack) {
-    Symbol symbol;
-    const std::string bytes = Compose(symbol);
-    EXPECT_EQ(bytes, "\3\0SYM\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\xFF\xFF\xFF\xFF"sv);
-    EXPECT_EQ(CaughtFrom([&] { Back(symbol); }), Expected(RunTimeError::SubscriptOutOfRange));
 }
 
 TEST_F(BinaryWriter, SizesAreRoundedHalfToEven) {

@@ -16,10 +16,7 @@ using qsymbol::Symbol;
 using support::Caught;
 using support::CaughtFrom;
 using support::Expected;
-using testing::ElementsAre;
 using testing::IsEmpty;
-
-const std::u16string kQuestion = u"Datei plan/wc.syt existiert schon. Soll sie überschrieben werden ?";
 
 class SymbolFile : public testing::Test {
 protected:
@@ -38,85 +35,21 @@ protected:
     }
 };
 
-TEST_F(SymbolFile, TheExtensionChoosesTheFormat) {
-    memory_.files[u"plan/wc.SyT"] = support::WashRoomText();
-    memory_.files[u"plan/wc.SYB"] = ComposeBinary(support::WashRoom(), world_.InMemory());
-    Symbol text = At(u"plan/wc.SyT", {});
-    EXPECT_EQ(Read(text), Caught());
-    EXPECT_EQ(text, At(u"plan/wc.SyT"));
-    Symbol binary = At(u"plan/wc.SYB", {});
-    EXPECT_EQ(Read(binary), Caught());
-    EXPECT_EQ(binary.elements.size(), 3U);
-    EXPECT_EQ(binary.refY, 100);
-}
-
-TEST_F(SymbolFile, WritingAndReadingBack) {
-    for (const char16_t* path : {u"plan/neu.syt", u"plan/neu.syb", u"plan/NEU2.SYB"}) {
-        EXPECT_EQ(Write(At(path, support::WashRoom())), Caught());
-        Symbol back = At(path, {});
-        EXPECT_EQ(Read(back), Caught());
-        EXPECT_EQ(back.elements[2], support::WashRoom().elements[2]);
-        EXPECT_EQ(back.width, 300);
-    }
-    EXPECT_THAT(world_.prompt.said, IsEmpty());
-    EXPECT_EQ(memory_.files[u"plan/neu.syt"], support::WashRoomText());
-}
-
-TEST_F(SymbolFile, AnUnknownExtensionLeavesTheSymbolUntouched) {
-    const Caught refused{3501, u"CSymbol.ReadFromFile", u"Keine gültige Symboldatei."};
-    for (const char16_t* path :
-         {u"plan/wc", u"plan/wc.txt", u"plan.syb/wc", u"", u"plan/wc.syb2", u"plan/wc.syb."}) {
-        Symbol symbol = At(path);
-        EXPECT_EQ(Read(symbol), refused);
-        EXPECT_EQ(symbol, At(path));
-    }
-}
-
-TEST_F(SymbolFile, WritingAnUnknownExtension) {
-    const Caught refused{3503, u"CSymbol.Write2File", u"Keine gültige Extension für eine Symboldatei."};
-    for (const char16_t* path : {u"plan/wc", u"plan/wc.txt", u"plan/wc.wsc", u"plan/wc.WSC", u""})
-        EXPECT_EQ(Write(At(path)), refused);
-    EXPECT_THAT(memory_.files, IsEmpty());
-    EXPECT_EQ(memory_.opened, 0);
-}
-
-TEST_F(SymbolFile, ErrorsOfTheReadersKeepTheirSource) {
+TEST_F(SymbolFile, TheResourceHasTheTextsOfErrors) {
+    world_.strings.texts = {{11102, u"a"}, {11103, u"b"}, {11104, u"c"}};
     memory_.files[u"plan/a.syt"] = "X";
+    memory_.files[u"plan/b.syt"] = "SYM;CNT=1;WID=1;HEI=1;RPX=0;XYZ=0\n";
     memory_.files[u"plan/a.syb"] = "X;;;;;";
-    Symbol symbol = At(u"plan/a.syt");
-    EXPECT_EQ(Read(symbol).source, u"CSymbol.ReadFromTxtFile");
-    EXPECT_EQ(symbol, At(u"plan/a.syt", {})) << "never the old content";
-    symbol = At(u"plan/a.syb");
-    EXPECT_EQ(Read(symbol).source, u"CSymbol.ReadFromBinFile");
-    EXPECT_EQ(symbol, At(u"plan/a.syb", {}));
-    EXPECT_EQ(memory_.openNow, 0);
-}
-
-TEST_F(SymbolFile, OverwritingAsksFirst) {
-    memory_.files[u"plan/wc.syt"] = "old";
-    world_.prompt.yesNo = {false};
-    EXPECT_EQ(Write(At(u"plan/wc.syt")), Caught());
-    EXPECT_EQ(memory_.files[u"plan/wc.syt"], "old");
-    EXPECT_EQ(memory_.opened, 0);
-    EXPECT_THAT(world_.prompt.said, ElementsAre(kQuestion));
-    EXPECT_THAT(world_.prompt.titles, ElementsAre(u"Symboleditor"));
-
-    world_.prompt.yesNo = {true};
-    EXPECT_EQ(Write(At(u"plan/wc.syt")), Caught());
-    EXPECT_EQ(memory_.files[u"plan/wc.syt"], support::WashRoomText());
-}
-
-TEST_F(SymbolFile, ABinaryFileKeepsItsOldTail) {
-    const std::string bytes = ComposeBinary(support::WashRoom(), world_.InMemory());
-    memory_.files[u"plan/wc.syb"] = std::string(bytes.size() + 5, '#');
-    world_.prompt.yesNo = {false, true};
-    EXPECT_EQ(Write(At(u"plan/wc.syb")), Caught());
-    EXPECT_EQ(memory_.files[u"plan/wc.syb"], std::string(bytes.size() + 5, '#'));
-    EXPECT_EQ(Write(At(u"plan/wc.syb")), Caught());
-    EXPECT_EQ(memory_.files[u"plan/wc.syb"], bytes + "#####");
-    Symbol back = At(u"plan/wc.syb", {});
-    EXPECT_EQ(Read(back), Caught());
-    EXPECT_EQ(back.elements.size(), 3U);
+    memory_.files[u"plan/a.wsc"] = "X\n";
+    for (const auto& [path, text] : {std::pair{u"plan/a.syt", u"a"},
+                                     {u"plan/b.syt", u"b"},
+                                     {u"plan/a.syb", u"a"},
+                                     {u"plan/a.wsc", u"a"},
+                                     {u"plan/a", u"a"}}) {
+        Symbol symbol = At(path);
+        EXPECT_EQ(Read(symbol).description, text);
+    }
+    EXPECT_EQ(Write(At(u"plan/a")).description, u"c");
 }
 
 TEST_F(SymbolFile, WhatCannotBeComposedLeavesTheFileUntouched) {
