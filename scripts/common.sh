@@ -107,7 +107,7 @@ build() {
 
 # wine_prefix: makes the project's own prefix, once: no display needed, Arial present.
 wine_prefix() {
-    wine_home
+    own_home
     [ -f "$WINEPREFIX/.ready" ] && return
     rm -rf "$WINEPREFIX"
     mkdir -p "$WINEPREFIX"
@@ -119,8 +119,10 @@ wine_prefix() {
     touch "$WINEPREFIX/.ready"
 }
 
-# wine_home: a home folder of the project's own: a prefix leads "Documents" and the like there, and no menu entries are made.
-wine_home() {
+# own_home: a home folder of the project's own, for programs that write into it unasked: a prefix leads "Documents" and the
+# like there, and no menu entries are made.
+own_home() {
+    export GIT_CONFIG_GLOBAL=${GIT_CONFIG_GLOBAL:-$HOME/.gitconfig}
     export HOME=$ROOT/build/home WINEDLLOVERRIDES=winemenubuilder.exe=
     unset XDG_CACHE_HOME XDG_CONFIG_HOME XDG_DATA_HOME
     mkdir -p "$HOME"
@@ -194,7 +196,10 @@ benchmark_source() {
     local apt=(apt-get -qq -o "Dir::Etc::SourceList=$folder/sources.list" -o Dir::Etc::SourceParts=/dev/null
         -o "Dir::State::Lists=$folder/lists" -o "Dir::Cache=$folder/cache")
     "${apt[@]}" update
-    (cd "$folder" && "${apt[@]}" source benchmark 2>/dev/null)
+    (cd "$folder" && "${apt[@]}" source benchmark >"$ROOT/build/logs/benchmark-source.log" 2>&1) || {
+        tail -n 5 "$ROOT/build/logs/benchmark-source.log" >&2
+        exit 1
+    }
     mv "$folder"/benchmark-*/ "$folder/benchmark"
 }
 

@@ -85,7 +85,7 @@ x86_wine() { x86_inside "$1" "$2" /usr/lib/wine/wine "${@:3}"; }
 # wine32_run FOLDER PROGRAM ARGUMENT…: a 32-bit program of a folder; where none can run, a skipped case.
 wine32_run() {
     if x86_own; then
-        wine_home
+        own_home
         copy_prefix build/wine/prefix "$WINEPREFIX"
         wine_run "$1/$2" "${@:3}"
     elif [ -f "$X86_ROOT/.ready" ]; then

@@ -14,7 +14,7 @@ def main():
         if file.exists():
             figures, *lines = file.read_text(encoding="utf-8").splitlines()
         else:
-            figures, lines = "0 1 0 0 0", ["failed: no result"]
+            figures, lines = "0 1 0 0 0", ["failed: no result: what it needs could not be made, or its judge was ended"]
         *counts, seconds, used = map(int, figures.split())
         total = [a + b for a, b in zip(total, counts)]
         notes += [f"{name}: {line}" for line in lines]

@@ -12,7 +12,7 @@ FAULTS = {
                   "skip-without-reason", "empty-filter")
     for road in ("native", "wine")
 } | {"leak", "silent-script", "empty-script", "failing-script", "talking-script", "hanging-script", "missing-program",
-     "killed-judge"}  # fmt: skip
+     "failing-build", "killed-judge"}  # fmt: skip
 SOUND = {"sound-native": 3, "sound-wine": 3, "sound-script": 2, "skip-one-native": 2, "skip-one-wine": 2, "skip-script": 0}
 
 
