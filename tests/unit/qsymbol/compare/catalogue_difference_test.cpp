@@ -1,0 +1,105 @@
+#include "qsymbol/compare/catalogue_difference.h"
+
+#include "qsymbol/compare/decimal_separator.h"
+
+#include <gmock/gmock.h>
+
+#include <numbers>
+
+namespace {
+
+using namespace qsymbol;
+using testing::ElementsAre;
+
+ElementRecord Element(ElementType type, std::int32_t colour) {
+    ElementRecord element;
+    element.type = type;
+    element.mainColor = colour;
+    element.points = {{0, 0}, {colour, 100}};
+    return element;
+}
+
+Symbol Of(std::initializer_list<std::int32_t> colours) {
+    Symbol symbol;
+    for (const std::int32_t colour : colours)
+        symbol.elements.push_back(Element(colour < 100 ? ElementType::Poly : ElementType::Text, colour));
+    return symbol;
+}
+
+/// Each difference as "old->new", 0 for none.
+std::vector<std::string> Aligned(const Symbol& before, const Symbol& after) {
+    std::vector<std::string> found;
+    for (const ElementDifference& element : Compare(before, after, Precision::Exact).elements)
+        found.push_back(std::to_string(element.before) + "->" + std::to_string(element.after));
+    return found;
+}
+
+CatalogueSymbol Named(std::u16string name, Symbol symbol, bool isText = false) {
+    symbol.filePath = name + u".syb";
+    return {std::move(name), isText, std::move(symbol)};
+}
+
+} // namespace
+
+TEST(SymbolDifference, FindsTheSameElementsInTheirOrder) {
+    EXPECT_THAT(Aligned(Of({1, 2, 3}), Of({1, 2, 3})), ElementsAre());
+    EXPECT_THAT(Aligned(Of({1, 2, 3}), Of({1, 3})), ElementsAre("2->0"));
+    EXPECT_THAT(Aligned(Of({1, 3}), Of({1, 2, 3, 4})), ElementsAre("0->2", "0->4"));
+    EXPECT_THAT(Aligned(Of({1, 2, 3}), Of({1, 9, 3})), ElementsAre("2->2"));
+    EXPECT_THAT(Aligned(Of({1, 2, 3}), Of({1, 200, 3})), ElementsAre("2->0", "0->2"));
+    EXPECT_THAT(Aligned(Of({1, 2, 3, 4}), Of({2, 3, 4, 1})), ElementsAre("1->0", "0->4"));
+}
+
+TEST(SymbolDifference, NamesFieldsAndPoints) {
+    const Symbol before = Of({5, 500});
+    Symbol after = before;
+    after.width = 7;
+    after.elements[0].points[1].x = 6;
+    after.elements[0].points.push_back({1, 1});
+    after.elements[0].radius = 99; // a line has none
+    after.elements[1].font = FontRecord{.bold = true};
+    const SymbolDifference found = Compare(before, after, Precision::Exact);
+    EXPECT_THAT(found.header, ElementsAre(Change{"width", ValueOf(0), ValueOf(7)}));
+    ASSERT_EQ(found.elements.size(), 2u);
+    EXPECT_THAT(found.elements[0].changes,
+                ElementsAre(Change{"points", ValueOf(qmath::Point{5, 100}), ValueOf(qmath::Point{6, 100}), 2},
+                            Change{"points", FieldValue(), ValueOf(qmath::Point{1, 1}), 3}));
+    EXPECT_THAT(found.elements[1].changes, ElementsAre(Change{"bold", ValueOf(false), ValueOf(true)}));
+}
+
+TEST(SymbolDifference, TextFilesKeepHundredthsOfDegreesAndWholeFontSizes) {
+    Symbol before = Of({500});
+    before.elements[0].font = FontRecord{.size = 12};
+    Symbol after = before;
+    after.elements[0].textAngle = 0.004 * std::numbers::pi / 180;
+    after.elements[0].font->size = 12.4;
+    after.elements.push_back({});
+    EXPECT_TRUE(Compare(before, after, Precision::Text).IsEmpty());
+    EXPECT_EQ(Compare(before, after, Precision::Exact).elements.size(), 2u);
+}
+
+TEST(SymbolDifference, VeryManyElementsAreComparedPlaceByPlace) {
+    Symbol before;
+    Symbol after;
+    for (std::int32_t i = 0; i < 3000; ++i) {
+        before.elements.push_back(Element(ElementType::Poly, i));
+        after.elements.push_back(Element(ElementType::Poly, i + 10000));
+    }
+    EXPECT_EQ(Compare(before, after, Precision::Exact).elements.size(), 3000u);
+}
+
+TEST(CatalogueDifference, MatchesByNameThenByContent) {
+    const auto found = Compare({Named(u"Alt", Of({1})), Named(u"Bleibt", Of({2})), Named(u"Weg", Of({3}))},
+                               {Named(u"BLEIBT", Of({2})), Named(u"Neu", Of({1})), Named(u"Mehr", Of({4}))});
+    std::vector<std::u16string> names;
+    for (const CatalogueDifference& difference : found)
+        names.push_back(difference.before + u">" + difference.after);
+    EXPECT_THAT(names, ElementsAre(u"Weg>", u"Bleibt>BLEIBT", u"Alt>Neu", u">Mehr"));
+}
+
+TEST(DecimalSeparator, IsTheOneThatTheNumbersHold) {
+    EXPECT_EQ(DecimalSeparatorOf("SYM;CNT=1;WID=3,00"), ',');
+    EXPECT_EQ(DecimalSeparatorOf("SYM;CNT=1;WID=1.003,00"), ',');
+    EXPECT_EQ(DecimalSeparatorOf("SYM;CNT=1\r\nSTRING;\"1,5\"\r\nTEXT;NAM=A,B;ANG=1.5"), '.');
+    EXPECT_EQ(DecimalSeparatorOf("SYM;CNT=1;WID=3"), std::nullopt);
+}
