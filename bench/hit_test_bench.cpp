@@ -103,21 +103,12 @@ qsymbol::Symbol VertexSymbol() {
     for (std::size_t i = 0; i < kVertices; ++i)
         poly.points.push_back({coordinate(random), coordinate(random)});
     symbol.elements.push_back(poly);
+    symbol.width = symbol.height = 50000;
     return symbol;
 }
 
 const qsymbol::SymbolPosition kPosition{.at = {12345, 67890}, .angle = 0.7};
-constexpr float kFarAway = -1000000;
-
-void SnapOverVertices(benchmark::State& state) {
-    const qsymbol::Symbol symbol = VertexSymbol();
-    const qsymbol::PlainTransformation transformation(PlanTransform());
-    for (auto _ : state)
-        benchmark::DoNotOptimize(
-            qsymbol::CatchPt(symbol, kPosition, 0, transformation, kFarAway, kFarAway, 10));
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kVertices));
-}
-BENCHMARK(SnapOverVertices);
+constexpr std::int16_t kRange = 2;
 
 /// The peer: the same arithmetic written out in one loop, without contracts and virtual calls.
 std::optional<std::size_t> BareLoop(const std::vector<qmath::Point>& points, double x, double y,
@@ -139,12 +130,66 @@ std::optional<std::size_t> BareLoop(const std::vector<qmath::Point>& points, dou
     return std::nullopt;
 }
 
+/// A cursor among the vertices that catches none of them, so that every one is looked at.
+qmath::Point AmongTheVertices(const std::vector<qmath::Point>& points) {
+    std::mt19937 random(13);
+    std::uniform_int_distribution<std::int32_t> world(0, 30000);
+    for (;;) {
+        const qmath::Point cursor = PlanTransform().WorldToScreen(
+            {kPosition.at.x + world(random), kPosition.at.y + world(random) - 15000});
+        if (!BareLoop(points, cursor.x, cursor.y, kRange))
+            return cursor;
+    }
+}
+
+void SnapOverVertices(benchmark::State& state) {
+    const qsymbol::Symbol symbol = VertexSymbol();
+    const qsymbol::PlainTransformation transformation(PlanTransform());
+    const qmath::Point cursor = AmongTheVertices(symbol.elements[0].points);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(qsymbol::CatchPt(symbol, kPosition, 0, transformation,
+                                                  static_cast<float>(cursor.x), static_cast<float>(cursor.y),
+                                                  kRange));
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kVertices));
+}
+BENCHMARK(SnapOverVertices);
+
 void BareLoopOverVertices(benchmark::State& state) {
     const qsymbol::Symbol symbol = VertexSymbol();
+    const qmath::Point cursor = AmongTheVertices(symbol.elements[0].points);
     for (auto _ : state)
-        benchmark::DoNotOptimize(BareLoop(symbol.elements[0].points, kFarAway, kFarAway, 10));
+        benchmark::DoNotOptimize(BareLoop(symbol.elements[0].points, cursor.x, cursor.y, kRange));
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kVertices));
 }
 BENCHMARK(BareLoopOverVertices);
+
+/// A mouse move over a plan: nearly every symbol is far away.
+void SnapToFarSymbols(benchmark::State& state) {
+    const qsymbol::Symbol symbol = VertexSymbol();
+    const qsymbol::PlainTransformation transformation(PlanTransform());
+    const std::vector<Probe> probes = Probes(false);
+    std::size_t next = 0;
+    for (auto _ : state) {
+        const Probe& probe = probes[next++ % kProbes];
+        benchmark::DoNotOptimize(qsymbol::CatchPt(symbol, probe.position, 0, transformation,
+                                                  static_cast<float>(probe.screen.x) + 50000, 0, 10));
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(SnapToFarSymbols);
+
+void HitTestOfFarSymbols(benchmark::State& state) {
+    const qsymbol::Symbol symbol = VertexSymbol();
+    const qsymbol::PlainTransformation transformation(PlanTransform());
+    const std::vector<Probe> probes = Probes(false);
+    std::size_t next = 0;
+    for (auto _ : state) {
+        const Probe& probe = probes[next++ % kProbes];
+        benchmark::DoNotOptimize(
+            qsymbol::ObjIdentByPt(symbol, probe.position, 0, transformation, {probe.screen.x + 50000, 0}));
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(HitTestOfFarSymbols);
 
 } // namespace

@@ -9,6 +9,8 @@ import sys
 import tempfile
 
 import ezdxf
+from ezdxf.lldxf.encoding import decode_dxf_unicode
+from ezdxf.tools.text import caret_decode
 from expected_entities import NUMBERS, Mismatch, Placement, check_audit, check_symbols, plan_colours, read_symbol, require
 
 
@@ -34,6 +36,23 @@ def write_colour_chart(path):
     path.write_text("\r\n".join(lines) + "\r\n", encoding="cp1252", newline="")
 
 
+def check_odd_texts(path):
+    """The texts of odd_texts.cpp, decoded; every circle tells that nothing was lost on the way to it."""
+    document = ezdxf.readfile(path)
+    check_audit(document)
+    texts = [entity.plain_text() if entity.dxftype() == "TEXT" else entity.dxf.radius for entity in document.modelspace()]
+    require(texts[1::2] == list(range(1, len(texts) // 2 + 1)), "circles between the texts", texts[1::2])
+    raw = [entity.dxf.text for entity in document.modelspace().query("TEXT")]
+    decoded = [caret_decode(decode_dxf_unicode(text)) for text in raw]
+    require(decoded[:12] == [
+        "Küche 5 m²", "", " ", "     ", "Zeile 1\nZeile 2\r\nZeile 3\r",
+        "a\r\n  0\r\nLINE\r\n  8\r\n0\r\n 10\r\n0.0\r\n 20\r\n0.0\r\n 11\r\n9.0\r\n 21\r\n9.0",
+        "\0vorn, in der \0 Mitte und hinten\0", "\t\x1a\x1b^J^ ^", "≤ 90 cm, √2, \ud83d\ude00", "\x7f\x85\u2028",
+        "  0", "EOF"], "odd texts", decoded[:12])
+    require(decoded[12:] == ["x" * 1020, "≤" * 145, "\0" * 510], "long texts", [len(text) for text in decoded[12:]])
+    return len(raw)
+
+
 def main():
     program, sample = sys.argv[1], pathlib.Path(sys.argv[2])
     with tempfile.TemporaryDirectory() as folder:
@@ -46,13 +65,15 @@ def main():
         listing.write_text("".join(p.line() for p in placed), encoding="utf-8")
         subprocess.run([program, catalogue, listing, dxf], check=True)
         document = ezdxf.readfile(dxf)
+        subprocess.run([program, pathlib.Path(folder, "texts.dxf")], check=True)
+        odd_texts = check_odd_texts(pathlib.Path(folder, "texts.dxf"))
         symbols = {name: read_symbol(catalogue / f"{name}.syt") for name in names}
     check_audit(document)
     counts = check_symbols(document.modelspace(), placed, symbols)
     require({"POLYLINE", "ARC", "TEXT"} <= counts.keys(), "kinds of entity", counts)
     colours = {entity.dxf.color for entity in document.modelspace()}
     require(colours == set(NUMBERS.values()), "colours")
-    print(f"{len(placed)} symbols, {counts}, {len(colours)} colours, audit clean")
+    print(f"{len(placed)} symbols, {counts}, {len(colours)} colours, {odd_texts} odd texts, audit clean")
     print("1 passed, 0 failed, 0 skipped")
 
 

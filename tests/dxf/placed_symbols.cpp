@@ -4,6 +4,7 @@
 
 #include "base/error.h"
 #include "dxf/dxf_frame.h"
+#include "dxf/odd_texts.h"
 #include "qsymbol/export/dxf_export.h"
 #include "qsymbol/files/symbol_file.h"
 #include "support/test_environment.h"
@@ -51,11 +52,17 @@ void Write(const std::filesystem::path& catalogue, const std::filesystem::path& 
 } // namespace
 
 int main(int count, char** values) {
-    if (count != 4) {
-        std::cerr << "placed_symbols CATALOGUEFOLDER PLACEMENTS OUT.dxf\n";
+    if (count != 4 && count != 2) {
+        std::cerr << "placed_symbols CATALOGUEFOLDER PLACEMENTS OUT.dxf\n"
+                     "placed_symbols OUT.dxf writes texts that are hard to read\n";
         return 2;
     }
     try {
+        if (count == 2) {
+            support::TestEnvironment world;
+            support::WriteOddTexts(world.disk, world.codePage, std::filesystem::path(values[1]).u16string());
+            return 0;
+        }
         Write(values[1], values[2], std::filesystem::path(values[3]).u16string());
         return 0;
     } catch (const std::exception& error) {

@@ -3,6 +3,7 @@
 #include "base/error.h"
 #include "qsymbol/geometry/pixel_reach.h"
 #include "qsymbol/geometry/placement.h"
+#include "qsymbol/geometry/turn.h"
 
 #include <algorithm>
 #include <array>
@@ -48,11 +49,38 @@ struct Far {
     double y;
 };
 
-template <class ToScreen>
+/// Where the points of a symbol are before they are rounded, near enough to pass most of them by.
+class Nearness {
+public:
+    Nearness(const Symbol& symbol, double angle, const PixelReach& reach, const Cursor& cursor)
+        : alongX_(reach.Unit() * TurnBy(angle).cosine), alongY_(reach.Unit() * TurnBy(angle).sine),
+          refX_(symbol.refX), refY_(symbol.refY), x_(cursor.x - reach.X()), y_(cursor.y - reach.Y()),
+          range_(cursor.range + reach.Slack()) {}
+
+    bool operator()(qmath::Point point) const {
+        const double x = point.x - refX_;
+        const double y = point.y - refY_;
+        return std::abs(alongX_ * x + alongY_ * y - x_) < range_ &&
+               std::abs(alongX_ * y - alongY_ * x - y_) < range_;
+    }
+
+private:
+    double alongX_;
+    double alongY_;
+    double refX_;
+    double refY_;
+    double x_;
+    double y_;
+    double range_;
+};
+
+template <class MayCatch, class ToScreen>
 std::optional<CaughtPoint> WalkThrough(const Symbol& symbol, const Placement& placement, const Cursor& cursor,
-                                       const ToScreen& toScreen) {
+                                       const MayCatch& mayCatch, const ToScreen& toScreen) {
     for (const ElementRecord& element : symbol.elements) {
         for (const qmath::Point candidate : Candidates(element)) {
+            if (!mayCatch(candidate))
+                continue;
             const qmath::Point world = placement.Map(candidate);
             const qmath::Point screen = toScreen(world);
             if (cursor.Catches(screen))
@@ -107,22 +135,25 @@ std::optional<CaughtPoint> CatchPt(const Symbol& symbol, const SymbolPosition& p
                                    const Transformation& transformation, float x, float y,
                                    std::int16_t range) {
     const Cursor cursor{x, y, static_cast<double>(range)};
-    const qmath::Transform* const plain = transformation.Plain();
-    if (plain != nullptr) {
+    // Only when it is needed: it takes a sine and a cosine.
+    const auto placement = [&] { return SurfaceFreePlacement(Reference(symbol), position, screenFactor); };
+    const auto anyPoint = [](qmath::Point) { return true; };
+    if (const qmath::Transform* const plain = transformation.Plain()) {
+        const auto toScreen = [plain](qmath::Point world) { return plain->WorldToScreen(world); };
         const Far far(symbol);
         const PixelReach reach(far.x, far.y, position, screenFactor, *plain);
-        if (reach.IsBeyond(std::max(std::abs(cursor.x - reach.X()), std::abs(cursor.y - reach.Y())) -
-                           cursor.range))
+        if (!reach.IsKnown())
+            return WalkThrough(symbol, placement(), cursor, anyPoint, toScreen);
+        const double away = std::max(std::abs(cursor.x - reach.X()), std::abs(cursor.y - reach.Y()));
+        if (reach.IsBeyond(away - cursor.range))
             return std::nullopt;
-    } else if (CandidateCount(symbol) > kWorthAsking &&
-               IsOutOfReach(Far(symbol), position, screenFactor, transformation, cursor)) {
-        return std::nullopt;
+        return WalkThrough(symbol, placement(), cursor, Nearness(symbol, position.angle, reach, cursor),
+                           toScreen);
     }
-    const Placement placement = SurfaceFreePlacement(Reference(symbol), position, screenFactor);
-    if (plain != nullptr)
-        return WalkThrough(symbol, placement, cursor,
-                           [plain](qmath::Point world) { return plain->WorldToScreen(world); });
-    return WalkThrough(symbol, placement, cursor, [&](qmath::Point world) {
+    if (CandidateCount(symbol) > kWorthAsking &&
+        IsOutOfReach(Far(symbol), position, screenFactor, transformation, cursor))
+        return std::nullopt;
+    return WalkThrough(symbol, placement(), cursor, anyPoint, [&](qmath::Point world) {
         transformation.WorldToScreen(world);
         return world;
     });

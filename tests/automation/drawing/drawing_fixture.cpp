@@ -1,5 +1,7 @@
 #include "drawing/drawing_fixture.h"
 
+#include "support/handle_count.h"
+
 #include <cmath>
 #include <cstring>
 
@@ -29,6 +31,15 @@ POINT Pixel(const View& view, POINT world) {
 
 int Pixels(const View& view, double length) {
     return static_cast<int>(Round(length / view.scale));
+}
+
+void DrawingTest::SetUp() {
+    objectsBefore = support::HandleCount::Gdi();
+}
+
+void DrawingTest::TearDown() {
+    StartAgain();
+    EXPECT_LE(support::HandleCount::Gdi(), objectsBefore) << "objects of the GDI are left";
 }
 
 void DrawingTest::StartAgain(const std::wstring& name, const std::wstring& type) {

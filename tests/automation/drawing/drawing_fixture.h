@@ -44,6 +44,10 @@ protected:
         StartAgain(name, type);
     }
 
+    /// Whatever a test draws, the GDI has as many objects afterwards as before.
+    void SetUp() override;
+    void TearDown() override;
+
     /// Both canvases as in the beginning and a new box.
     void StartAgain(const std::wstring& name = L"PlanBox", const std::wstring& type = L"PictureBox");
 
@@ -60,6 +64,7 @@ protected:
     void Circle(POINT centre, int radius) const;
     void Text(POINT anchor, const char* text) const;
 
+    long objectsBefore = 0;
     View view{10, -100, -200};
     support::Canvas drawn;
     support::Canvas expected;

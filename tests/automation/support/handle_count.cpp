@@ -40,13 +40,16 @@ long HighestHandle() {
 
 } // namespace
 
-HandleCount HandleCount::Now() {
+long HandleCount::Gdi() {
     GdiFlush();
+    const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    return objects != 0 ? static_cast<long>(objects) : HighestGdiPlace();
+}
+
+HandleCount HandleCount::Now() {
     DWORD handles = 0;
     GetProcessHandleCount(GetCurrentProcess(), &handles);
-    const DWORD objects = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    return {objects != 0 ? static_cast<long>(objects) : HighestGdiPlace(),
-            handles != 0 ? static_cast<long>(handles) : HighestHandle()};
+    return {Gdi(), handles != 0 ? static_cast<long>(handles) : HighestHandle()};
 }
 
 } // namespace support

@@ -11,6 +11,8 @@ struct HandleCount {
     long system = 0;
 
     static HandleCount Now();
+    /// The GDI's alone, which is quick.
+    static long Gdi();
 };
 
 } // namespace support

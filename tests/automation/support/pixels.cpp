@@ -39,6 +39,10 @@ Canvas::~Canvas() {
 void Canvas::Reset() {
     RestoreDC(dc_, start_);
     start_ = SaveDC(dc_);
+    for (HGDIOBJ* const object : {&pen_, &brush_, &font_}) {
+        DeleteObject(*object);
+        *object = nullptr;
+    }
     GdiFlush();
     for (int y = 0; y < height_; ++y)
         for (int x = 0; x < width_; ++x)

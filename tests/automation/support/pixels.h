@@ -20,7 +20,9 @@ public:
     Canvas& operator=(const Canvas&) = delete;
     ~Canvas();
 
-    HDC Dc() const { return dc_; }
+    HDC Dc() const { return recorder_ != nullptr ? recorder_ : dc_; }
+    /// What is drawn goes to another device context; nullptr: here again.
+    void RecordOn(HDC recorder) { recorder_ = recorder; }
     int Width() const { return width_; }
     int Height() const { return height_; }
 
@@ -43,6 +45,7 @@ private:
     int width_;
     int height_;
     HDC dc_;
+    HDC recorder_ = nullptr;
     HBITMAP bitmap_ = nullptr;
     HGDIOBJ previous_ = nullptr;
     std::uint32_t* bits_ = nullptr;

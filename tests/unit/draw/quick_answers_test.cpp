@@ -30,7 +30,7 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 int Placements() {
     const char* const wanted = std::getenv("QSYMBOL_PLACEMENTS");
-    return wanted == nullptr ? 60000 : std::atoi(wanted);
+    return wanted == nullptr ? 20000 : std::atoi(wanted);
 }
 
 /// A symbol somewhere, and a cursor that is often where it matters.
