@@ -1,7 +1,5 @@
 #pragma once
 
-#include "qmath/vector.h"
-
 namespace qmath {
 
 /// An affine map of the plane, the identity at first. Each operation is applied after those already in it.
@@ -13,7 +11,6 @@ public:
     void Scale(double sx, double sy);
     void Translate(double dx, double dy);
 
-    Vector Apply(double x, double y) const { return {ApplyX(x, y), ApplyY(x, y)}; }
     double ApplyX(double x, double y) const { return xx_ * x + xy_ * y + dx_; }
     double ApplyY(double x, double y) const { return yx_ * x + yy_ * y + dy_; }
 

@@ -4,53 +4,28 @@
 
 namespace qmath {
 
-namespace {
-
-template <class Char>
-using View = std::basic_string_view<Char>;
-
-template <class Char>
-std::int32_t CountTokens(View<Char> text, View<Char> separator) {
+std::int32_t TokenCount(std::u16string_view text, std::u16string_view separator) {
     std::size_t count = 1;
     if (!separator.empty()) {
-        for (std::size_t at = text.find(separator); at != View<Char>::npos;
+        for (std::size_t at = text.find(separator); at != text.npos;
              at = text.find(separator, at + separator.size()))
             ++count;
     }
     return base::Narrow<std::int32_t>(count);
 }
 
-template <class Char>
-View<Char> TokenAt(View<Char> text, View<Char> separator, std::int32_t index) {
+std::u16string_view GetToken(std::u16string_view text, std::u16string_view separator, std::int32_t index) {
     if (index < 1)
         return {};
     for (;;) {
-        const std::size_t end = separator.empty() ? View<Char>::npos : text.find(separator);
+        const std::size_t end = separator.empty() ? text.npos : text.find(separator);
         if (index == 1)
             return text.substr(0, end);
-        if (end == View<Char>::npos)
+        if (end == text.npos)
             return {};
         text.remove_prefix(end + separator.size());
         --index;
     }
-}
-
-} // namespace
-
-std::int32_t TokenCount(std::u16string_view text, std::u16string_view separator) {
-    return CountTokens(text, separator);
-}
-
-std::int32_t TokenCount(std::string_view text, std::string_view separator) {
-    return CountTokens(text, separator);
-}
-
-std::u16string_view GetToken(std::u16string_view text, std::u16string_view separator, std::int32_t index) {
-    return TokenAt(text, separator, index);
-}
-
-std::string_view GetToken(std::string_view text, std::string_view separator, std::int32_t index) {
-    return TokenAt(text, separator, index);
 }
 
 std::u16string_view FileNamePart(std::u16string_view path) {

@@ -10,11 +10,9 @@ namespace qmath {
 ///
 /// The separator may have several characters; with an empty one the whole text is the only field.
 std::int32_t TokenCount(std::u16string_view text, std::u16string_view separator);
-std::int32_t TokenCount(std::string_view text, std::string_view separator);
 
 /// Field number index, counted from 1; "" when there is no such field.
 std::u16string_view GetToken(std::u16string_view text, std::u16string_view separator, std::int32_t index);
-std::string_view GetToken(std::string_view text, std::string_view separator, std::int32_t index);
 
 /// What follows the last "\", "/" or ":"; the whole path without any of them.
 std::u16string_view FileNamePart(std::u16string_view path);

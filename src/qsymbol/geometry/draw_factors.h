@@ -6,8 +6,6 @@ namespace qsymbol {
 struct DrawFactors {
     double printer = 0; ///< for the printer and the print preview
     double screen = 0;  ///< for the plan's main drawing area
-
-    friend bool operator==(const DrawFactors&, const DrawFactors&) = default;
 };
 
 /// What previews and placing tools draw with.

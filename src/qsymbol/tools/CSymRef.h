@@ -15,7 +15,7 @@ public:
     /// angle: radians, added to the object's. The symbol is shared, and may be missing.
     void Init(std::int32_t objectId, qmath::Point delta, double angle,
               std::shared_ptr<const DrawableSymbol> symbol);
-    /// Becomes a copy with a symbol of its own.
+    /// Becomes a copy with a symbol of its own, as CSymRefColl::Append keeps it.
     void CopyFrom(const CSymRef& other);
 
     std::int32_t ObjId() const { return objectId_; }

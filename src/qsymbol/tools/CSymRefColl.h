@@ -10,7 +10,9 @@ namespace qsymbol {
 
 /// The references of a tool, in the order in which they were added, keyed by object id.
 ///
-/// Lookups answer nothing for what is not there. The list may grow while it is walked through.
+/// Lookups answer nothing for what is not there. The list may grow while it is walked through. It has all that the
+/// other keyed collections have: an editor that takes groups apart would call Append, Clear and the removals, which
+/// the symbol tool has no use for.
 class CSymRefColl {
 public:
     using Reference = std::shared_ptr<const CSymRef>;

@@ -15,7 +15,7 @@ public:
 
     /// Draws the symbol at the place, in its own colours and unscaled. Errors pass through.
     virtual void Draw(const SymbolPosition& place, DrawingTarget& target) const = 0;
-    /// A symbol of its own with path, reference point and elements; its size is 0.
+    /// For CSymRef::CopyFrom: a symbol of its own with path, reference point and elements; its size is 0.
     virtual std::shared_ptr<const DrawableSymbol> Copy() const = 0;
 };
 

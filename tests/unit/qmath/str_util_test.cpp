@@ -39,10 +39,10 @@ TEST(StrUtil, SeparatorsOfSeveralCharactersAndOfNone) {
     EXPECT_EQ(GetToken(u"a;b", u"", 2), u"");
 }
 
-TEST(StrUtil, BytesLikeCharacters) {
-    EXPECT_EQ(TokenCount("BLT 120.5 80", " "), 3);
-    EXPECT_EQ(GetToken("BLT 120.5 80", " ", 2), "120.5");
-    EXPECT_EQ(GetToken("BLT 120.5 80", " ", 4), "");
+TEST(StrUtil, ASeparatorMayBeLonger) {
+    EXPECT_EQ(TokenCount(u"BLT  120.5  80", u"  "), 3);
+    EXPECT_EQ(GetToken(u"BLT  120.5  80", u"  ", 2), u"120.5");
+    EXPECT_EQ(GetToken(u"BLT  120.5  80", u"  ", 4), u"");
 }
 
 TEST(StrUtil, FileNameOfAPath) {
