@@ -110,6 +110,28 @@ TEST_F(Devices, APreviewWithoutASizeFitsWhatIsDrawn) {
     EXPECT_GE(arc.bottom, 237);
 }
 
+/// What a drawing left behind would add up.
+TEST_F(Devices, AHundredDrawingsLeaveNoObject) {
+    support::MessageBoxes none;
+    const std::vector<ElementSpec> elements{
+        {.type = symPoly, .points = {{0, 0}, {900, 0}, {0, 900}}, .closed = true, .fillColor = kGreen},
+        {.type = symCircle, .points = {{500, 500}}, .mainColor = kRed, .radius = 300},
+        Label(kBlue, L"Arial"),
+        Label(kRed, L"Times New Roman")};
+    const auto symbol = support::NewSymbol(0, 0, 0, 0, elements);
+    const auto editable = support::NewElements(elements);
+    const auto trans = Trans();
+    for (const LONG mode : {R2_COPYPEN, R2_NOTXORPEN}) {
+        for (int i = 0; i < 50; ++i) {
+            box->SetProperty(L"DrawMode", mode);
+            EXPECT_OK(symbol->Draw(0, 0, i, box.Get(), trans.Get(), 1, 1, nullptr));
+            EXPECT_OK(symbol->Draw2PBox(box.Get()));
+            EXPECT_OK(editable->DrawTracker(box.Get(), trans.Get()));
+            EXPECT_OK(editable->Draw(box.Get(), trans.Get()));
+        }
+    }
+}
+
 TEST_F(Devices, AnArcOnOnePixelIsThatPixel) {
     Draw({{.type = symArc,
            .points = {{1000, 1000}, {1500, 1000}, {1500, 997}},

@@ -39,7 +39,7 @@ void DrawingTest::SetUp() {
 
 void DrawingTest::TearDown() {
     StartAgain();
-    EXPECT_LE(support::HandleCount::Gdi(), objectsBefore) << "objects of the GDI are left";
+    EXPECT_LE(support::HandleCount::Gdi(), objectsBefore + kSystemsOwn) << "objects of the GDI are left";
 }
 
 void DrawingTest::StartAgain(const std::wstring& name, const std::wstring& type) {

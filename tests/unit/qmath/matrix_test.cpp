@@ -1,7 +1,7 @@
 #include "qmath/matrix.h"
 
-#include "qmath/vector.h"
 #include "qmath/math_util.h"
+#include "qmath/vector.h"
 
 #include <gtest/gtest.h>
 
