@@ -23,6 +23,9 @@ using AddCommand = void (*)(CLI::App& application, Run& run);
 void AddInfo(CLI::App& application, Run& run);
 void AddCheck(CLI::App& application, Run& run);
 void AddConvert(CLI::App& application, Run& run);
+void AddSvg(CLI::App& application, Run& run);
+void AddGallery(CLI::App& application, Run& run);
+void AddDxf(CLI::App& application, Run& run);
 void AddDiff(CLI::App& application, Run& run);
 
 /// A subcommand with the options that all of them have.

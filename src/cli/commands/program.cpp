@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kWrongUsage = 2;
 
-constexpr std::array kCommands = {AddInfo, AddCheck, AddConvert, AddDiff};
+constexpr std::array kCommands = {AddInfo, AddCheck, AddConvert, AddSvg, AddGallery, AddDxf, AddDiff};
 
 void AddCommonOptions(CLI::App& application, Options& options) {
     application.add_flag("-r,--recursive", options.recursive, "Also the subfolders of folders");

@@ -56,7 +56,7 @@
       section.querySelector("h2 span").textContent = inside;
     }
     const filtered = words.length > 0 || category !== null || least.value !== "" || most.value !== "";
-    byId("result").textContent = filtered ? `${shown.length} von ${count(cards.length)}` : count(cards.length);
+    byId("result").textContent = filtered ? `${shown.length} von ${cards.length} Symbolen` : count(cards.length);
     byId("nothing").hidden = shown.length > 0;
     reset.hidden = !filtered;
     setTabStop(shown.includes(tabStop) ? tabStop : shown[0]);
