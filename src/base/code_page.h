@@ -5,7 +5,7 @@
 
 namespace base {
 
-/// Seam: the system's ANSI code page. Characters without a place in it become its replacement character.
+/// Seam: the system's ANSI code page. A character without a place in it becomes "?", never a similar one.
 class CodePage {
 public:
     virtual ~CodePage() = default;

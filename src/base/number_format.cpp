@@ -1,6 +1,7 @@
 #include "base/number_format.h"
 
 #include "base/error.h"
+#include "base/powers_of_ten.h"
 
 #include <array>
 #include <charconv>
@@ -10,7 +11,8 @@ namespace base {
 
 namespace {
 
-constexpr int kSignificant = 15;
+/// What a real number shows: digits beyond these are chance.
+constexpr int kSignificant = kExactDigits;
 
 /// A decimal number: digits d0 d1 … with the value 0.d0d1… times 10^exponent.
 struct Digits {

@@ -1,6 +1,7 @@
 #include "base/number_reader.h"
 
 #include "base/checked.h"
+#include "base/powers_of_ten.h"
 
 #include <algorithm>
 #include <array>
@@ -11,12 +12,8 @@ namespace base {
 
 namespace {
 
-constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                 1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                                 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 /// An exponent beyond this is not read further; no text is long enough to make up for it.
 constexpr std::int64_t kFarExponent = 100'000'000'000;
-constexpr int kExactDigits = 15;
 /// More than any double, or the middle between two of them, has in decimal.
 constexpr int kMaxDigits = 800;
 

@@ -1,40 +1,67 @@
 #include "base/whole_file.h"
 
-#include "base/checked.h"
+#include "base/error.h"
 
 #include <algorithm>
-#include <array>
 
 namespace base {
 
 namespace {
 
-/// Reads until the buffer is full or the file ends; the number of bytes read.
-std::size_t Fill(File& file, char* buffer, std::size_t count) {
-    std::size_t used = 0;
-    while (used < count) {
-        const std::size_t got = file.Read(buffer + used, count - used);
+/// A file up to this size is read at once; of a larger one so much is its beginning.
+constexpr std::uint64_t kBeginning = 1U << 20;
+
+/// Reads on until there are so many bytes or the file ends. False at its end.
+bool ReadUpTo(File& file, std::string& bytes, std::uint64_t size) {
+    if (size > SIZE_MAX / 2)
+        Raise(RunTimeError::OutOfMemory);
+    std::size_t used = bytes.size();
+    bytes.resize(static_cast<std::size_t>(size));
+    while (used < bytes.size()) {
+        const std::size_t got = file.Read(bytes.data() + used, bytes.size() - used);
         if (got == 0)
             break;
         used += got;
     }
-    return used;
+    const bool all = used == bytes.size();
+    bytes.resize(used);
+    return all;
+}
+
+void Write(File& file, std::string_view bytes) {
+    if (!bytes.empty())
+        file.Write(bytes.data(), bytes.size());
+}
+
+/// Runs what tidies up after an error, which counts more than another one now.
+template <class Step>
+void Try(Step&& step) noexcept {
+    try {
+        step();
+    } catch (const Error&) { // NOLINT(bugprone-empty-catch): see above
+    }
+}
+
+/// A name in the same folder that no file has.
+std::u16string FreeNameBeside(FileSystem& files, const std::u16string& path) {
+    std::u16string name = path + u".~";
+    while (files.FileExists(name))
+        name += u'~';
+    return name;
 }
 
 } // namespace
 
-std::string ReadWholeFile(FileSystem& files, const std::u16string& path) {
+std::string ReadWholeFile(FileSystem& files, const std::u16string& path, Reach reach) {
     const std::unique_ptr<File> file = files.Open(path, OpenMode::Read);
-    // A small file, as most symbols are, is there before its size needs to be asked.
-    std::array<char, 4096> start; // NOLINT: only what was read into it is looked at
-    const std::size_t begun = Fill(*file, start.data(), start.size());
-    std::string bytes(start.data(), begun);
-    if (begun == start.size()) {
-        const std::uint64_t size = std::max<std::uint64_t>(file->Size(), begun);
-        if (size > SIZE_MAX / 2)
-            Raise(RunTimeError::OutOfMemory);
-        bytes.resize(static_cast<std::size_t>(size));
-        bytes.resize(begun + Fill(*file, bytes.data() + begun, bytes.size() - begun));
+    const std::uint64_t size = file->Size();
+    std::string bytes;
+    bool more = ReadUpTo(*file, bytes, reach == nullptr ? size : std::min(size, kBeginning));
+    while (more && bytes.size() < size) {
+        const std::uint64_t needed = reach(bytes);
+        if (needed <= bytes.size())
+            break;
+        more = ReadUpTo(*file, bytes, std::min(size, std::max<std::uint64_t>(needed, 2 * bytes.size())));
     }
     file->Close();
     return bytes;
@@ -42,9 +69,51 @@ std::string ReadWholeFile(FileSystem& files, const std::u16string& path) {
 
 void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, std::string_view bytes) {
     const std::unique_ptr<File> file = files.Open(path, mode);
-    if (!bytes.empty())
-        file->Write(bytes.data(), bytes.size());
+    Write(*file, bytes);
     file->Close();
+}
+
+void WriteInPlace(FileSystem& files, const std::u16string& path, std::string_view bytes, Tail tail) {
+    const bool existed = files.FileExists(path);
+    std::unique_ptr<File> file = files.Open(path, OpenMode::Overlay);
+    const std::uint64_t oldSize = file->Size();
+    const std::string_view within = bytes.substr(0, std::min<std::uint64_t>(oldSize, bytes.size()));
+    try {
+        if (within.size() < bytes.size()) {
+            file->Seek(oldSize);
+            Write(*file, bytes.substr(within.size()));
+            file->Flush();
+        }
+    } catch (...) {
+        Try([&] { file->Cut(oldSize); });
+        file.reset();
+        if (!existed)
+            Try([&] { files.Remove(path); });
+        throw;
+    }
+    if (oldSize > 0) {
+        file->Seek(0);
+        Write(*file, within);
+        if (tail == Tail::Cut && oldSize > bytes.size())
+            file->Cut(bytes.size());
+        file->Flush();
+    }
+    file->Close();
+}
+
+void WriteBeside(FileSystem& files, const std::u16string& path, std::string_view bytes) {
+    const std::u16string beside = FreeNameBeside(files, path);
+    std::unique_ptr<File> file = files.Open(beside, OpenMode::Replace);
+    try {
+        Write(*file, bytes);
+        file->Flush();
+        file->Close();
+        files.Rename(beside, path);
+    } catch (...) {
+        file.reset();
+        Try([&] { files.Remove(beside); });
+        throw;
+    }
 }
 
 } // namespace base

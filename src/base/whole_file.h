@@ -2,15 +2,33 @@
 
 #include "base/file_system.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace base {
 
-/// The file's bytes, read in one go and closed again. Errors of FileSystem::Open and File::Read.
-std::string ReadWholeFile(FileSystem& files, const std::u16string& path);
+/// Says from a file's beginning how many of its bytes count. More than it was given: it has to see more.
+using Reach = std::uint64_t (*)(std::string_view beginning);
 
-/// Writes the bytes in one go and closes the file. Errors of FileSystem::Open, File::Write and File::Close.
+/// The file's bytes, closed again. Of a large file only what counts by `reach` is read, and a little more.
+/// Errors of FileSystem::Open and File::Read, 7 for a file that memory cannot hold.
+std::string ReadWholeFile(FileSystem& files, const std::u16string& path, Reach reach = nullptr);
+
+/// Writes the bytes in one go and closes the file. Errors of FileSystem::Open and File.
 void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, std::string_view bytes);
+
+/// What becomes of that part of an old file that is longer than the new content.
+enum class Tail { Cut, Keep };
+
+/// Writes the bytes into the file, which stays the file it was; it is created when there is none.
+///
+/// What the file grows by is written first: until there is room for all of it, an error leaves the old
+/// content as it was, and no file where none was. Errors of FileSystem::Open and File.
+void WriteInPlace(FileSystem& files, const std::u16string& path, std::string_view bytes, Tail tail);
+
+/// Writes the bytes into a new file beside, which then takes the name: any error leaves the old file whole.
+/// Errors of FileSystem and File.
+void WriteBeside(FileSystem& files, const std::u16string& path, std::string_view bytes);
 
 } // namespace base

@@ -6,7 +6,7 @@ namespace messages {
 
 enum class FailureChoice { Abort, Retry, Ignore };
 
-/// Seam: what the library says to the user and asks of him. A DLL answers with message boxes, a test from a
+/// Seam: what the library says to the user and asks of him. What cannot be said is dropped. A DLL answers with message boxes, a test from a
 /// script.
 class UserPrompt {
 public:
@@ -18,9 +18,10 @@ public:
     virtual void Notice(std::u16string_view text) = 0;
     /// A notice with the information icon and an OK button; the title is the host application's.
     virtual void Inform(std::u16string_view text) = 0;
-    /// Yes or No, no icon, with the given title. True for Yes.
+    /// Yes or No, no icon, with the given title. True for Yes. Error 70 when the user cannot be asked.
     virtual bool AskYesNo(std::u16string_view text, std::u16string_view title) = 0;
-    /// Abort, Retry or Ignore with the critical-stop icon; the title is the host application's.
+    /// Abort, Retry or Ignore with the critical-stop icon; the title is the host application's. Abort when the
+    /// user cannot be asked.
     virtual FailureChoice AskAbortRetryIgnore(std::u16string_view text) = 0;
 };
 

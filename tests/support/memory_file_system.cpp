@@ -34,13 +34,28 @@ public:
 
     void Write(const char* bytes, std::size_t count) override {
         system_.Step();
-        const std::size_t put = system_.writeError ? std::min(count, system_.writeBeforeError) : count;
+        std::size_t put = system_.writeError ? std::min(count, system_.writeBeforeError) : count;
+        put = std::min(put, std::max(system_.room, position_) - position_);
         bytes_.resize(std::max(bytes_.size(), position_ + put));
         std::copy_n(bytes, put, bytes_.data() + position_);
         position_ += put;
         if (system_.writeError)
             base::Raise(*system_.writeError);
+        if (put < count)
+            base::Raise(base::RunTimeError::DiskFull);
     }
+
+    void Seek(std::uint64_t position) override {
+        system_.Step();
+        position_ = static_cast<std::size_t>(position);
+    }
+
+    void Cut(std::uint64_t size) override {
+        system_.Step();
+        bytes_.resize(static_cast<std::size_t>(size));
+    }
+
+    void Flush() override { system_.Step(); }
 
     void Close() override {
         Shut();
@@ -108,6 +123,19 @@ std::vector<base::FolderEntry> MemoryFileSystem::ListFiles(const std::u16string&
         if (FolderOf(path) == folder)
             entries.push_back({path.substr(folder.size() + 1), path});
     return entries;
+}
+
+void MemoryFileSystem::Rename(const std::u16string& from, const std::u16string& to) {
+    Step();
+    if (folders.contains(to))
+        base::Raise(base::RunTimeError::PathFileAccess);
+    files[to] = std::move(files.at(from));
+    files.erase(from);
+}
+
+void MemoryFileSystem::Remove(const std::u16string& path) {
+    Step();
+    files.erase(path);
 }
 
 } // namespace support

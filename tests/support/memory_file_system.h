@@ -26,9 +26,10 @@ public:
     std::optional<base::RunTimeError> closeError;
     std::size_t readAtMost = SIZE_MAX;          ///< bytes that one Read gives
     std::size_t writeBeforeError = 0;           ///< bytes that still arrive when writeError is set
+    std::size_t room = SIZE_MAX;                ///< bytes of one file on this disk; past that error 61
     std::optional<std::uint64_t> announcedSize; ///< what Size says instead of the truth
-    /// The operation on the file system or a file that fails, counted from 0 (Open, Size, Read, Write, Close,
-    /// as they come), and what it fails with.
+    /// The operation on the file system or a file that fails, counted from 0 (Open, Size, Read,
+    /// Write, Seek, Cut, Flush, Close, Rename, Remove, as they come), and what it fails with.
     std::optional<int> failingStep;
     base::RunTimeError stepError = base::RunTimeError::DeviceIo;
     int steps = 0; ///< operations so far
@@ -46,6 +47,9 @@ public:
     bool FileExists(const std::u16string& path) override;
     bool FolderExists(const std::u16string& path) override { return folders.contains(path); }
     std::vector<base::FolderEntry> ListFiles(const std::u16string& folder) override;
+    std::u16string FullPath(const std::u16string& path) override { return path; }
+    void Rename(const std::u16string& from, const std::u16string& to) override;
+    void Remove(const std::u16string& path) override;
 };
 
 } // namespace support

@@ -28,9 +28,15 @@ bool HasItem(IDispatch& collection, const std::u16string& name) {
     const com::Bstr text(name);
     VARIANTARG argument = TextArgument(text);
     com::Variant item;
+    com::LateBoundMember(collection, L"Item").Call({&argument, 1}, item.Get());
+    return true;
+}
+
+/// False after any error of the host's collection.
+bool Contains(IDispatch& collection, const std::u16string& name) {
     try {
-        com::LateBoundMember(collection, L"Item").Call({&argument, 1}, item.Get());
-        return true;
+        const bool canBeAsked = com::LateBoundMember(collection, L"Exists").Exists();
+        return canBeAsked ? Exists(collection, name) : HasItem(collection, name);
     } catch (const base::Error&) {
         return false;
     }
@@ -40,11 +46,7 @@ bool HasItem(IDispatch& collection, const std::u16string& name) {
 
 qsymbol::NameList NameListOf(IDispatch* collection) {
     const com::ComPtr<IDispatch> held(collection);
-    return {.count = [held] { return com::LateBoundMember(com::Required(held.Get()), L"Count").GetLong(); },
-            .contains =
-                [held](const std::u16string& name) {
-                    IDispatch& list = com::Required(held.Get());
-                    const bool canBeAsked = com::LateBoundMember(list, L"Exists").Exists();
-                    return canBeAsked ? Exists(list, name) : HasItem(list, name);
-                }};
+    return {
+        .count = [held] { return com::LateBoundMember(com::Required(held.Get()), L"Count").GetLong(); },
+        .contains = [held](const std::u16string& name) { return Contains(com::Required(held.Get()), name); }};
 }

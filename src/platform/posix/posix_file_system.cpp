@@ -4,6 +4,7 @@
 #include "base/utf8.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -37,7 +38,9 @@ std::string ParentFolder(const std::string& path) {
     case ENOTDIR: base::Raise(RunTimeError::PathNotFound);
     case ENAMETOOLONG:
     case EINVAL: base::Raise(RunTimeError::BadFileName);
-    case EISDIR: base::Raise(RunTimeError::PathFileAccess);
+    case EISDIR:
+    case ENXIO: // a pipe that nobody reads, a socket, a device that is not there
+    case ENODEV: base::Raise(RunTimeError::PathFileAccess);
     case EACCES:
     case EPERM:
     case EROFS:
@@ -50,8 +53,6 @@ std::string ParentFolder(const std::string& path) {
 }
 
 [[noreturn]] void RaiseTransferFailure(int error) {
-    if (error == EISDIR)
-        base::Raise(RunTimeError::PathFileAccess);
     base::Raise(error == ENOSPC || error == EDQUOT || error == EFBIG ? RunTimeError::DiskFull
                                                                      : RunTimeError::DeviceIo);
 }
@@ -68,7 +69,7 @@ int OpenFlags(base::OpenMode mode) {
 
 class PosixFile final : public base::File {
 public:
-    explicit PosixFile(int handle) : handle_(handle) {}
+    PosixFile(int handle, std::uint64_t size) : handle_(handle), size_(size) {}
     PosixFile(const PosixFile&) = delete;
     PosixFile& operator=(const PosixFile&) = delete;
     ~PosixFile() override {
@@ -76,12 +77,7 @@ public:
             close(handle_);
     }
 
-    std::uint64_t Size() override {
-        struct stat info {};
-        if (fstat(handle_, &info) != 0)
-            RaiseTransferFailure(errno);
-        return static_cast<std::uint64_t>(info.st_size);
-    }
+    std::uint64_t Size() override { return size_; }
 
     std::size_t Read(char* buffer, std::size_t count) override {
         ssize_t got = -1;
@@ -105,6 +101,22 @@ public:
         }
     }
 
+    void Seek(std::uint64_t position) override {
+        if (lseek(handle_, static_cast<off_t>(position), SEEK_SET) < 0)
+            RaiseTransferFailure(errno);
+    }
+
+    void Cut(std::uint64_t size) override {
+        if (ftruncate(handle_, static_cast<off_t>(size)) != 0)
+            RaiseTransferFailure(errno);
+    }
+
+    void Flush() override {
+        // Some file systems have nothing to flush and say so.
+        if (fsync(handle_) != 0 && errno != EINVAL && errno != ENOSYS)
+            RaiseTransferFailure(errno);
+    }
+
     void Close() override {
         const int handle = handle_;
         handle_ = -1;
@@ -114,7 +126,18 @@ public:
 
 private:
     int handle_;
+    std::uint64_t size_; ///< when it was opened
 };
+
+/// Takes over a handle; error 75 when it is that of something else than a disk file.
+std::unique_ptr<base::File> DiskFile(int handle) {
+    struct stat info {};
+    const bool known = fstat(handle, &info) == 0;
+    auto file = std::make_unique<PosixFile>(handle, static_cast<std::uint64_t>(info.st_size));
+    if (!known || !S_ISREG(info.st_mode))
+        base::Raise(RunTimeError::PathFileAccess);
+    return file;
+}
 
 } // namespace
 
@@ -122,21 +145,21 @@ std::unique_ptr<base::File> PosixFileSystem::Open(const std::u16string& path, ba
     if (mode == base::OpenMode::Read) {
         const int handle = listed_.OpenToRead(path);
         if (handle >= 0)
-            return std::make_unique<PosixFile>(handle);
+            return DiskFile(handle);
     }
     const std::string name = base::ToUtf8(path);
     if (name.find('\0') != std::string::npos)
         base::Raise(RunTimeError::BadFileName);
     // A pipe under that name must not hold the program until somebody opens its other end.
-    const int handle = open(name.c_str(), OpenFlags(mode) | O_CLOEXEC | O_NONBLOCK, 0666);
+    const int handle = open(name.c_str(), OpenFlags(mode) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666);
     if (handle < 0)
         RaiseOpenFailure(errno, name);
-    return std::make_unique<PosixFile>(handle);
+    return DiskFile(handle);
 }
 
 bool PosixFileSystem::FileExists(const std::u16string& path) {
     struct stat info {};
-    return stat(base::ToUtf8(path).c_str(), &info) == 0 && !S_ISDIR(info.st_mode);
+    return stat(base::ToUtf8(path).c_str(), &info) == 0 && S_ISREG(info.st_mode);
 }
 
 bool PosixFileSystem::FolderExists(const std::u16string& path) {
@@ -160,6 +183,33 @@ std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& 
         entries.push_back({std::move(fileName), std::move(path)});
     }
     return entries;
+}
+
+std::u16string PosixFileSystem::FullPath(const std::u16string& path) {
+    char* const full = realpath(base::ToUtf8(path).c_str(), nullptr);
+    const std::unique_ptr<char, decltype(&std::free)> owner(full, &std::free);
+    return full != nullptr ? base::FromUtf8(full) : path;
+}
+
+void PosixFileSystem::Rename(const std::u16string& from, const std::u16string& to) {
+    const std::string name = base::ToUtf8(to);
+    struct stat old {};
+    const bool replaces = stat(name.c_str(), &old) == 0;
+    if (replaces && !S_ISREG(old.st_mode))
+        base::Raise(RunTimeError::PathFileAccess);
+    // The new file is what the old one was to everybody; one that may not be written stays.
+    if (replaces && access(name.c_str(), W_OK) != 0)
+        base::Raise(RunTimeError::PermissionDenied);
+    if (replaces && chmod(base::ToUtf8(from).c_str(), old.st_mode & 07777) != 0)
+        RaiseOpenFailure(errno, name);
+    if (rename(base::ToUtf8(from).c_str(), name.c_str()) != 0)
+        RaiseOpenFailure(errno, name);
+}
+
+void PosixFileSystem::Remove(const std::u16string& path) {
+    const std::string name = base::ToUtf8(path);
+    if (unlink(name.c_str()) != 0)
+        RaiseOpenFailure(errno, name);
 }
 
 } // namespace platform

@@ -12,6 +12,9 @@ public:
     bool FileExists(const std::u16string& path) override;
     bool FolderExists(const std::u16string& path) override;
     std::vector<base::FolderEntry> ListFiles(const std::u16string& folder) override;
+    std::u16string FullPath(const std::u16string& path) override;
+    void Rename(const std::u16string& from, const std::u16string& to) override;
+    void Remove(const std::u16string& path) override;
 
 private:
     ListedFolder listed_;

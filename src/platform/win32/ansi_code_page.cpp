@@ -4,30 +4,56 @@
 
 #include <windows.h>
 
+#include <algorithm>
+
 namespace platform {
 
 namespace {
 
 bool IsAscii(std::string_view bytes) {
-    for (const char byte : bytes)
-        if (static_cast<unsigned char>(byte) >= 0x80)
-            return false;
-    return true;
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+bool IsAscii(std::u16string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char16_t unit) { return unit < 0x80; });
+}
+
+/// Every character of two units as one that no code page of single characters has: it is replaced once.
+std::u16string WithoutPairs(std::u16string_view text) {
+    std::u16string single;
+    for (const char16_t unit : text) {
+        const bool second =
+            (unit & 0xFC00) == 0xDC00 && !single.empty() && (single.back() & 0xFC00) == 0xD800;
+        if (second)
+            single.back() = u'\uFFFD';
+        else
+            single += unit;
+    }
+    return single;
+}
+
+/// "≤" must not become "=", nor "√" "v": without best fit. UTF-8 has every character and allows no such wish.
+std::string Encoded(std::u16string_view text, DWORD flags, const char* replacement) {
+    const auto* const source = reinterpret_cast<const wchar_t*>(text.data());
+    const int length = base::Narrow<int>(text.size());
+    const int needed = WideCharToMultiByte(CP_ACP, flags, source, length, nullptr, 0, replacement, nullptr);
+    std::string bytes(static_cast<std::size_t>(needed), '\0');
+    WideCharToMultiByte(CP_ACP, flags, source, length, bytes.data(), needed, replacement, nullptr);
+    return bytes;
 }
 
 } // namespace
 
 std::string AnsiCodePage::Encode(std::u16string_view text) const {
-    const auto* const source = reinterpret_cast<const wchar_t*>(text.data());
-    const int length = base::Narrow<int>(text.size());
-    const int needed = WideCharToMultiByte(CP_ACP, 0, source, length, nullptr, 0, nullptr, nullptr);
-    std::string bytes(static_cast<std::size_t>(needed), '\0');
-    WideCharToMultiByte(CP_ACP, 0, source, length, bytes.data(), needed, nullptr, nullptr);
-    return bytes;
+    if (IsAscii(text)) // the usual case; every ANSI code page agrees on it
+        return std::string(text.begin(), text.end());
+    return GetACP() == CP_UTF8 ? Encoded(text, 0, nullptr)
+                               : Encoded(WithoutPairs(text), WC_NO_BEST_FIT_CHARS, "?");
 }
 
 std::u16string AnsiCodePage::Decode(std::string_view bytes) const {
-    if (IsAscii(bytes)) // the usual case; every ANSI code page agrees on it
+    if (IsAscii(bytes))
         return std::u16string(bytes.begin(), bytes.end());
     const int length = base::Narrow<int>(bytes.size());
     const int needed = MultiByteToWideChar(CP_ACP, 0, bytes.data(), length, nullptr, 0);

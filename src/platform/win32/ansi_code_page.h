@@ -4,7 +4,7 @@
 
 namespace platform {
 
-/// The system's ANSI code page with the system's default replacement character.
+/// The system's ANSI code page.
 class AnsiCodePage final : public base::CodePage {
 public:
     std::string Encode(std::u16string_view text) const override;

@@ -1,5 +1,6 @@
 #include "platform/win32/message_box_prompt.h"
 
+#include "base/error.h"
 #include "platform/wide/wide_text.h"
 #include "platform/win32/application_title.h"
 
@@ -32,7 +33,10 @@ void MessageBoxPrompt::Inform(std::u16string_view text) {
 }
 
 bool MessageBoxPrompt::AskYesNo(std::u16string_view text, std::u16string_view title) {
-    return Show(text, title, MB_YESNO) == IDYES;
+    const int answer = Show(text, title, MB_YESNO);
+    if (answer != IDYES && answer != IDNO)
+        base::Raise(base::RunTimeError::PermissionDenied);
+    return answer == IDYES;
 }
 
 messages::FailureChoice MessageBoxPrompt::AskAbortRetryIgnore(std::u16string_view text) {

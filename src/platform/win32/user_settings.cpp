@@ -12,13 +12,22 @@ namespace platform {
 
 namespace {
 
+/// A separator in the bytes of files; "" when there is none or the code page lacks it.
 std::string Separator(LCTYPE type) {
     wchar_t text[8] = {};
     const int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, 8);
     if (length <= 1)
         return {};
-    return AnsiCodePage().Encode(
-        {reinterpret_cast<const char16_t*>(text), static_cast<std::size_t>(length - 1)});
+    const std::u16string_view separator(reinterpret_cast<const char16_t*>(text),
+                                        static_cast<std::size_t>(length - 1));
+    std::string bytes = AnsiCodePage().Encode(separator);
+    return AnsiCodePage().Decode(bytes) == separator ? bytes : std::string();
+}
+
+/// Numbers cannot be without one.
+std::string DecimalSeparator() {
+    const std::string separator = Separator(LOCALE_SDECIMAL);
+    return separator.empty() ? "." : separator;
 }
 
 /// What the automation run-time makes of a text; infinity for a number out of range.
@@ -35,7 +44,7 @@ std::optional<double> ParseAsAutomation(std::string_view text) {
 } // namespace
 
 base::RegionalSettings UserSettings() {
-    return {.decimal = Separator(LOCALE_SDECIMAL),
+    return {.decimal = DecimalSeparator(),
             .thousands = Separator(LOCALE_STHOUSAND),
             .systemParse = ParseAsAutomation};
 }

@@ -56,6 +56,28 @@ void Win32File::Write(const char* bytes, std::size_t count) {
     }
 }
 
+void Win32File::Seek(std::uint64_t position) {
+    LARGE_INTEGER place{};
+    place.QuadPart = static_cast<LONGLONG>(position);
+    if (SetFilePointerEx(handle_, place, nullptr, FILE_BEGIN) == FALSE)
+        RaiseTransferFailure(GetLastError());
+}
+
+void Win32File::Cut(std::uint64_t size) {
+    Seek(size);
+    if (SetEndOfFile(handle_) == FALSE)
+        RaiseTransferFailure(GetLastError());
+}
+
+void Win32File::Flush() {
+    if (FlushFileBuffers(handle_) != FALSE)
+        return;
+    // Some network disks have nothing to flush and say so.
+    const DWORD error = GetLastError();
+    if (error != ERROR_INVALID_FUNCTION && error != ERROR_NOT_SUPPORTED)
+        RaiseTransferFailure(error);
+}
+
 void Win32File::Close() {
     const HANDLE handle = handle_;
     handle_ = INVALID_HANDLE_VALUE;

@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/// An open file of Windows; owns the handle.
+/// An open disk file of Windows; owns the handle.
 class Win32File final : public base::File {
 public:
     explicit Win32File(HANDLE handle) : handle_(handle) {}
@@ -17,6 +17,9 @@ public:
     std::uint64_t Size() override;
     std::size_t Read(char* buffer, std::size_t count) override;
     void Write(const char* bytes, std::size_t count) override;
+    void Seek(std::uint64_t position) override;
+    void Cut(std::uint64_t size) override;
+    void Flush() override;
     void Close() override;
 
 private:

@@ -8,9 +8,10 @@ namespace qsymbol {
 
 namespace {
 
-/// The folder's path without one separator at its end.
+/// The folder's path without one separator at its end, unless it is the root of a drive.
 std::u16string WithoutTrailingSeparator(std::u16string_view folder) {
-    if (folder.ends_with(u'\\') || (folder.size() > 1 && folder.ends_with(u'/')))
+    const bool separator = folder.ends_with(u'\\') || (folder.size() > 1 && folder.ends_with(u'/'));
+    if (separator && !folder.substr(0, folder.size() - 1).ends_with(u':'))
         folder.remove_suffix(1);
     return std::u16string(folder);
 }
@@ -31,7 +32,7 @@ void ReadKatalog(std::u16string_view folder, CatalogSink& sink, const FileEnviro
     const std::u16string path = WithoutTrailingSeparator(folder);
     if (!environment.files.FolderExists(path))
         return;
-    std::vector<base::FolderEntry> entries = environment.files.ListFiles(path);
+    std::vector<base::FolderEntry> entries = environment.files.ListFiles(environment.files.FullPath(path));
     for (base::FolderEntry& entry : entries)
         if (IsBinarySymbol(entry) && !LoadSymbolFile(std::move(entry.path), sink, environment))
             return;
@@ -42,7 +43,7 @@ bool ReadListe(std::u16string_view folder, const NameList& list, CatalogSink& si
     const std::u16string path = WithoutTrailingSeparator(folder);
     if (!environment.files.FolderExists(path))
         return true;
-    std::vector<base::FolderEntry> entries = environment.files.ListFiles(path);
+    std::vector<base::FolderEntry> entries = environment.files.ListFiles(environment.files.FullPath(path));
     if (static_cast<double>(entries.size()) * 0.8 < list.count())
         return false;
     for (base::FolderEntry& entry : entries) {

@@ -9,7 +9,7 @@
 
 namespace qsymbol {
 
-/// Loads every binary symbol file of the folder. A folder that does not exist loads nothing.
+/// Loads every binary symbol file of the folder; symbols get their full paths. A folder that does not exist loads nothing.
 ///
 /// A file that fails is shown to the user, who aborts, retries or ignores it; other errors are thrown.
 void ReadKatalog(std::u16string_view folder, CatalogSink& sink, const FileEnvironment& environment);
@@ -21,7 +21,7 @@ struct NameList {
     std::function<bool(const std::u16string& name)> contains;
 };
 
-/// Loads the binary symbol files of the folder whose names are in the list.
+/// Loads the binary symbol files of the folder whose names are in the list; symbols get their full paths.
 ///
 /// False, with nothing loaded, when the list is longer than 0.8 times the number of files in the folder.
 bool ReadListe(std::u16string_view folder, const NameList& list, CatalogSink& sink,

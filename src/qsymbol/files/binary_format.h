@@ -16,4 +16,13 @@ inline constexpr std::uint16_t kTrue = 0xFFFF;
 /// Bytes of a point: x, then y.
 inline constexpr std::size_t kPointSize = 8;
 
+/// Bytes of size and reference point.
+inline constexpr std::size_t kSizesSize = 16;
+
+/// Bytes of an element from its type to its fill colour.
+inline constexpr std::size_t kFieldsSize = 38;
+/// Bytes of a font ahead of its name, and behind it.
+inline constexpr std::size_t kFontStart = 4;
+inline constexpr std::size_t kFontEnd = 8;
+
 } // namespace qsymbol::binary_format

@@ -18,13 +18,19 @@ std::uint32_t CountOf(std::int32_t lastIndex) {
     return static_cast<std::uint32_t>(lastIndex) + 1U;
 }
 
+bool TakeTag(BinaryInput& input) {
+    const std::size_t length = input.U16();
+    return length == binary_format::kTag.size() && input.Take(length) == binary_format::kTag;
+}
+
 class BinaryReader {
 public:
     BinaryReader(std::string_view bytes, const FormatRules& rules)
         : input_(bytes), budget_(bytes.size()), rules_(rules) {}
 
     void Read(Symbol& symbol) {
-        ReadTag();
+        if (!TakeTag(input_))
+            Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromBinFile", rules_.strings);
         symbol.width = input_.I32();
         symbol.height = input_.I32();
         symbol.refX = input_.I32();
@@ -40,12 +46,6 @@ public:
     }
 
 private:
-    void ReadTag() {
-        const std::size_t length = input_.U16();
-        if (length != binary_format::kTag.size() || input_.Take(length) != binary_format::kTag)
-            Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromBinFile", rules_.strings);
-    }
-
     void ReadElement(ElementRecord& element) {
         element.type = static_cast<ElementType>(input_.I32());
         element.lineClosed = input_.Bool();
@@ -105,6 +105,30 @@ private:
 std::u16string ParseBinary(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {
     BinaryReader(bytes, rules).Read(symbol);
     return {};
+}
+
+std::uint64_t BinaryReach(std::string_view beginning) {
+    BinaryInput input(beginning);
+    try {
+        if (!TakeTag(input))
+            return beginning.size();
+        input.Take(binary_format::kSizesSize);
+        for (std::uint32_t left = CountOf(input.I32()); left > 0; --left) {
+            input.Take(binary_format::kFieldsSize);
+            input.String();
+            for (std::uint32_t points = CountOf(input.I32()); points > 0; --points)
+                input.Take(binary_format::kPointSize);
+            if (input.Bool()) {
+                input.Take(binary_format::kFontStart);
+                input.String();
+                input.Take(binary_format::kFontEnd);
+            }
+        }
+    } catch (const base::Error& error) {
+        const bool tooShort = error.Number() == static_cast<std::int32_t>(base::RunTimeError::InputPastEnd);
+        return beginning.size() + (tooShort ? 1 : 0);
+    }
+    return beginning.size() - input.Left();
 }
 
 } // namespace qsymbol

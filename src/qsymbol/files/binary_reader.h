@@ -3,6 +3,7 @@
 #include "qsymbol/files/format_rules.h"
 #include "qsymbol/model/symbol.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -15,5 +16,9 @@ namespace qsymbol {
 /// last element or point index that makes no list, 7 past the memory bound. The symbol then holds what was
 /// read.
 std::u16string ParseBinary(Symbol& symbol, std::string_view bytes, const FormatRules& rules);
+
+/// Where the last element of a binary file of this beginning ends, or where it is found to be broken; more
+/// than the beginning has when that cannot be seen yet.
+std::uint64_t BinaryReach(std::string_view beginning);
 
 } // namespace qsymbol

@@ -35,8 +35,8 @@ bool MayOverwrite(const std::u16string& path, const FileEnvironment& environment
 void ReadFromFile(Symbol& symbol, const FileEnvironment& environment) {
     const SymbolFormat& format = ReadableFormat(symbol.filePath, environment);
     ResetContent(symbol);
-    const std::u16string notice =
-        format.parse(symbol, base::ReadWholeFile(environment.files, symbol.filePath), environment);
+    const std::u16string notice = format.parse(
+        symbol, base::ReadWholeFile(environment.files, symbol.filePath, format.reach), environment);
     if (!notice.empty())
         environment.prompt.Notice(notice);
 }
@@ -44,8 +44,8 @@ void ReadFromFile(Symbol& symbol, const FileEnvironment& environment) {
 void Write2File(const Symbol& symbol, const FileEnvironment& environment) {
     const SymbolFormat& format = WritableFormat(symbol.filePath, environment);
     if (MayOverwrite(symbol.filePath, environment))
-        base::WriteWholeFile(environment.files, symbol.filePath, format.open,
-                             format.compose(symbol, environment));
+        base::WriteInPlace(environment.files, symbol.filePath, format.compose(symbol, environment),
+                           format.tail);
 }
 
 std::u16string DecodeSymbol(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {

@@ -14,12 +14,12 @@ namespace qsymbol {
 
 namespace {
 
-using base::OpenMode;
+using base::Tail;
 
 constexpr std::array kFormats = {
-    SymbolFormat{u"syt", ParseText, ComposeText, OpenMode::Replace},
-    SymbolFormat{u"wsc", ParseWsc, nullptr, OpenMode::Read},
-    SymbolFormat{u"syb", ParseBinary, ComposeBinary, OpenMode::Overlay},
+    SymbolFormat{u"syt", ParseText, ComposeText, TextReach, Tail::Cut},
+    SymbolFormat{u"wsc", ParseWsc, nullptr, WscReach, Tail::Cut},
+    SymbolFormat{u"syb", ParseBinary, ComposeBinary, BinaryReach, Tail::Keep},
 };
 
 } // namespace

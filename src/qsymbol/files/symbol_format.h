@@ -20,7 +20,8 @@ struct SymbolFormat {
     /// The bytes of the symbol's file; nullptr: files of this format are read only.
     std::string (*compose)(const Symbol& symbol, const FormatRules& rules);
 
-    base::OpenMode open; ///< for writing
+    base::Reach reach; ///< how much of a file its reader needs
+    base::Tail tail;   ///< what becomes of the rest of a longer file that is overwritten
 };
 
 /// The format of a path's extension in any case; nullptr for an unknown one.

@@ -6,7 +6,6 @@
 
 namespace qsymbol {
 
-using text_format::Key;
 using text_format::Value;
 
 namespace {

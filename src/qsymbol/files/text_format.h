@@ -1,7 +1,9 @@
 #pragma once
 
+#include "qsymbol/files/three_letters.h"
+
+#include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 
 /// What reader and writer of the text format share: record types and keys, upper case as they stand in a
@@ -21,14 +23,13 @@ inline constexpr std::string_view kFalse = "FALSE";
 
 inline constexpr std::size_t kHeaderFields = 6;
 inline constexpr std::size_t kHeaderKeys = 5;
-inline constexpr std::size_t kKeyLength = 3;
+inline constexpr std::size_t kArcPoints = 3;
 
-/// A three-letter key as one number, for a switch; 0 for anything shorter.
-constexpr std::uint32_t Key(std::string_view field) {
-    if (field.size() < kKeyLength)
-        return 0;
-    const auto byte = [&](std::size_t i) { return std::uint32_t{static_cast<unsigned char>(field[i])}; };
-    return byte(0) << 16 | byte(1) << 8 | byte(2);
+/// True for a first line that makes a file a symbol.
+inline bool IsHeader(std::string_view line) {
+    const auto separators = static_cast<std::size_t>(std::count(line.begin(), line.end(), kSeparator));
+    return line.starts_with(kHeader) && line.substr(kHeader.size()).starts_with(kSeparator) &&
+           separators + 1 == kHeaderFields;
 }
 
 /// What follows the key and one more character, whichever that is.

@@ -9,13 +9,9 @@
 #include "qsymbol/files/text_element_fields.h"
 #include "qsymbol/files/text_format.h"
 
-#include <algorithm>
-
 namespace qsymbol {
 
 namespace {
-
-using text_format::Key;
 
 class TextReader {
 public:
@@ -32,7 +28,7 @@ public:
             std::string_view type;
             fields.Next(type);
             if (headerExpected_)
-                ReadHeader(type, line, fields);
+                ReadHeader(line, fields);
             else if (type == text_format::kPoint)
                 ReadPoint(fields);
             else if (type == text_format::kString)
@@ -47,11 +43,9 @@ private:
         Raise(number, u"CSymbol.ReadFromTxtFile", rules_.strings);
     }
 
-    void ReadHeader(std::string_view type, std::string_view line, FieldCursor& fields) {
+    void ReadHeader(std::string_view line, FieldCursor& fields) {
         headerExpected_ = false;
-        const auto separators =
-            static_cast<std::size_t>(std::count(line.begin(), line.end(), text_format::kSeparator));
-        if (type != text_format::kHeader || separators + 1 != text_format::kHeaderFields)
+        if (!text_format::IsHeader(line))
             Refuse(LibraryError::NotASymbolFile);
         std::size_t known = 0;
         for (std::string_view field; fields.Next(field);)
@@ -134,7 +128,7 @@ private:
             SetFields(fields, &TextElementFields::SetCircleField);
         } else if (type == text_format::kArc) {
             element_->type = ElementType::Arc;
-            fields_.SizePoints(*element_, 3);
+            fields_.SizePoints(*element_, text_format::kArcPoints);
             SetFields(fields, &TextElementFields::SetArcField);
             nextPoint_ = 1; // the centre came with the fields
         } else if (type == text_format::kText) {
@@ -173,6 +167,16 @@ private:
 std::u16string ParseText(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {
     TextReader(symbol, bytes.size(), rules).Read(bytes);
     return {};
+}
+
+std::uint64_t TextReach(std::string_view beginning) {
+    LineCursor lines(beginning);
+    std::string_view line;
+    while (lines.Next(line) && line.empty()) {
+    }
+    const bool ends = line.data() + line.size() != beginning.data() + beginning.size();
+    const bool refused = ends ? !text_format::IsHeader(line) : !line.starts_with(text_format::kHeader);
+    return refused && !line.empty() ? beginning.size() : UINT64_MAX;
 }
 
 } // namespace qsymbol

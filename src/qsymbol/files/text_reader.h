@@ -3,6 +3,7 @@
 #include "qsymbol/files/format_rules.h"
 #include "qsymbol/model/symbol.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -15,5 +16,8 @@ namespace qsymbol {
 /// count of 0 or less and for more elements or points than were counted, 7 past the memory bound. The symbol
 /// then holds what was read up to the failing line.
 std::u16string ParseText(Symbol& symbol, std::string_view bytes, const FormatRules& rules);
+
+/// Where a text file of this beginning ends for its reader: here, when it is no symbol.
+std::uint64_t TextReach(std::string_view beginning);
 
 } // namespace qsymbol

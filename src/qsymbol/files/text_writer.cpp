@@ -5,6 +5,7 @@
 #include "qmath/math_util.h"
 #include "qsymbol/files/text_format.h"
 
+#include <cmath>
 #include <utility>
 
 namespace qsymbol {
@@ -41,6 +42,7 @@ private:
     }
 
     void PutPoly(const ElementRecord& element) {
+        FirstPoint(element); // a list of none cannot be read
         out_ += text_format::kPoly;
         PutLong("CNT", base::Narrow<std::int32_t>(element.points.size()));
         PutLong("COL", element.mainColor);
@@ -60,6 +62,8 @@ private:
     }
 
     void PutArc(const ElementRecord& element) {
+        if (element.points.size() > text_format::kArcPoints)
+            base::Raise(base::RunTimeError::SubscriptOutOfRange);
         out_ += text_format::kArc;
         PutCentreFields(element);
         EndLine();
@@ -75,8 +79,8 @@ private:
         PutLong("COL", element.mainColor);
         PutDecimals("ANG", qmath::RadToDeg(element.textAngle), 2);
         PutKey("NAM");
-        out_ += codePage_.Encode(font.name);
-        PutDecimals("HEI", font.size, 0);
+        PutWithout("\n;", font.name);
+        PutFontSize(font.size);
         PutBool("BOL", font.bold);
         PutBool("ITA", font.italic);
         PutBool("UND", font.underline);
@@ -89,7 +93,7 @@ private:
         PutPoint(FirstPoint(element));
         out_ += text_format::kString;
         out_ += ";\"";
-        out_ += codePage_.Encode(element.text);
+        PutWithout("\n", element.text);
         out_ += '"';
         EndLine();
     }
@@ -117,6 +121,19 @@ private:
         out_ += text_format::kSeparator;
         base::AppendHundredths(out_, point.y, decimal_);
         EndLine();
+    }
+
+    /// A text, unless one of these characters in it would end its field. Error 5.
+    void PutWithout(std::string_view ends, std::u16string_view text) {
+        const std::string bytes = codePage_.Encode(text);
+        if (bytes.find_first_of(ends) != std::string::npos)
+            base::Raise(base::RunTimeError::InvalidCall);
+        out_ += bytes;
+    }
+
+    void PutFontSize(double size) {
+        base::Narrow<std::int16_t>(base::RoundToLong(std::round(size)));
+        PutDecimals("HEI", size, 0);
     }
 
     void PutKey(std::string_view key) {

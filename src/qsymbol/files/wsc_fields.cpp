@@ -1,16 +1,12 @@
 #include "qsymbol/files/wsc_fields.h"
 
-#include <array>
+#include "base/powers_of_ten.h"
+
 #include <cstdint>
 
 namespace qsymbol {
 
 namespace {
-
-/// So many digits make a whole number that a double holds exactly, and so does the power of ten below it.
-constexpr int kExactDigits = 15;
-constexpr std::array<double, kExactDigits + 1> kPowersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                                               1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 /// Goes over digits, which are added to the number at its lower end; it is of no use beyond 19 of them.
 const char* Digits(const char* at, const char* end, std::uint64_t& number) {
@@ -35,7 +31,7 @@ double WscFields::AnyCoordinate() {
         decimals = at - point;
         count += decimals;
     }
-    if ((at != end_ && *at != wsc_format::kSeparator) || count < 1 || count > kExactDigits) {
+    if ((at != end_ && *at != wsc_format::kSeparator) || count < 1 || count > base::kExactDigits) {
         std::string_view field;
         Next(field);
         return numbers_.Coordinate(field);
@@ -44,7 +40,7 @@ double WscFields::AnyCoordinate() {
     Pass();
     auto value = static_cast<double>(static_cast<std::int64_t>(number));
     if (decimals > 0)
-        value /= kPowersOfTen[static_cast<std::size_t>(decimals)];
+        value /= base::kPowersOfTen[static_cast<std::size_t>(decimals)];
     return negative ? -value : value;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qsymbol/files/three_letters.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -9,7 +11,6 @@ namespace qsymbol::wsc_format {
 
 inline constexpr char kSeparator = ' ';
 inline constexpr char kKeySeparator = '=';
-inline constexpr std::size_t kKeywordLength = 3;
 inline constexpr std::size_t kHeaderFields = 6;
 
 /// Keyed fields behind the keyword: of STR, STF, ELL and EBO; of EFL and PIE.
@@ -38,28 +39,22 @@ enum class Keyword {
 
 /// The keyword that this text is, the whole of it.
 constexpr Keyword KeywordOf(std::string_view text) {
-    constexpr auto code = [](std::string_view letters) {
-        const auto byte = [&](std::size_t i) {
-            return std::uint32_t{static_cast<unsigned char>(letters[i])};
-        };
-        return byte(0) << 16 | byte(1) << 8 | byte(2);
-    };
-    if (text.size() != kKeywordLength)
+    if (text.size() != kKeyLength)
         return Keyword::None;
-    switch (code(text)) {
-    case code("BLT"): return Keyword::Header;
-    case code("STR"): return Keyword::Line;
-    case code("STF"): return Keyword::Chain;
-    case code("SFF"): return Keyword::ChainPoints;
-    case code("FLA"): return Keyword::Area;
-    case code("FLF"): return Keyword::AreaPoints;
-    case code("ELL"): return Keyword::Ellipse;
-    case code("EBO"): return Keyword::Arc;
-    case code("EBF"): return Keyword::ArcPoints;
-    case code("EFL"): return Keyword::FilledOval;
-    case code("PIE"): return Keyword::Pie;
-    case code("PIF"): return Keyword::PiePoints;
-    case code("END"): return Keyword::End;
+    switch (Key(text)) {
+    case Key("BLT"): return Keyword::Header;
+    case Key("STR"): return Keyword::Line;
+    case Key("STF"): return Keyword::Chain;
+    case Key("SFF"): return Keyword::ChainPoints;
+    case Key("FLA"): return Keyword::Area;
+    case Key("FLF"): return Keyword::AreaPoints;
+    case Key("ELL"): return Keyword::Ellipse;
+    case Key("EBO"): return Keyword::Arc;
+    case Key("EBF"): return Keyword::ArcPoints;
+    case Key("EFL"): return Keyword::FilledOval;
+    case Key("PIE"): return Keyword::Pie;
+    case Key("PIF"): return Keyword::PiePoints;
+    case Key("END"): return Keyword::End;
     default: return Keyword::None;
     }
 }

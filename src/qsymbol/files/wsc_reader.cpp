@@ -96,13 +96,35 @@ private:
 
 } // namespace
 
+namespace {
+
+/// As much of a line as a notice shows.
+std::u16string Shown(std::string_view line, const base::CodePage& codePage) {
+    constexpr std::size_t kCharacters = 1000;
+    constexpr std::size_t kLongestCharacter = 4;
+    std::u16string text = codePage.Decode(line.substr(0, kLongestCharacter * (kCharacters + 1)));
+    if (text.size() <= kCharacters)
+        return text;
+    const bool halved = (text[kCharacters] & 0xFC00) == 0xDC00;
+    text.resize(kCharacters - (halved ? 1 : 0));
+    return text + u'…';
+}
+
+} // namespace
+
 std::u16string ParseWsc(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {
     const WscSurvey survey = SurveyWsc(bytes);
     if (survey.unknown)
-        return u"Folgende Zeile kann nicht verarbeitet werden: " + rules.codePage.Decode(*survey.unknown) +
+        return u"Folgende Zeile kann nicht verarbeitet werden: " + Shown(*survey.unknown, rules.codePage) +
                u" --> Abbruch";
     const bool whole = WscReader(symbol, bytes, rules).Read(survey.figures);
     return whole ? u"" : u"Ellipsenbögen können nicht verarbeitet werden --> Abbruch";
+}
+
+std::uint64_t WscReach(std::string_view beginning) {
+    // The last line may go on behind the beginning.
+    const std::string_view whole = beginning.substr(0, beginning.rfind('\n') + 1);
+    return !whole.empty() && SurveyWsc(whole).unknown ? beginning.size() : UINT64_MAX;
 }
 
 } // namespace qsymbol

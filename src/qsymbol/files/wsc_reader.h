@@ -3,6 +3,7 @@
 #include "qsymbol/files/format_rules.h"
 #include "qsymbol/model/symbol.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -16,5 +17,8 @@ namespace qsymbol {
 /// figure, for a continuation line ahead of any figure and for points outside the figure's list, 62 for no
 /// bytes at all, 7 past the memory bound. The symbol then holds what was read up to the failing line.
 std::u16string ParseWsc(Symbol& symbol, std::string_view bytes, const FormatRules& rules);
+
+/// Where an import file of this beginning ends for its reader: here, when a line cannot be processed.
+std::uint64_t WscReach(std::string_view beginning);
 
 } // namespace qsymbol

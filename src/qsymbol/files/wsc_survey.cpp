@@ -13,15 +13,14 @@ namespace {
 
 /// True when the line makes an element; for that its first field is a keyword as a whole.
 bool IsFigure(std::string_view line) {
-    if (line.size() > wsc_format::kKeywordLength &&
-        line[wsc_format::kKeywordLength] != wsc_format::kSeparator)
+    if (line.size() > kKeyLength && line[kKeyLength] != wsc_format::kSeparator)
         return false;
-    return OpensFigure(wsc_format::KeywordOf(line.substr(0, wsc_format::kKeywordLength)));
+    return OpensFigure(wsc_format::KeywordOf(line.substr(0, kKeyLength)));
 }
 
 /// A header may stand in the first line only. What follows the keyword without a blank does not matter here.
 bool MayFollow(std::string_view line) {
-    const Keyword keyword = wsc_format::KeywordOf(line.substr(0, wsc_format::kKeywordLength));
+    const Keyword keyword = wsc_format::KeywordOf(line.substr(0, kKeyLength));
     return line.empty() || (keyword != Keyword::None && keyword != Keyword::Header);
 }
 

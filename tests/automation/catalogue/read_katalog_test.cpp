@@ -96,4 +96,23 @@ TEST_F(ReadKatalog, TheCatalogueMayBeReleasedWhileABoxIsOpen) {
     EXPECT_OK(held->ReadKatalog(Bstr(folder.Path())));
 }
 
+/// The host may go to another folder afterwards.
+TEST_F(ReadKatalog, SymbolsGetFullPaths) {
+    AddFile(L"Herd.syb");
+    wchar_t before[MAX_PATH] = {};
+    GetCurrentDirectoryW(MAX_PATH, before);
+    const std::wstring name = folder.Path().substr(folder.Path().rfind(L'\\') + 1);
+    for (const std::wstring& path : {name, name + L"\\..\\" + name + L"\\", L"./" + name + L"/"}) {
+        EXPECT_OK(symbols->Clear());
+        ASSERT_NE(SetCurrentDirectoryW((folder.Path() + L"\\..").c_str()), FALSE);
+        EXPECT_OK(Load(path));
+        ASSERT_NE(SetCurrentDirectoryW(before), FALSE);
+        Ref<_CSymbol> symbol;
+        EXPECT_OK(symbols->get_ItemByPos(1, symbol.Put()));
+        ASSERT_TRUE(symbol);
+        EXPECT_EQ(support::Dispatch(symbol).Get(L"FilePath").value.Text(), folder / L"Herd.syb");
+        EXPECT_OK(symbol->ReadFromFile());
+    }
+}
+
 } // namespace

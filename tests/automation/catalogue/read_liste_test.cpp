@@ -102,4 +102,12 @@ TEST_F(ReadListe, ADuplicateNameIsPassedOn) {
         RunTimeError(457));
 }
 
+TEST_F(ReadListe, ErrorsOfALookUpMeanThatTheNameIsNotListed) {
+    AddFiles(3);
+    const Ref<BasicCollection> list = BasicCollection::Create({L"S1"});
+    list->FailOnExists({support::Numbered(1000), L"Plan.Liste", L"Die Liste ist weg"});
+    EXPECT_TRUE(Read(folder.Path(), list.Get()));
+    EXPECT_EQ(Names(), Texts{});
+}
+
 } // namespace

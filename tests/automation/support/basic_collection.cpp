@@ -6,7 +6,7 @@ namespace support {
 
 namespace {
 
-enum : DISPID { kItem = DISPID_VALUE, kCount = 1 };
+enum : DISPID { kItem = DISPID_VALUE, kCount = 1, kExists = 2 };
 
 HRESULT Raise(EXCEPINFO* exception, const Failure& failure) {
     *exception = {};
@@ -40,9 +40,10 @@ STDMETHODIMP_(ULONG) BasicCollection::Release() {
 }
 
 STDMETHODIMP BasicCollection::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {
-    ids[0] = _wcsicmp(names[0], L"Item") == 0    ? DISPID{kItem}
-             : _wcsicmp(names[0], L"Count") == 0 ? DISPID{kCount}
-                                                 : DISPID_UNKNOWN;
+    ids[0] = _wcsicmp(names[0], L"Item") == 0                       ? DISPID{kItem}
+             : _wcsicmp(names[0], L"Count") == 0                    ? DISPID{kCount}
+             : existsFailure_ && _wcsicmp(names[0], L"Exists") == 0 ? DISPID{kExists}
+                                                                    : DISPID_UNKNOWN;
     return ids[0] == DISPID_UNKNOWN ? DISP_E_UNKNOWNNAME : S_OK;
 }
 
@@ -50,6 +51,8 @@ STDMETHODIMP BasicCollection::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* 
                                      EXCEPINFO* exception, UINT*) {
     if (id == kCount && failure_)
         return Raise(exception, *failure_);
+    if (id == kExists)
+        return Raise(exception, *existsFailure_);
     if (id == kItem && arguments->cArgs == 1)
         return Item(arguments->rgvarg[0], result, exception);
     if (id != kCount || arguments->cArgs != 0)

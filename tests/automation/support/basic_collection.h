@@ -21,6 +21,8 @@ public:
 
     /// Asking for the number of items fails from now on.
     void FailOnCount(const Failure& failure) { failure_ = failure; }
+    /// There is an `Exists` from now on, and it fails.
+    void FailOnExists(const Failure& failure) { existsFailure_ = failure; }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override;
     STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
@@ -38,6 +40,7 @@ private:
 
     std::vector<std::wstring> keys_;
     std::optional<Failure> failure_;
+    std::optional<Failure> existsFailure_;
     ULONG references_ = 1;
 };
 

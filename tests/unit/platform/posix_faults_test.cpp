@@ -1,3 +1,4 @@
+#include "base/whole_file.h"
 #include "qsymbol/files/symbol_file.h"
 #include "support/caught.h"
 #include "support/sample_symbols.h"
@@ -6,10 +7,16 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstring>
+#include <fcntl.h>
 #include <filesystem>
+#include <sched.h>
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -102,19 +109,52 @@ protected:
     }
 };
 
-TEST_F(PosixFaults, ADiskThatIsFullFromTheStart) {
-    for (const char* name : {"full.syt", "full.syb"}) {
-        fs::create_symlink("/dev/full", folder_.Path() / name);
-        EXPECT_EQ(Write(folder_.File(name)), Expected(RunTimeError::DiskFull));
-    }
-}
-
 TEST_F(PosixFaults, ADiskThatFillsUp) {
+    const std::string old(60, '#');
     for (const char* name : {"a.syt", "a.syb"}) {
         const LimitedDisk disk(100);
         EXPECT_EQ(Write(folder_.File(name)), Expected(RunTimeError::DiskFull));
-        EXPECT_EQ(fs::file_size(folder_.Path() / name), 100U) << "what was written so far stays";
+        EXPECT_FALSE(fs::exists(folder_.Path() / name)) << "no remainder that would read as a symbol";
+        support::PutBytes(folder_.Path() / name, old);
+        EXPECT_EQ(Write(folder_.File(name)), Expected(RunTimeError::DiskFull));
+        EXPECT_EQ(support::BytesOf(folder_.Path() / name), old);
     }
+}
+
+/// A disk of four blocks, in a view of the file system that only one thread has.
+TEST_F(PosixFaults, AFullDisk) {
+    std::string skipped;
+    std::thread([&] {
+        if (unshare(CLONE_NEWNS) != 0 || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            mount("tmpfs", folder_.Path().c_str(), "tmpfs", 0, "size=16384") != 0) {
+            skipped = std::strerror(errno);
+            return;
+        }
+        for (const std::string name : {"a.syt", "a.syb"}) {
+            support::PutBytes(folder_.Path() / name, "old");
+            support::PutBytes(folder_.Path() / "rest", std::string(12288, '#'));
+            Symbol symbol = support::EveryField();
+            symbol.filePath = folder_.File(name);
+            symbol.elements[0].points.assign(700, {1, 2});
+            const auto write = [&] {
+                world_.prompt.yesNo.assign(1, true);
+                return CaughtFrom([&] { Write2File(symbol, world_.OnDisk()); });
+            };
+            EXPECT_EQ(write(), Expected(RunTimeError::DiskFull)) << name;
+            EXPECT_EQ(support::BytesOf(folder_.Path() / name), "old");
+            EXPECT_EQ(
+                CaughtFrom([&] { base::WriteBeside(world_.disk, symbol.filePath, std::string(5000, 'x')); }),
+                Expected(RunTimeError::DiskFull));
+            EXPECT_EQ(support::BytesOf(folder_.Path() / name), "old");
+            fs::remove(folder_.Path() / "rest");
+            EXPECT_EQ(write(), Caught());
+            EXPECT_EQ(std::distance(fs::directory_iterator(folder_.Path()), {}), 1) << "nothing stays behind";
+            fs::remove(folder_.Path() / name);
+        }
+        umount(folder_.Path().c_str());
+    }).join();
+    if (!skipped.empty())
+        GTEST_SKIP() << "no disk of its own can be mounted: " << skipped;
 }
 
 TEST_F(PosixFaults, DeniedAccess) {
@@ -192,13 +232,21 @@ TEST_F(PosixFaults, FoldersAndMissingFiles) {
     EXPECT_EQ(Write(folder_.File("none/a.syb")), Expected(RunTimeError::PathNotFound));
 }
 
-TEST_F(PosixFaults, APipeDoesNotHoldTheProgram) {
-    for (const char* name : {"a.syt", "a.syb", "a.wsc"})
-        ASSERT_EQ(mkfifo((folder_.Path() / name).c_str(), 0600), 0);
-    EXPECT_EQ(Read(folder_.File("a.syt")), Caught()) << "empty";
-    EXPECT_EQ(Read(folder_.File("a.syb")), Expected(RunTimeError::InputPastEnd));
-    EXPECT_EQ(Read(folder_.File("a.wsc")), Expected(RunTimeError::InputPastEnd));
-    EXPECT_EQ(Write(folder_.File("a.syt")), Expected(RunTimeError::DeviceIo)) << "nobody reads";
+TEST_F(PosixFaults, PipesAndDevicesAreNoFiles) {
+    for (const std::string extension : {".syt", ".syb", ".wsc"}) {
+        ASSERT_EQ(mkfifo((folder_.Path() / ("silent" + extension)).c_str(), 0600), 0);
+        ASSERT_EQ(mkfifo((folder_.Path() / ("open" + extension)).c_str(), 0600), 0);
+        fs::create_symlink("/dev/zero", folder_.Path() / ("zero" + extension));
+        const int pipe = open((folder_.Path() / ("open" + extension)).c_str(), O_RDWR | O_NONBLOCK);
+        for (const std::string name : {"silent", "open", "zero"}) {
+            EXPECT_EQ(Read(folder_.File(name + extension)), Expected(RunTimeError::PathFileAccess)) << name;
+            if (extension != ".wsc") {
+                EXPECT_EQ(Write(folder_.File(name + extension)), Expected(RunTimeError::PathFileAccess));
+            }
+        }
+        close(pipe);
+    }
+    EXPECT_TRUE(world_.prompt.said.empty()) << "what is no file is not overwritten";
 }
 
 } // namespace

@@ -37,12 +37,50 @@ TEST_F(PosixFiles, WaysOfWriting) {
     EXPECT_EQ(support::BytesOf(folder_.Path() / "a"), "y");
 }
 
-TEST_F(PosixFiles, SizeFollowsWhatIsWritten) {
-    support::PutBytes(folder_.Path() / "a", "123");
-    const auto file = files_.Open(folder_.File("a"), OpenMode::Append);
-    EXPECT_EQ(file->Size(), 3U);
-    file->Write("45", 2);
+TEST_F(PosixFiles, PlacesInAFile) {
+    support::PutBytes(folder_.Path() / "a", "12345");
+    const auto file = files_.Open(folder_.File("a"), OpenMode::Overlay);
     EXPECT_EQ(file->Size(), 5U);
+    file->Seek(4);
+    file->Write("xy", 2);
+    file->Seek(1);
+    file->Write("z", 1);
+    file->Flush();
+    EXPECT_EQ(support::BytesOf(folder_.Path() / "a"), "1z34xy");
+    file->Cut(3);
+    EXPECT_EQ(support::BytesOf(folder_.Path() / "a"), "1z3");
+}
+
+TEST_F(PosixFiles, FullPaths) {
+    std::filesystem::create_directory(folder_.Path() / "inner");
+    const std::u16string inner = folder_.File("inner");
+    EXPECT_EQ(files_.FullPath(folder_.File("inner/../inner/.")), inner);
+    EXPECT_EQ(files_.FullPath(inner + u"/"), inner);
+    EXPECT_EQ(files_.FullPath(u".") + u"/none", std::filesystem::current_path().u16string() + u"/none");
+    EXPECT_EQ(files_.FullPath(u"no/such/folder"), u"no/such/folder");
+}
+
+TEST_F(PosixFiles, WritingBeside) {
+    const std::filesystem::path path = folder_.Path() / "a";
+    base::WriteBeside(files_, path.u16string(), "new");
+    EXPECT_EQ(support::BytesOf(path), "new");
+    std::filesystem::permissions(path,
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+    support::PutBytes(folder_.Path() / "a.~", "somebody's");
+    base::WriteBeside(files_, path.u16string(), "newer");
+    EXPECT_EQ(support::BytesOf(path), "newer");
+    EXPECT_EQ(support::BytesOf(folder_.Path() / "a.~"), "somebody's");
+    EXPECT_EQ(std::filesystem::status(path).permissions(),
+              std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+
+    std::filesystem::create_directory(folder_.Path() / "inner");
+    std::filesystem::create_symlink("/dev/null", folder_.Path() / "null");
+    for (const auto& [name, error] : {std::pair{"inner", RunTimeError::PathFileAccess},
+                                      {"null", RunTimeError::PathFileAccess},
+                                      {"none/a", RunTimeError::PathNotFound}})
+        EXPECT_EQ(CaughtFrom([&] { base::WriteBeside(files_, folder_.File(name), "x"); }), Expected(error));
+    EXPECT_EQ(files_.ListFiles(folder_.Path().u16string()).size(), 3U) << "a, a.~ and the link";
+    EXPECT_EQ(CaughtFrom([&] { files_.Remove(folder_.File("none")); }), Expected(RunTimeError::FileNotFound));
 }
 
 TEST_F(PosixFiles, WhatCannotBeOpened) {

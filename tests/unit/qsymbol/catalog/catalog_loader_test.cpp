@@ -182,4 +182,28 @@ TEST_F(CatalogLoader, OnDisk) {
     EXPECT_THAT(catalog_.Names(), UnorderedElementsAre(u"wc", u"Küche"));
 }
 
+/// The host may go to another folder afterwards.
+TEST_F(CatalogLoader, SymbolsGetFullPaths) {
+    const support::TempFolder folder;
+    std::filesystem::create_directory(folder.Path() / "inner");
+    Symbol symbol = support::WashRoom();
+    symbol.filePath = folder.File("inner/wc.syb");
+    Write2File(symbol, world_.OnDisk());
+    const std::filesystem::path before = std::filesystem::current_path();
+    const qsymbol::NameList list{[] { return 0; }, [](const std::u16string&) { return true; }};
+    for (const char16_t* path : {u"inner", u"./inner/", u"inner/../inner"}) {
+        for (const bool listed : {false, true}) {
+            catalog_.symbols.Clear();
+            std::filesystem::current_path(folder.Path());
+            if (listed)
+                ReadListe(path, list, catalog_, world_.OnDisk());
+            else
+                ReadKatalog(path, catalog_, world_.OnDisk());
+            std::filesystem::current_path(before);
+            ASSERT_EQ(catalog_.symbols.Count(), 1);
+            EXPECT_EQ((*catalog_.symbols.ItemByPos(1)).filePath, symbol.filePath);
+        }
+    }
+}
+
 } // namespace

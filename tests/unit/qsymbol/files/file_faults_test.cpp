@@ -1,3 +1,4 @@
+#include "base/whole_file.h"
 #include "qsymbol/files/binary_writer.h"
 #include "qsymbol/files/symbol_file.h"
 #include "support/allocation_counter.h"
@@ -7,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <new>
 
@@ -22,6 +24,9 @@ using support::Expected;
 
 constexpr std::array kReadable = {u"plan/a.syt", u"plan/a.syb", u"plan/a.wsc"};
 constexpr std::array kWritable = {u"plan/a.syt", u"plan/a.syb"};
+/// Open, size, seek, write, flush: then there is room for all, and a new file has only to be closed.
+constexpr int kReservingSteps = 5;
+constexpr int kWritingSteps = kReservingSteps + 1;
 constexpr std::array kErrors = {
     RunTimeError::OutOfMemory,      RunTimeError::BadFileName,    RunTimeError::FileNotFound,
     RunTimeError::DeviceIo,         RunTimeError::DiskFull,       RunTimeError::InputPastEnd,
@@ -107,26 +112,71 @@ TEST_F(FileFaults, EveryStepOfWriting) {
             do
                 memory_.files.clear();
             while (WriteFailingAt(step++, path));
-            EXPECT_EQ(step, 4) << "open, write and close fail once, then all is well";
+            EXPECT_EQ(step, kWritingSteps + 1) << "each of them fails once, then all is well";
         }
     }
 }
 
 TEST_F(FileFaults, EveryStepOfOverwriting) {
     for (const char16_t* path : kWritable) {
-        const std::string old(10000, '#');
-        int step = 0;
-        bool failed = true;
-        for (; failed; ++step) {
-            memory_.files[path] = old;
-            world_.prompt.yesNo = {true};
-            failed = WriteFailingAt(step, path);
-            if (step == 0) {
-                EXPECT_EQ(memory_.files[path], old) << "what could not be opened is untouched";
+        for (const std::size_t size : {0U, 100U, 10000U}) {
+            const std::string old(size, '#');
+            bool failed = true;
+            for (int step = 0; failed; ++step) {
+                memory_.files[path] = old;
+                world_.prompt.yesNo = {true};
+                failed = WriteFailingAt(step, path);
+                const bool reserving = step < (size < 10000 ? kReservingSteps : 2);
+                if (failed && reserving) {
+                    EXPECT_EQ(memory_.files[path], old) << step;
+                }
             }
         }
-        EXPECT_EQ(step, 4);
     }
+}
+
+/// A disk that takes only so many bytes, for every number of them.
+TEST_F(FileFaults, AFullDiskLeavesTheOldContent) {
+    for (const char16_t* path : kWritable) {
+        const std::string bytes = EncodeSymbol(At(path), path, environment_);
+        for (const std::size_t size : {SIZE_MAX, std::size_t{0}, std::size_t{100}, bytes.size() + 50}) {
+            const bool existed = size != SIZE_MAX;
+            const std::string old(existed ? size : 0, '#');
+            for (std::size_t room = old.size(); room <= bytes.size() + 50; ++room) {
+                memory_.files.clear();
+                if (existed)
+                    memory_.files[path] = old;
+                memory_.room = room;
+                world_.prompt.yesNo.assign(existed ? 1 : 0, true);
+                const Caught caught = CaughtFrom([&] { Write2File(At(path), environment_); });
+                if (room < bytes.size()) {
+                    EXPECT_EQ(caught, Expected(RunTimeError::DiskFull));
+                    EXPECT_EQ(memory_.files.contains(path), existed);
+                    EXPECT_EQ(memory_.files[path], old);
+                } else {
+                    EXPECT_EQ(caught, Caught());
+                    EXPECT_EQ(memory_.files[path].substr(0, bytes.size()), bytes);
+                    EXPECT_EQ(memory_.files[path].size(), std::u16string_view(path).ends_with(u"syb")
+                                                              ? std::max(old.size(), bytes.size())
+                                                              : bytes.size());
+                }
+            }
+        }
+    }
+}
+
+TEST_F(FileFaults, EveryStepOfWritingBeside) {
+    int step = 0;
+    for (Caught caught{1, {}, {}}; caught != Caught(); ++step) {
+        memory_.files = {{u"plan/a.svg", "old"}, {u"plan/a.svg.~", "another's"}};
+        memory_.steps = 0;
+        memory_.failingStep = step;
+        caught = CaughtFrom([&] { base::WriteBeside(memory_, u"plan/a.svg", "new"); });
+        EXPECT_EQ(memory_.files[u"plan/a.svg"], caught == Caught() ? "new" : "old");
+        EXPECT_EQ(memory_.files.size(), 2U) << "nothing stays behind";
+        EXPECT_EQ(memory_.openNow, 0);
+    }
+    EXPECT_EQ(step, 6) << "open, write, flush, close and rename fail once";
 }
 
 TEST_F(FileFaults, NothingIsLeaked) {

@@ -2,12 +2,16 @@
 
 #include "qsymbol/files/binary_writer.h"
 #include "qsymbol/files/text_writer.h"
+#include "support/allocation_counter.h"
 #include "support/caught.h"
 #include "support/sample_symbols.h"
 #include "support/temp_folder.h"
 #include "support/test_environment.h"
 
 #include <gmock/gmock.h>
+
+#include <filesystem>
+#include <tuple>
 
 namespace {
 
@@ -156,10 +160,9 @@ TEST_F(SymbolFile, AFailingWriteClosesTheFileAndLeavesTheSymbol) {
         memory_.writeError = RunTimeError::DiskFull;
         memory_.writeBeforeError = 3;
         EXPECT_EQ(Write(symbol), Expected(RunTimeError::DiskFull));
-        EXPECT_EQ(memory_.files[path].size(), 3U) << "what was written so far stays";
+        EXPECT_FALSE(memory_.files.contains(path)) << "no file where none was";
         memory_.writeError.reset();
         memory_.closeError = RunTimeError::DeviceIo;
-        world_.prompt.yesNo = {true};
         EXPECT_EQ(Write(symbol), Expected(RunTimeError::DeviceIo));
         memory_.closeError.reset();
         EXPECT_EQ(symbol, At(path));
@@ -183,11 +186,59 @@ TEST_F(SymbolFile, LargeFilesAndSizesThatChangeMeanwhile) {
         Symbol symbol = At(u"plan/wc.syt", {});
         EXPECT_EQ(Read(symbol), Caught());
         EXPECT_EQ(symbol, At(u"plan/wc.syt")) << blanks;
-        memory_.announcedSize = text.size() + 5000; // it shrank since
+        memory_.announcedSize = text.size() + 5000; // it shrank meanwhile
         EXPECT_EQ(Read(symbol), Caught());
         EXPECT_EQ(symbol, At(u"plan/wc.syt")) << blanks;
         memory_.announcedSize.reset();
     }
+}
+
+/// Files whose end is far away: what a reader does not need is not read.
+TEST_F(SymbolFile, ALongTailCostsNothing) {
+    constexpr std::uint64_t kFar = std::uint64_t{5} << 30;
+    const support::TempFolder folder;
+    const std::string symbol = ComposeBinary(support::WashRoom(), world_.InMemory());
+    for (const auto& [name, start, error] : {std::tuple{"a.syb", symbol, 0},
+                                             {"b.syb", std::string("\3\0sym", 5), 3501},
+                                             {"a.syt", std::string("no symbol\n"), 3501},
+                                             {"b.syt", std::string("no symbol"), 3501},
+                                             {"c.syt", std::string("\nSYM;CNT=1\n"), 3501},
+                                             {"a.wsc", std::string("BLT 1 2 3 4 5\nXYZ\n"), 0}}) {
+        support::PutBytes(folder.Path() / name, start);
+        std::filesystem::resize_file(folder.Path() / name, kFar);
+        Symbol read = At(folder.File(name));
+        const support::AllocationCounter memory;
+        EXPECT_EQ(CaughtFrom([&] { ReadFromFile(read, world_.OnDisk()); }).number, error) << name;
+        EXPECT_LE(memory.Peak(), 3U << 20) << name;
+        EXPECT_EQ(read.elements.size(), start == symbol ? 3U : 0U);
+    }
+    EXPECT_EQ(world_.prompt.said.size(), 1U) << "the foreign line";
+}
+
+TEST_F(SymbolFile, LongFilesAreReadToTheirEnd) {
+    Symbol symbol = At(u"plan/lang.syb");
+    for (qsymbol::ElementRecord& element : symbol.elements) {
+        element.type = qsymbol::ElementType::Poly;
+        element.points.assign(100000, {1, -2});
+    }
+    for (const char16_t* path : {u"plan/lang.syb", u"plan/lang.syt"}) {
+        symbol.filePath = path;
+        EXPECT_EQ(Write(symbol), Caught());
+        EXPECT_GT(memory_.files[path].size(), 2U << 20);
+        memory_.files[path].append(symbol.filePath.ends_with(u"syb") ? 5000 : 0, '#');
+        memory_.readAtMost = 300000;
+        Symbol back = At(path, {});
+        EXPECT_EQ(Read(back), Caught());
+        EXPECT_EQ(back.elements.size(), 3U);
+        EXPECT_EQ(back.elements[2].points, symbol.elements[2].points);
+        memory_.readAtMost = SIZE_MAX;
+    }
+    memory_.files[u"plan/lang.wsc"] = "BLT 1 2 3 4 5\n";
+    for (int i = 0; i < 100000; ++i)
+        memory_.files[u"plan/lang.wsc"] += "STR F=1 0 0 0 0 1 2 3 4\n";
+    Symbol import = At(u"plan/lang.wsc", {});
+    EXPECT_EQ(Read(import), Caught());
+    EXPECT_EQ(import.elements.size(), 100000U);
 }
 
 TEST_F(SymbolFile, ReadingAsksOnlyToOpen) {

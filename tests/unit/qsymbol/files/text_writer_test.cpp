@@ -34,6 +34,30 @@ ElementRecord Text() {
     return support::WashRoom().elements[2];
 }
 
+/// What a reader would refuse, or read as other fields.
+TEST_F(TextWriter, WhatWouldNotReadBack) {
+    ElementRecord element;
+    element.type = ElementType::Poly;
+    EXPECT_EQ(Error(element), Expected(RunTimeError::SubscriptOutOfRange)) << "no points";
+    element.type = ElementType::Arc;
+    element.points.resize(4);
+    EXPECT_EQ(Error(element), Expected(RunTimeError::SubscriptOutOfRange));
+    for (const double size : {32767.5, 40000.0, -32768.5, 1e300}) {
+        element = Text();
+        element.font->size = size;
+        EXPECT_EQ(Error(element), Expected(RunTimeError::Overflow)) << size;
+    }
+    element.font->size = 32767.4;
+    EXPECT_NE(Compose(element).find(";HEI=32767;"), std::string::npos);
+    for (const char16_t* name : {u"A;HEI=x", u"A\nB"}) {
+        element.font->name = name;
+        EXPECT_EQ(Error(element), Expected(RunTimeError::InvalidCall));
+    }
+    element = Text();
+    element.text = u"a\r\nPOLY;CNT=x";
+    EXPECT_EQ(Error(element), Expected(RunTimeError::InvalidCall));
+}
+
 TEST_F(TextWriter, WhatCannotBeComposed) {
     ElementRecord element;
     element.type = ElementType::Text;
@@ -56,6 +80,12 @@ TEST_F(TextWriter, EveryFieldComesBack) {
         back.elements[3].textAngle = expected.elements[3].textAngle;
         EXPECT_EQ(back, expected);
     }
+}
+
+TEST_F(TextWriter, CharactersOutsideTheCodePage) {
+    ElementRecord text = Text();
+    text.text = u"Ω\U0001F6BB≤√!";
+    EXPECT_NE(Compose(text).find("\"?\?\?\?!\""), std::string::npos);
 }
 
 } // namespace
