@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -51,6 +52,17 @@ void MakeNumbers(const fs::path& folder) {
         Write(folder / ("number-" + std::to_string(i)), kNumbers[i]);
 }
 
+void MakeSymbols(const fs::path& folder) {
+    fs::create_directories(folder);
+    std::mt19937 random(1);
+    for (std::size_t i = 0; i < kSeeds; ++i) {
+        std::string bytes(20 + 30 * i, '\0');
+        for (char& byte : bytes)
+            byte = static_cast<char>(random() % 256);
+        Write(folder / ("symbol-" + std::to_string(i)), bytes);
+    }
+}
+
 } // namespace
 
 /// make_seeds SAMPLES SEEDS: what the fuzzers start from, out of the sample symbols.
@@ -84,5 +96,6 @@ int main(int count, char** arguments) {
         fs::copy_file(path, seeds / "import_reader" / ("symbol-" + std::to_string(number++)),
                       fs::copy_options::overwrite_existing);
     MakeNumbers(seeds / "number_reader");
+    MakeSymbols(seeds / "symbol_writer");
     return 0;
 }

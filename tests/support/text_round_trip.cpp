@@ -1,6 +1,7 @@
 #include "support/text_round_trip.h"
 
 #include <algorithm>
+#include <cfloat>
 #include <cmath>
 #include <numbers>
 
@@ -17,39 +18,90 @@ bool HasTextForm(ElementType type) {
            type == ElementType::Text;
 }
 
-ElementRecord AfterText(ElementRecord element) {
-    if (element.type != ElementType::Text) {
-        element.text.clear();
-        element.font.reset();
+std::u16string InCodePage(const std::u16string& text, const base::CodePage& codePage) {
+    return codePage.Decode(codePage.Encode(text));
+}
+
+/// The second field of a STRING line, one quote at each end taken away.
+std::u16string TextField(const std::u16string& text) {
+    std::u16string field = u'"' + text + u'"';
+    field = field.substr(1, field.find(u';') - 1);
+    if (field.ends_with(u'"'))
+        field.pop_back();
+    return field;
+}
+
+ElementRecord AfterText(const ElementRecord& element, const base::CodePage& codePage) {
+    ElementRecord result;
+    result.type = element.type;
+    result.mainColor = element.mainColor;
+    result.points = element.points;
+    if (element.type == ElementType::Text) {
+        result.textAngle = element.textAngle;
+        result.textAlign = element.textAlign;
+        result.textBkMode = element.textBkMode;
+        result.lineClosed = element.lineClosed;
+        result.points.resize(1);
+        result.text = TextField(InCodePage(element.text, codePage));
+        result.font = element.font;
+        result.font->name = InCodePage(element.font->name, codePage);
+        result.font->size = std::round(element.font->size);
+        return result;
     }
-    if (element.type == ElementType::Poly && element.lineClosed && element.points.size() == 2) {
-        const qmath::Point a = element.points[0];
-        const qmath::Point b = element.points[1];
-        element.points = {a, {a.x, b.y}, b, {b.x, a.y}};
-    }
+    result.lineWidth = element.lineWidth;
+    if (element.type == ElementType::Poly)
+        result.lineClosed = element.lineClosed;
+    else
+        result.radius = element.radius;
     if (element.type == ElementType::Arc)
-        element.points.resize(3);
+        result.points.resize(3);
+    else
+        result.fillColor = element.fillColor;
     if (element.type == ElementType::Circle)
-        element.points.resize(1);
-    return element;
+        result.points.resize(1);
+    if (result.lineClosed && result.points.size() == 2) {
+        const qmath::Point a = result.points[0];
+        const qmath::Point b = result.points[1];
+        result.points = {a, {a.x, b.y}, b, {b.x, a.y}};
+    }
+    return result;
+}
+
+bool IsRefused(const ElementRecord& element, const base::CodePage& codePage) {
+    if (!HasTextForm(element.type))
+        return false;
+    if (element.points.empty() || (element.type == ElementType::Arc && element.points.size() > 3))
+        return true;
+    if (element.type != ElementType::Text)
+        return false;
+    return !element.font || !(std::fabs(element.textAngle) * 180 / std::numbers::pi <= DBL_MAX) ||
+           !(std::fabs(std::round(element.font->size) + 0.5) <= 32767.5) ||
+           codePage.Encode(element.text).find('\n') != std::string::npos ||
+           codePage.Encode(element.font->name).find_first_of(";\n") != std::string::npos;
 }
 
 } // namespace
 
-bool IsLostInText(const Symbol& symbol) {
-    return symbol.elements.empty() ||
-           std::any_of(symbol.elements.begin(), symbol.elements.end(), [](const ElementRecord& element) {
-               return (element.type == ElementType::Poly && element.points.empty()) ||
-                      (element.type == ElementType::Arc && element.points.size() > 3);
-           });
+bool IsRefusedAsText(const Symbol& symbol, const base::CodePage& codePage) {
+    return std::any_of(symbol.elements.begin(), symbol.elements.end(),
+                       [&](const ElementRecord& element) { return IsRefused(element, codePage); });
 }
 
-Symbol AfterText(const Symbol& symbol) {
+bool IsRefusedAsBinary(const Symbol& symbol, const base::CodePage& codePage) {
+    constexpr std::size_t kLongest = 65535;
+    return std::any_of(symbol.elements.begin(), symbol.elements.end(), [&](const ElementRecord& element) {
+        return codePage.Encode(element.text).size() > kLongest ||
+               (element.font && (codePage.Encode(element.font->name).size() > kLongest ||
+                                 !(std::fabs(std::nearbyint(element.font->size) + 0.5) <= 2147483647.5)));
+    });
+}
+
+Symbol AfterText(const Symbol& symbol, const base::CodePage& codePage) {
     Symbol result = symbol;
     result.elements.clear();
     for (const ElementRecord& element : symbol.elements)
         if (HasTextForm(element.type))
-            result.elements.push_back(AfterText(element));
+            result.elements.push_back(AfterText(element, codePage));
     result.elements.resize(symbol.elements.size());
     return result;
 }

@@ -34,6 +34,7 @@ TEST(Regressions, SeedsOfTheFuzzers) {
     Replay("tests/fuzz/seeds/binary_reader", support::BrokenBinaryPromise, 10);
     Replay("tests/fuzz/seeds/import_reader", support::BrokenImportPromise, 10);
     Replay("tests/fuzz/seeds/number_reader", support::BrokenNumberPromise, 10);
+    Replay("tests/fuzz/seeds/symbol_writer", support::BrokenSymbolPromise, 10);
 }
 
 } // namespace
