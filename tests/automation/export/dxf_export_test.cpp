@@ -154,12 +154,8 @@ TEST_F(DxfExport, FilesThatCannotBeWritten) {
     EXPECT_EQ(BytesOf(path), head);
 }
 
-TEST_F(DxfExport, AFullDisk) {
-    // Wine shows the device that is always full.
-    const std::filesystem::path full = L"Z:\\dev\\full";
-    if (!support::RunsUnderWine())
-        GTEST_SKIP() << "only Wine shows a device that is always full";
-    EXPECT_EQ(Outcome(AppendTo(Flag().Get(), full)), RunTimeError(61));
+TEST_F(DxfExport, ADevice) {
+    EXPECT_EQ(Outcome(AppendTo(Flag().Get(), L"\\\\.\\NUL")), RunTimeError(75));
 }
 
 TEST_F(DxfExport, AFileThatTheHostKeepsToItself) {

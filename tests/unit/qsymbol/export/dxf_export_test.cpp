@@ -107,9 +107,11 @@ TEST_F(DxfExport, FailuresOfARealDisk) {
 }
 
 TEST_F(DxfExport, AFullDisk) {
-    if (!std::filesystem::exists("/dev/full"))
-        GTEST_SKIP() << "no full device here";
-    EXPECT_EQ(DiskError(u"/dev/full"), Expected(RunTimeError::DiskFull));
+    memory_.files[kPath] = kHead;
+    memory_.room = kHead.size() + 10;
+    EXPECT_EQ(Error(support::WashRoom()), Expected(RunTimeError::DiskFull));
+    EXPECT_EQ(memory_.openNow, 0);
+    EXPECT_EQ(DiskError(u"/dev/full"), Expected(RunTimeError::PathFileAccess)) << "a device is no file";
 }
 
 TEST_F(DxfExport, AReadOnlyFile) {
