@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <tuple>
+
 namespace {
 
 /// How far a binary file has to be seen: to its last element, from wherever one looks.
@@ -26,14 +28,15 @@ TEST(Reach, OfABinaryFileGoesToItsLastElement) {
 }
 
 TEST(Reach, OfLinesEndsWhereTheyAreRefused) {
-    for (const auto& [reach, beginning, enough] : {std::tuple{qsymbol::TextReach, "\n\nSYM;CNT=1;", false},
-                                                   {qsymbol::TextReach, "\n\n", false},
-                                                   {qsymbol::TextReach, "SYM;1;2;3;4;5\nX\n", false},
-                                                   {qsymbol::TextReach, "SYM;1\n", true},
-                                                   {qsymbol::TextReach, "SYN", true},
-                                                   {qsymbol::WscReach, "X\nSTR 1", false},
-                                                   {qsymbol::WscReach, "X\nXYZ", false},
-                                                   {qsymbol::WscReach, "X\nXYZ\n", true}})
+    for (const auto& [reach, beginning, enough] :
+         {std::tuple{base::Reach{qsymbol::TextReach}, "\n\nSYM;CNT=1;", false},
+          {qsymbol::TextReach, "\n\n", false},
+          {qsymbol::TextReach, "SYM;1;2;3;4;5\nX\n", false},
+          {qsymbol::TextReach, "SYM;1\n", true},
+          {qsymbol::TextReach, "SYN", true},
+          {qsymbol::WscReach, "X\nSTR 1", false},
+          {qsymbol::WscReach, "X\nXYZ", false},
+          {qsymbol::WscReach, "X\nXYZ\n", true}})
         EXPECT_EQ(reach(beginning) == std::string_view(beginning).size(), enough) << beginning;
 }
 

@@ -23,6 +23,11 @@ protected:
     support::TestEnvironment world_;
 
     std::string Compose(const Symbol& symbol) { return ComposeText(symbol, world_.InMemory()); }
+    std::string Compose(const ElementRecord& element) {
+        Symbol symbol;
+        symbol.elements = {element};
+        return Compose(symbol);
+    }
     support::Caught Error(const ElementRecord& element) {
         Symbol symbol;
         symbol.elements = {element};
