@@ -7,7 +7,7 @@ find_path(STDOLE_DIR stdole2.tlb PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-win
           /usr/lib/wine/x86_64-windows /usr/lib64/wine/x86_64-windows NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH
           REQUIRED)
 set(QSYMBOL_IDL_DIR ${CMAKE_BINARY_DIR}/idl)
-file(MAKE_DIRECTORY ${QSYMBOL_IDL_DIR})
+file(MAKE_DIRECTORY ${QSYMBOL_IDL_DIR}/widl)
 
 function(type_library name)
   set(idl ${PROJECT_SOURCE_DIR}/idl/${name}.idl)
@@ -23,8 +23,9 @@ function(type_library name)
   add_custom_command(
     OUTPUT ${QSYMBOL_IDL_DIR}/${name}.tlb ${QSYMBOL_IDL_DIR}/${name}.h
     COMMAND ${widl} -t -o ${name}.tlb ${idl}
-    COMMAND ${widl} -DQSYMBOL_HEADER -h -o ${name}.h ${idl}
-    DEPENDS ${idl} ${ARGN}
+    COMMAND ${widl} -DQSYMBOL_HEADER -h -o widl/${name}.h ${idl}
+    COMMAND ${CMAKE_COMMAND} -DINPUT=widl/${name}.h -DOUTPUT=${name}.h -P ${PROJECT_SOURCE_DIR}/cmake/published_header.cmake
+    DEPENDS ${idl} ${PROJECT_SOURCE_DIR}/cmake/published_header.cmake ${ARGN}
     WORKING_DIRECTORY ${QSYMBOL_IDL_DIR}
     COMMENT "Type library ${name}"
     VERBATIM)

@@ -1,6 +1,8 @@
-# cmake -DIDL_DIR=… -DARCHITECTURE=amd64|x86 -DQMATH_VERSION=… -DQSYMBOL_VERSION=… -DOUTPUT=… -P manifest.cmake
+# cmake -DIDL_DIR=… -DARCHITECTURE=amd64|x86 -DQMATH_VERSION=… -DQSYMBOL_VERSION=… -DOUTPUT=…
+#       -DSIBLING=… -P manifest.cmake
 # Writes the side-by-side assembly that lets a host use both DLLs without registration. The contracts are the
-# only source of class ids, so the manifest cannot drift from them.
+# only source of class ids, so the manifest cannot drift from them. SIBLING is a resource of QSymbol.dll: by it the
+# DLL finds the type library of an unregistered QMath.dll beside it.
 
 set(files "")
 set(proxies "")
@@ -16,6 +18,9 @@ foreach(library QMath QSymbol)
   set(version ${${upper}_VERSION})
   string(APPEND files "  <file name=\"${library}.dll\">\n"
          "    <typelib tlbid=\"{${type_library}}\" version=\"${version}\" helpdir=\"\"/>\n")
+  if(library STREQUAL "QMath")
+    set(sibling "${files}")
+  endif()
   # A class that clients may not create has "noncreatable" behind its help string and gets no entry.
   string(REGEX MATCHALL "<uuid\\([0-9a-f-]+\\), helpstring\\(\"[^\"]*\"\\)>[ \n]+coclass C[A-Za-z]+" classes "${idl}")
   foreach(class IN LISTS classes)
@@ -32,8 +37,13 @@ foreach(library QMath QSymbol)
   endforeach()
 endforeach()
 
-file(WRITE ${OUTPUT} "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>
+function(write_assembly output name content)
+  file(WRITE ${output} "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>
 <assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">
-  <assemblyIdentity type=\"win32\" name=\"QSymbol.X\" version=\"${QSYMBOL_VERSION}.0.0\" processorArchitecture=\"${ARCHITECTURE}\"/>
-${files}${proxies}</assembly>
+  <assemblyIdentity type=\"win32\" name=\"${name}\" version=\"${QSYMBOL_VERSION}.0.0\" processorArchitecture=\"${ARCHITECTURE}\"/>
+${content}</assembly>
 ")
+endfunction()
+
+write_assembly(${OUTPUT} QSymbol.X "${files}${proxies}")
+write_assembly(${SIBLING} QSymbol.Sibling "${sibling}  </file>\n")

@@ -39,6 +39,7 @@ declare -A PACKAGES=(
     [linux]="$COMPILING g++"
     [native]="$COMPILING g++ googletest libdime-dev libdxflib-dev"
     [gcov]="$COMPILING g++ googletest gcovr"
+    [tsan]="$COMPILING g++"
     [release]="$COMPILING python3 g++ libbenchmark-dev libdime-dev libdxflib-dev"
     [fuzz]="$COMPILING clang libclang-rt-14-dev"
     [mingw-x64]="$CROSS_COMPILING"

@@ -38,7 +38,7 @@ HRESULT GetClassObject(REFCLSID clsid, REFIID iid, void** object) {
     if (object == nullptr)
         return E_POINTER;
     *object = nullptr;
-    for (const ClassEntry& entry : TheModule().GetIdentity().classes) {
+    for (const ClassEntry& entry : TheModule().Classes()) {
         if (clsid != *entry.clsid)
             continue;
         const auto factory = ComPtr<IClassFactory>::Attach(new (std::nothrow) ClassFactory(entry));

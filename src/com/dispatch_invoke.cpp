@@ -115,12 +115,8 @@ HRESULT InvokeMember(const DispatchTable& table, IDispatch* object, DISPID id, L
 
     // Also after a failure: AppendRef empties the caller's variable in any case.
     const HRESULT given = GiveBack(taken, map, locale, argumentError);
-    if (FAILED(status)) {
-        if (exception == nullptr)
-            return status;
-        FillException(exception, status);
-        return DISP_E_EXCEPTION;
-    }
+    if (FAILED(status))
+        return FailedInvoke(status, exception);
     if (FAILED(given))
         return given;
     if (result != nullptr) {
@@ -128,6 +124,13 @@ HRESULT InvokeMember(const DispatchTable& table, IDispatch* object, DISPID id, L
         V_VT(returned.Get()) = VT_EMPTY;
     }
     return S_OK;
+}
+
+HRESULT FailedInvoke(HRESULT status, EXCEPINFO* exception) {
+    if (exception == nullptr)
+        return status;
+    FillException(exception, status);
+    return DISP_E_EXCEPTION;
 }
 
 } // namespace com

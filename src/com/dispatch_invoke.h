@@ -12,4 +12,8 @@ namespace com {
 HRESULT InvokeMember(const DispatchTable& table, IDispatch* object, DISPID id, LCID locale, WORD flags,
                      DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* exception, UINT* argumentError);
 
+/// What Invoke answers after a failure with the thread's error info: the caller's exception filled in, or the
+/// plain status where the caller wants none.
+HRESULT FailedInvoke(HRESULT status, EXCEPINFO* exception);
+
 } // namespace com

@@ -1,13 +1,31 @@
 #include "com/dispatch_table.h"
 
 #include "com/error_info.h"
+#include "com/exclusive_lock.h"
 #include "com/module.h"
+#include "com/referenced_type.h"
 
 #include <memory>
 
 namespace com {
 
 namespace {
+
+/// The description of a function, given back at its end.
+class Function {
+public:
+    Function(ITypeInfo& info, UINT index) : info_(info) { Check(info.GetFuncDesc(index, &description_)); }
+    Function(const Function&) = delete;
+    Function& operator=(const Function&) = delete;
+    ~Function() { info_.ReleaseFuncDesc(description_); }
+
+    const FUNCDESC* Get() const { return description_; }
+    const FUNCDESC* operator->() const { return description_; }
+
+private:
+    ITypeInfo& info_;
+    FUNCDESC* description_ = nullptr;
+};
 
 /// The value type behind pointers and names of types, and how many pointers lead to it.
 void Resolve(ITypeInfo* info, const TYPEDESC& type, DispatchParameter& parameter, int& pointers) {
@@ -25,8 +43,7 @@ void Resolve(ITypeInfo* info, const TYPEDESC& type, DispatchParameter& parameter
         parameter.iid = type.vt == VT_UNKNOWN ? IID_IUnknown : IID_IDispatch;
         return;
     }
-    ComPtr<ITypeInfo> target;
-    Check(info->GetRefTypeInfo(type.hreftype, target.Put()));
+    const ComPtr<ITypeInfo> target = ReferencedType(info, type.hreftype);
     TYPEATTR* attributes = nullptr;
     Check(target->GetTypeAttr(&attributes));
     const auto release = [&](TYPEATTR* held) { target->ReleaseTypeAttr(held); };
@@ -81,39 +98,57 @@ DispatchMember Describe(ITypeInfo* info, const FUNCDESC& function) {
 } // namespace
 
 DispatchTable::DispatchTable(REFIID iid) {
-    Check(TheModule().TypeLibrary().GetTypeInfoOfGuid(iid, typeInfo_.Put()));
-    // The other half of a dual interface: the vtable with status codes and results.
+    ITypeLib& library = TheModule().TypeLibrary();
+    const ExclusiveLock lock(TheModule().TypeLock());
+    Check(library.GetTypeInfoOfGuid(iid, typeInfo_.Put()));
     HREFTYPE vtableRef = 0;
-    ComPtr<ITypeInfo> vtable;
     Check(typeInfo_->GetRefTypeOfImplType(static_cast<UINT>(-1), &vtableRef));
-    Check(typeInfo_->GetRefTypeInfo(vtableRef, vtable.Put()));
+    Check(typeInfo_->GetRefTypeInfo(vtableRef, vtable_.Put()));
     TYPEATTR* attributes = nullptr;
-    Check(vtable->GetTypeAttr(&attributes));
+    Check(vtable_->GetTypeAttr(&attributes));
     const WORD count = attributes->cFuncs;
-    vtable->ReleaseTypeAttr(attributes);
+    vtable_->ReleaseTypeAttr(attributes);
+    entries_ = std::vector<Entry>(count);
     for (WORD i = 0; i < count; ++i) {
-        FUNCDESC* function = nullptr;
-        Check(vtable->GetFuncDesc(i, &function));
-        const auto release = [&](FUNCDESC* held) { vtable->ReleaseFuncDesc(held); };
-        const std::unique_ptr<FUNCDESC, decltype(release)> owner(function, release);
-        members_.push_back(Describe(vtable.Get(), *function));
+        const Function function(*vtable_.Get(), i);
+        entries_[i].id = function->memid;
+        entries_[i].kind = function->invkind;
     }
+}
+
+HRESULT DispatchTable::IdsOfNames(LPOLESTR* names, UINT count, DISPID* ids) const {
+    const ExclusiveLock lock(TheModule().TypeLock());
+    return typeInfo_->GetIDsOfNames(names, count, ids);
 }
 
 const DispatchMember* DispatchTable::Find(DISPID id, WORD flags) const {
     constexpr WORD kReads = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
     constexpr WORD kWrites = DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
-    const DispatchMember* similar = nullptr;
-    for (const DispatchMember& member : members_) {
-        if (member.id != id)
+    std::size_t similar = entries_.size();
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+        const Entry& entry = entries_[i];
+        if (entry.id != id)
             continue;
-        if ((member.kind & flags) != 0)
-            return &member;
+        if ((entry.kind & flags) != 0)
+            return Described(i);
         const WORD group = (flags & kWrites) != 0 ? kWrites : kReads;
-        if ((member.kind & group) != 0)
-            similar = &member;
+        if ((entry.kind & group) != 0)
+            similar = i;
     }
-    return similar;
+    return similar < entries_.size() ? Described(similar) : nullptr;
+}
+
+const DispatchMember* DispatchTable::Described(std::size_t index) const {
+    Entry& entry = entries_[index];
+    if (const DispatchMember* const known = entry.member.load(std::memory_order_acquire))
+        return known;
+    const ExclusiveLock lock(TheModule().TypeLock());
+    if (!entry.owner) {
+        const Function function(*vtable_.Get(), static_cast<UINT>(index));
+        entry.owner = std::make_unique<const DispatchMember>(Describe(vtable_.Get(), *function.Get()));
+        entry.member.store(entry.owner.get(), std::memory_order_release);
+    }
+    return entry.owner.get();
 }
 
 } // namespace com

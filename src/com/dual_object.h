@@ -73,20 +73,24 @@ public:
             return DISP_E_BADINDEX;
         return Guard(__uuidof(Interface), [&] { *info = ComPtr<ITypeInfo>(Table().TypeInfo()).Detach(); });
     }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+    STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+        if (reserved != IID_NULL)
+            return DISP_E_UNKNOWNINTERFACE;
         HRESULT status = E_FAIL;
-        const HRESULT guarded = Guard(__uuidof(Interface),
-                                      [&] { status = Table().TypeInfo()->GetIDsOfNames(names, count, ids); });
+        const HRESULT guarded =
+            Guard(__uuidof(Interface), [&] { status = Table().IdsOfNames(names, count, ids); });
         return FAILED(guarded) ? guarded : status;
     }
-    STDMETHODIMP Invoke(DISPID id, REFIID, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* result,
-                        EXCEPINFO* exception, UINT* argumentError) override {
+    STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* arguments,
+                        VARIANT* result, EXCEPINFO* exception, UINT* argumentError) override {
+        if (reserved != IID_NULL)
+            return DISP_E_UNKNOWNINTERFACE;
         HRESULT status = E_FAIL;
         const HRESULT guarded = Do([&] {
             status = InvokeMember(Table(), static_cast<Interface*>(this), id, locale, flags, arguments,
                                   result, exception, argumentError);
         });
-        return FAILED(guarded) ? guarded : status;
+        return FAILED(guarded) ? FailedInvoke(guarded, exception) : status;
     }
 
     STDMETHODIMP InterfaceSupportsErrorInfo(REFIID iid) override {

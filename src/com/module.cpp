@@ -1,6 +1,7 @@
 #include "com/module.h"
 
 #include "com/error_info.h"
+#include "com/exclusive_lock.h"
 
 #include <algorithm>
 
@@ -44,9 +45,17 @@ void Module::Stop() {
 }
 
 ITypeLib& Module::TypeLibrary() {
+    const ExclusiveLock lock(types_);
     if (!typeLibrary_)
         Check(LoadTypeLibEx(Path().c_str(), REGKIND_NONE, typeLibrary_.Put()));
     return *typeLibrary_.Get();
+}
+
+void ThrowSiblingMissing(HRESULT status) {
+    const std::u16string sibling(TheModule().Sibling());
+    throw base::Error::FromStatus(static_cast<std::uint32_t>(status), {},
+                                  sibling + u" ist nicht registriert und liegt nicht neben " +
+                                      std::u16string(TheModule().Name()) + u".dll");
 }
 
 } // namespace com

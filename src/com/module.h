@@ -20,11 +20,8 @@ class Module {
 public:
     struct Identity {
         std::u16string_view name; ///< the library's name, source of run-time errors
-        const GUID* typeLibrary;
-        WORD major;
-        WORD minor;
-        LCID locale;
         std::span<const ClassEntry> classes;
+        std::u16string_view sibling = {}; ///< file name of the DLL whose types and classes this one uses
         /// Called when the last object of a thread goes, and when the system asks whether the DLL may: each
         /// may be missing.
         void (*threadIsIdle)() noexcept = nullptr;
@@ -37,14 +34,17 @@ public:
 
     HINSTANCE Instance() const { return instance_; }
     std::u16string_view Name() const { return identity_.name; }
-    const Identity& GetIdentity() const { return identity_; }
+    std::span<const ClassEntry> Classes() const { return identity_.classes; }
+    std::u16string_view Sibling() const { return identity_.sibling; }
     /// Full path of the DLL; empty when the system does not tell.
     std::wstring Path() const { return platform::ModulePath(instance_); }
     /// Folder of the DLL with a backslash at its end.
     std::wstring Folder() const { return platform::ModuleFolder(instance_); }
 
-    /// The type library from the DLL's own resource, loaded once.
+    /// The type library from the DLL's own resource, loaded once, whichever thread comes first.
     ITypeLib& TypeLibrary();
+    /// Held while a description is read: not every system's type descriptions are made for several threads.
+    SRWLOCK& TypeLock() { return types_; }
 
     void Lock() { ++locks_; }
     void Unlock() { --locks_; }
@@ -57,11 +57,15 @@ public:
 private:
     HINSTANCE instance_ = nullptr;
     Identity identity_{};
+    SRWLOCK types_ = SRWLOCK_INIT;
     ComPtr<ITypeLib> typeLibrary_;
     std::atomic<long> locks_ = 0;
 };
 
 /// The module of the DLL that this code is linked into.
 Module& TheModule();
+
+/// Throws what a client can do about a sibling DLL that is neither registered nor beside this one.
+[[noreturn]] void ThrowSiblingMissing(HRESULT status);
 
 } // namespace com

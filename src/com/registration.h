@@ -10,7 +10,8 @@ RegistrationScope AllowedScope();
 /// Enters the module's classes and its type library; throws where the registry refuses.
 void Register(RegistrationScope scope);
 
-/// Takes everything out that Register enters; what is not there is no failure.
+/// Takes everything out that Register enters, but for what the other bitness still needs; what is not there
+/// is no failure. Throws where the registry refuses.
 void Unregister(RegistrationScope scope);
 
 } // namespace com

@@ -10,7 +10,7 @@ namespace com {
 
 BOOL ServerMain(HINSTANCE instance, DWORD reason, void* reserved, const Module::Identity& identity) {
     if (reason == DLL_PROCESS_ATTACH) {
-        DisableThreadLibraryCalls(instance);
+        // The ends of threads stay announced: the run-time frees what a thread had of its own.
         TheModule().Start(instance, identity);
     } else if (reason == DLL_PROCESS_DETACH && reserved == nullptr) {
         TheModule().Stop();
@@ -33,21 +33,23 @@ STDAPI DllRegisterServer() {
 }
 
 STDAPI DllUnregisterServer() {
-    return com::Guard(IID_IUnknown, [] {
-        com::Unregister(com::RegistrationScope::User);
-        if (com::AllowedScope() == com::RegistrationScope::Machine)
-            com::Unregister(com::RegistrationScope::Machine);
-    });
+    // One that cannot be removed must not keep the other.
+    const auto remove = [](com::RegistrationScope scope) {
+        return com::Guard(IID_IUnknown, [&] { com::Unregister(scope); });
+    };
+    const HRESULT user = remove(com::RegistrationScope::User);
+    const HRESULT machine = remove(com::RegistrationScope::Machine);
+    return FAILED(user) ? user : machine;
 }
 
 /// regsvr32 /n /i:user registers for the user alone, also from an elevated process.
 STDAPI DllInstall(BOOL install, LPCWSTR commandLine) {
+    if (commandLine == nullptr || _wcsicmp(commandLine, L"user") != 0)
+        return install != FALSE ? DllRegisterServer() : DllUnregisterServer();
     return com::Guard(IID_IUnknown, [&] {
-        const bool user = commandLine != nullptr && _wcsicmp(commandLine, L"user") == 0;
-        const com::RegistrationScope scope = user ? com::RegistrationScope::User : com::AllowedScope();
         if (install != FALSE)
-            com::Register(scope);
+            com::Register(com::RegistrationScope::User);
         else
-            com::Unregister(scope);
+            com::Unregister(com::RegistrationScope::User);
     });
 }

@@ -2,17 +2,18 @@
 
 #include "base/error.h"
 
+#include <atomic>
 #include <cmath>
 
 namespace {
 
 /// Logical units in a unit that the user sees: one for the process, as the settings are global.
-double g_unitFactor = 100;
+std::atomic<double> g_unitFactor = 100;
 
 } // namespace
 
 STDMETHODIMP CSettings::get_UnitFactor(double* value) {
-    return Return(value, [&] { return g_unitFactor; });
+    return Return(value, [&] { return g_unitFactor.load(); });
 }
 
 STDMETHODIMP CSettings::put_UnitFactor(double value) {

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr GUID kTypeLibrary = {0x921c6a60, 0xaf38, 0x4f8e, {0xb4, 0x38, 0x0b, 0x5c, 0x3c, 0x9b, 0x43, 0x14}};
-
 const com::ClassEntry kClasses[] = {
     {&__uuidof(CTrans), L"CTrans", L"QMath.CTrans", CTrans::CreateInstance},
     {&__uuidof(CPt), L"CPt", L"QMath.CPt", CPt::CreateInstance},
@@ -30,11 +28,5 @@ const com::ClassEntry kClasses[] = {
 } // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* reserved) {
-    return com::ServerMain(instance, reason, reserved,
-                           {.name = u"QMath",
-                            .typeLibrary = &kTypeLibrary,
-                            .major = 1,
-                            .minor = 0,
-                            .locale = 0x409,
-                            .classes = kClasses});
+    return com::ServerMain(instance, reason, reserved, {.name = u"QMath", .classes = kClasses});
 }

@@ -8,6 +8,7 @@
 #include "automation/qsymbol/last_factors.h"
 #include "automation/qsymbol/library.h"
 #include "automation/qsymbol/math_objects.h"
+#include "automation/qsymbol/symbol_access.h"
 #include "automation/shared/point_access.h"
 #include "com/bstr.h"
 #include "platform/win32/gdi_text_measure.h"
@@ -24,17 +25,11 @@
 
 namespace {
 
-/// All elements of a collection as records. Error 9 for an empty collection.
-qsymbol::ElementList ToRecords(_CSymElementColl& elements) {
-    const LONG count = com::Get(elements, &_CSymElementColl::get_Count);
-    if (count < 1)
+/// The records of elements that make a symbol. Error 9 for an empty collection.
+qsymbol::ElementList Records(_CSymElementColl& elements) {
+    qsymbol::ElementList records = ToRecords(elements);
+    if (records.empty())
         base::Raise(base::RunTimeError::SubscriptOutOfRange);
-    qsymbol::ElementList records;
-    for (LONG i = 1; i <= count; ++i) {
-        com::ComPtr<_CSymElement> element;
-        com::Call(elements, &_CSymElementColl::get_ItemByPos, i, element.Put());
-        records.push_back(ToRecord(com::Required(element.Get())));
-    }
     return records;
 }
 
@@ -110,7 +105,7 @@ STDMETHODIMP CSymbol::CreateNew(LONG lRefX, LONG lRefY, LONG lWidth, LONG lHeigh
         Edit().width = lWidth;
         Edit().height = lHeight;
         // The records are complete before the old ones go: the elements are objects of the host and may fail.
-        Edit().elements = SymElements == nullptr ? qsymbol::ElementList() : ToRecords(*SymElements);
+        Edit().elements = SymElements == nullptr ? qsymbol::ElementList() : Records(*SymElements);
     });
 }
 

@@ -4,6 +4,7 @@
 #include "automation/qsymbol/library.h"
 #include "automation/qsymbol/name_list.h"
 #include "automation/qsymbol/object_list.h"
+#include "automation/qsymbol/symbol_access.h"
 #include "automation/qsymbol/symbol_selection.h"
 #include "com/bstr.h"
 #include "qsymbol/catalog/catalog_loader.h"
@@ -62,12 +63,8 @@ STDMETHODIMP CSymbolColl::ItemDa(BSTR stName, VARIANT_BOOL* value) {
 
 STDMETHODIMP CSymbolColl::Append(_CSymbol* o) {
     return Do([&] {
-        const com::ComPtr<CSymbol> source = com::Own<CSymbol>(com::Required(o));
-        if (!source)
-            base::Raise(base::RunTimeError::TypeMismatch);
-        qsymbol::Symbol copy;
-        qsymbol::CopySymbol(copy, *source->Value());
-        Add(std::move(copy));
+        const com::ComPtr<_CSymbol> source(&com::Required(o));
+        Add(CopyOf(*source.Get()));
     });
 }
 

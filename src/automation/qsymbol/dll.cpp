@@ -5,11 +5,8 @@
 #include "automation/qsymbol/CSymbolColl.h"
 #include "automation/qsymbol/math_library.h"
 #include "com/server.h"
-#include "qsymbol/draw/screen_point_buffer.h"
 
 namespace {
-
-constexpr GUID kTypeLibrary = {0x4dbebc97, 0x50a7, 0x4d1c, {0x8e, 0x5b, 0x53, 0xd6, 0x4f, 0x24, 0x06, 0x7b}};
 
 /// CSymInput is missing on purpose: it comes from a catalogue only.
 const com::ClassEntry kClasses[] = {
@@ -24,15 +21,10 @@ const com::ClassEntry kClasses[] = {
 } // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* reserved) {
-    if (reason == DLL_PROCESS_ATTACH)
-        qsymbol::ScreenPointBuffer::Shared().Reset();
     return com::ServerMain(instance, reason, reserved,
                            {.name = u"QSymbol",
-                            .typeLibrary = &kTypeLibrary,
-                            .major = 4,
-                            .minor = 1,
-                            .locale = 0x409,
                             .classes = kClasses,
+                            .sibling = u"QMath.dll",
                             .threadIsIdle = math_library::GiveUp,
                             .mayUnload = math_library::Unload});
 }

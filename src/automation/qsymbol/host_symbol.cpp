@@ -2,6 +2,7 @@
 
 #include "automation/qsymbol/host_target.h"
 #include "automation/qsymbol/last_factors.h"
+#include "automation/qsymbol/symbol_access.h"
 #include "qsymbol/draw/symbol_drawing.h"
 
 #include <utility>
@@ -30,9 +31,5 @@ void HostSymbol::Draw(const qsymbol::SymbolPosition& place, qsymbol::DrawingTarg
 }
 
 std::shared_ptr<const qsymbol::DrawableSymbol> HostSymbol::Copy() const {
-    if (!own_)
-        base::Raise(base::RunTimeError::TypeMismatch);
-    qsymbol::Symbol copy;
-    qsymbol::CopySymbol(copy, *own_->Value());
-    return Share(CSymbol::CreateFrom(std::move(copy)).Get());
+    return Share(CSymbol::CreateFrom(CopyOf(*symbol_.Get())).Get());
 }

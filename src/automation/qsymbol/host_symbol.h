@@ -11,7 +11,7 @@ public:
     static std::shared_ptr<const HostSymbol> Share(_CSymbol* symbol);
 
     void Draw(const qsymbol::SymbolPosition& place, qsymbol::DrawingTarget& target) const override;
-    /// Error 13 for a symbol of the host's own making.
+    /// Errors of a symbol of the host's own making that does not tell what a copy needs.
     std::shared_ptr<const qsymbol::DrawableSymbol> Copy() const override;
 
 private:

@@ -4,16 +4,16 @@ namespace last_factors {
 
 namespace {
 
-qsymbol::DrawFactors g_last;
+thread_local qsymbol::DrawFactors t_last; // without a destructor: threads end without calling one
 
 } // namespace
 
 void Keep(const qsymbol::DrawFactors& factors) {
-    g_last = factors;
+    t_last = factors;
 }
 
 double Screen() {
-    return g_last.screen;
+    return t_last.screen;
 }
 
 } // namespace last_factors

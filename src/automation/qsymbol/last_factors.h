@@ -2,7 +2,7 @@
 
 #include "qsymbol/geometry/draw_factors.h"
 
-/// The factors of the last symbol drawing of the process. The only state that drawing leaves behind: the core
+/// The factors of the last symbol drawing of this thread. The only state that drawing leaves behind: the core
 /// is handed what it needs.
 namespace last_factors {
 

@@ -15,22 +15,20 @@ namespace library {
 
 namespace {
 
-/// Nothing until the first class that needs it initialises it; never released.
-platform::ResourceLibrary* g_resourceReader = nullptr;
-
+/// Made when the first class that needs it initialises it, by whichever thread; never released.
 platform::ResourceLibrary& Resources() {
-    EnsureResources();
-    return *g_resourceReader;
+    static platform::ResourceLibrary& reader = *[] {
+        auto opened = std::make_unique<platform::ResourceLibrary>();
+        opened->OpenResourceFile(com::TheModule().Folder(), L"QRes.dll");
+        return opened.release();
+    }();
+    return reader;
 }
 
 } // namespace
 
 void EnsureResources() {
-    if (g_resourceReader != nullptr)
-        return;
-    auto reader = std::make_unique<platform::ResourceLibrary>();
-    reader->OpenResourceFile(com::TheModule().Folder(), L"QRes.dll");
-    g_resourceReader = reader.release();
+    Resources();
 }
 
 messages::UserPrompt& Prompt() {

@@ -31,11 +31,16 @@ Function* Entry(HMODULE module, const char* name) {
 using GetClassObject = HRESULT STDAPICALLTYPE(REFCLSID, REFIID, void**);
 using CanUnloadNow = HRESULT STDAPICALLTYPE();
 
+std::wstring SiblingPath() {
+    const std::u16string_view name = com::TheModule().Sibling();
+    return com::TheModule().Folder() + std::wstring(name.begin(), name.end());
+}
+
 /// The class object of the DLL beside this one; empty without such a DLL.
 com::ComPtr<IClassFactory> SiblingClassObject(REFCLSID clsid) {
     const com::ExclusiveLock lock(g_siblingLock);
     if (g_sibling == nullptr)
-        g_sibling = LoadLibraryW((com::TheModule().Folder() + L"QMath.dll").c_str());
+        g_sibling = LoadLibraryW(SiblingPath().c_str());
     com::ComPtr<IClassFactory> factory;
     if (auto* const get =
             g_sibling == nullptr ? nullptr : Entry<GetClassObject>(g_sibling, "DllGetClassObject"))
@@ -50,7 +55,7 @@ com::ComPtr<IClassFactory> Find(REFCLSID clsid) {
     if (FAILED(status))
         factory = SiblingClassObject(clsid);
     if (!factory)
-        com::ThrowSystemFailure(status);
+        com::ThrowSiblingMissing(status);
     return factory;
 }
 

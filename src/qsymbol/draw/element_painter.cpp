@@ -53,7 +53,7 @@ void ElementPainter::PaintPoly(const ElementRecord& element) {
     pen_.ForeColor(Colour(element.mainColor));
     PutPen(element, element.lineClosed && element.fillColor >= 0);
 
-    const ScreenPointBuffer::Lease buffer(ScreenPointBuffer::Shared(), element.points.size());
+    const ScreenPointBuffer buffer(element.points.size());
     ToScreen(element.points, buffer.Points());
     // An editor's element is output without its last point.
     const std::size_t kept =
@@ -71,7 +71,7 @@ void ElementPainter::PaintRound(const ElementRecord& element) {
     PutPen(element, isCircle && element.fillColor >= 0);
 
     const std::size_t count = PointCount(element.type);
-    const ScreenPointBuffer::Lease buffer(ScreenPointBuffer::Shared(), 4);
+    const ScreenPointBuffer buffer(4);
     const std::span<qmath::Point> points = buffer.Points();
     const std::span<const qmath::Point> own(element.points);
     ToScreen(own.first(1), points.first(1));
@@ -113,7 +113,7 @@ void ElementPainter::PaintText(const ElementRecord& element) {
         font_.Select(FontFor(element));
     else
         font_.Release();
-    const ScreenPointBuffer::Lease buffer(ScreenPointBuffer::Shared(), 1);
+    const ScreenPointBuffer buffer(1);
     ToScreen(std::span(element.points).first(1), buffer.Points());
     if (copyMode)
         surface_.WriteText(buffer.Points()[0], element.text);

@@ -5,7 +5,7 @@
 namespace qsymbol {
 
 const Turn& TurnBy(double angle) {
-    static Turn last;
+    thread_local Turn last;
     if (angle != last.angle)
         last = {angle, std::sin(angle), std::cos(angle)};
     return last;

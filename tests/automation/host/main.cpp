@@ -1,3 +1,4 @@
+#include "host/scenarios.h"
 #include "support/automation_test.h"
 #include "support/dialog_user.h"
 #include "support/message_boxes.h"
@@ -92,7 +93,9 @@ int main(int argc, char** argv) {
                                                          {"catalogue", TellCatalogueBox},
                                                          {"rename", TellMessagesAroundARename},
                                                          {"captions", TellCaptions},
-                                                         {"choose", Choose}};
+                                                         {"choose", Choose},
+                                                         {"alone", TellLateBinding},
+                                                         {"threads", TellThreads}};
     testing::InitGoogleTest();
     if (argc < 2 || argc > 3 || !scenarios.contains(argv[1]) ||
         (argc == 3 && SetCurrentDirectoryA(argv[2]) == FALSE) ||

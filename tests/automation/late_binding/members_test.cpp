@@ -38,6 +38,18 @@ TEST_F(LateBoundMembers, UnknownIdsAndKinds) {
     EXPECT_OK(symbol.Put(L"Etagenbreite", 1).status);
 }
 
+TEST_F(LateBoundMembers, TheReservedInterfaceIdMustBeNull) {
+    wchar_t text[] = L"FilePath";
+    LPOLESTR name = text;
+    DISPID id = 0;
+    EXPECT_EQ(symbol.Object()->GetIDsOfNames(IID_IDispatch, &name, 1, 0, &id), DISP_E_UNKNOWNINTERFACE);
+    DISPPARAMS none{};
+    Value result;
+    EXPECT_EQ(symbol.Object()->Invoke(symbol.Id(L"FilePath"), IID_IDispatch, 0, DISPATCH_PROPERTYGET, &none,
+                                      result.Raw(), nullptr, nullptr),
+              DISP_E_UNKNOWNINTERFACE);
+}
+
 TEST_F(LateBoundMembers, AreCalledAsMethodOrProperty) {
     EXPECT_OK(element.Put(L"Radius", 7).status);
     EXPECT_EQ(element.Call(L"Radius").value.Long(), 7) << "a property as a method";

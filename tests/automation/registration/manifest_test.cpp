@@ -1,5 +1,8 @@
 #include "support/automation_test.h"
+#include "support/host_program.h"
 #include "support/servers.h"
+
+#include <gmock/gmock.h>
 
 namespace {
 
@@ -70,6 +73,31 @@ TEST_F(WithoutRegistration, TheLibrariesFindEachOther) {
     ASSERT_TRUE(bounds);
     EXPECT_EQ(bounds.Get(L"Left").value.Long(), 10);
     EXPECT_EQ(bounds.Get(L"Top").value.Long(), 20);
+}
+
+/// A folder with a host, and "lib" in it with copies of the DLLs.
+std::vector<std::string> LateBinding(const std::vector<std::wstring>& dlls) {
+    const support::HostProgram host(L"Planer.exe");
+    const std::wstring library = host.Folder() / L"lib";
+    EXPECT_NE(CreateDirectoryW(library.c_str(), nullptr), FALSE);
+    for (const std::wstring& dll : dlls)
+        EXPECT_NE(CopyFileW((support::ProgramFolder() + dll).c_str(), (library + L'\\' + dll).c_str(), TRUE),
+                  FALSE);
+    const std::vector<std::string> lines = host.Run(L"alone");
+    for (const std::wstring& dll : dlls)
+        EXPECT_NE(DeleteFileW((library + L'\\' + dll).c_str()), FALSE);
+    EXPECT_NE(RemoveDirectoryW(library.c_str()), FALSE);
+    return lines;
+}
+
+TEST_F(WithoutRegistration, LateBindingFindsTheTypesOfTheDllBeside) {
+    EXPECT_THAT(LateBinding({L"QSymbol.dll", L"QMath.dll"}),
+                testing::ElementsAre("WC", "done", "False", "done"));
+}
+
+TEST_F(WithoutRegistration, TheTextNamesTheMissingDll) {
+    const std::string missing = "QMath.dll ist nicht registriert und liegt nicht neben QSymbol.dll";
+    EXPECT_THAT(LateBinding({L"QSymbol.dll"}), testing::ElementsAre("WC", missing, missing));
 }
 
 } // namespace

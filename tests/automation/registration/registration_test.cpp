@@ -1,4 +1,5 @@
 #include "support/automation_test.h"
+#include "support/import_patch.h"
 #include "support/registry.h"
 #include "support/servers.h"
 #include "support/type_description.h"
@@ -56,6 +57,14 @@ TEST_F(Registration, EntersTheTypeLibraryAndTheInterfaces) {
               L"{4DBEBC97-50A7-4D1C-8E5B-53D64F24067B}");
 }
 
+TEST_F(Registration, TheTypeLibrariesAreFoundInEveryLocale) {
+    for (const LCID locale : {0x0U, 0x7U, 0x9U, 0x407U, 0x409U, 0x809U, 0x400U, 0x800U}) {
+        Ref<ITypeLib> library;
+        EXPECT_OK(LoadRegTypeLib(LIBID_QSymbol, 4, 1, locale, library.Put())) << std::hex << locale;
+        EXPECT_OK(LoadRegTypeLib(LIBID_QMath, 1, 0, locale, library.Put())) << std::hex << locale;
+    }
+}
+
 TEST_F(Registration, LeavesNothingBehind) {
     ASSERT_OK(QSymbolServer().Unregister());
     ASSERT_OK(QMathServer().Unregister());
@@ -89,18 +98,40 @@ TEST_F(Registration, ForTheUserAlone) {
     ASSERT_FALSE(CanCreate());
     ASSERT_OK(QSymbolServer().Install(true, L"user"));
     EXPECT_TRUE(support::HasKey(HKEY_CURRENT_USER, L"Software\\Classes\\" + kSymbolClass));
-    // Wine enters type libraries for the machine only.
-    const HKEY root = support::RunsUnderWine() ? HKEY_CLASSES_ROOT : HKEY_CURRENT_USER;
-    const std::wstring prefix = support::RunsUnderWine() ? L"" : L"Software\\Classes\\";
-    EXPECT_TRUE(support::HasKey(root, prefix + kLibrary + L"\\4.1"));
+    EXPECT_TRUE(support::HasKey(HKEY_CURRENT_USER, L"Software\\Classes\\" + kLibrary + L"\\4.1"));
     EXPECT_FALSE(support::HasKey(HKEY_LOCAL_MACHINE, L"Software\\Classes\\" + kSymbolClass));
-    // Wine does not look for classes in the user's part.
+    EXPECT_FALSE(support::HasKey(HKEY_LOCAL_MACHINE, L"Software\\Classes\\" + kLibrary));
+    // Wine does not look for classes and type libraries in the user's part.
     EXPECT_NE(CanCreate(), support::RunsUnderWine());
-    EXPECT_TRUE(support::RegisteredLibrary(LIBID_QSymbol, 4, 1));
+    EXPECT_NE(static_cast<bool>(support::RegisteredLibrary(LIBID_QSymbol, 4, 1)), support::RunsUnderWine());
 
     ASSERT_OK(QSymbolServer().Install(false, L"user"));
     EXPECT_FALSE(support::HasKey(HKEY_CURRENT_USER, L"Software\\Classes\\" + kSymbolClass));
     EXPECT_FALSE(support::HasKey(HKEY_CURRENT_USER, L"Software\\Classes\\" + kLibrary));
+    EXPECT_FALSE(CanCreate());
+}
+
+/// The registry as a process without the machine's rights meets it, whoever runs the tests.
+LSTATUS WINAPI RefuseWriting(HKEY root, LPCWSTR path, DWORD options, REGSAM access, HKEY* key) {
+    if (root == HKEY_LOCAL_MACHINE && (access & KEY_SET_VALUE) != 0)
+        return ERROR_ACCESS_DENIED;
+    return RegOpenKeyExW(root, path, options, access, key);
+}
+LSTATUS WINAPI RefuseRemoving(HKEY parent, LPCWSTR name) {
+    return support::HasKey(parent, name) ? ERROR_ACCESS_DENIED : ERROR_FILE_NOT_FOUND;
+}
+
+TEST_F(Registration, TellsWhatItMayNotRemove) {
+    {
+        const support::ImportPatch write(L"QSymbol.dll", "RegOpenKeyExW",
+                                         reinterpret_cast<void*>(RefuseWriting));
+        const support::ImportPatch remove(L"QSymbol.dll", "RegDeleteTreeW",
+                                          reinterpret_cast<void*>(RefuseRemoving));
+        EXPECT_EQ(QSymbolServer().Unregister(), HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+        EXPECT_NE(support::TakeErrorInfo().description, L"");
+    }
+    EXPECT_TRUE(CanCreate());
+    EXPECT_OK(QSymbolServer().Unregister());
     EXPECT_FALSE(CanCreate());
 }
 

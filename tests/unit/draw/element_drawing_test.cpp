@@ -1,6 +1,5 @@
 #include "qsymbol/draw/element_drawing.h"
 
-#include "qsymbol/draw/screen_point_buffer.h"
 #include "support/elements.h"
 #include "support/error_number_of.h"
 #include "support/recording_surface.h"
@@ -42,19 +41,6 @@ TEST(ElementDrawing, AFailedTextReleasesItsFont) {
               }),
               438);
     EXPECT_EQ(surface.calls.back(), "ReleaseFont");
-}
-
-TEST(ElementDrawing, TheScreenPointsGrowWithTheElements) {
-    qsymbol::ScreenPointBuffer& buffer = qsymbol::ScreenPointBuffer::Shared();
-    buffer.Reset();
-    Draw(Text({0, 0}, u"a"));
-    EXPECT_EQ(buffer.UpperIndex(), 0);
-    Draw(Circle({0, 0}, 5));
-    EXPECT_EQ(buffer.UpperIndex(), 3);
-    Draw(Poly(std::vector<Point>(9)));
-    EXPECT_EQ(buffer.UpperIndex(), 8);
-    Draw(Text({0, 0}, u"a"));
-    EXPECT_EQ(buffer.UpperIndex(), 8);
 }
 
 } // namespace
