@@ -9,19 +9,8 @@
 
 namespace {
 
-using qmath::Point;
 using qsymbol::ElementRecord;
-using support::Calls;
-using support::Circle;
-using support::Poly;
 using support::Text;
-
-/// Ten world units to a pixel.
-Calls Draw(const ElementRecord& element) {
-    support::RecordingSurface surface;
-    qsymbol::DrawElement(element, surface, support::ScaledTransformation(10));
-    return surface.calls;
-}
 
 TEST(ElementDrawing, AFontSizeBeyond16BitsIsError6) {
     ElementRecord text = Text({0, 0}, u"a");
