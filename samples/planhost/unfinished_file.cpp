@@ -8,8 +8,10 @@ UnfinishedFile::UnfinishedFile(std::filesystem::path file) : file_(std::move(fil
 }
 
 UnfinishedFile::~UnfinishedFile() {
+    // A folder in the way is not ours.
     std::error_code ignored;
-    std::filesystem::remove(beside_, ignored);
+    if (std::filesystem::is_regular_file(beside_, ignored))
+        std::filesystem::remove(beside_, ignored);
 }
 
 bool UnfinishedFile::Finish() {

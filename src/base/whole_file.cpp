@@ -77,7 +77,8 @@ void WriteInPlace(FileSystem& files, const std::u16string& path, std::string_vie
     const bool existed = files.FileExists(path);
     std::unique_ptr<File> file = files.Open(path, OpenMode::Overlay);
     const std::uint64_t oldSize = file->Size();
-    const std::string_view within = bytes.substr(0, std::min<std::uint64_t>(oldSize, bytes.size()));
+    const std::string_view within =
+        bytes.substr(0, static_cast<std::size_t>(std::min<std::uint64_t>(oldSize, bytes.size())));
     try {
         if (within.size() < bytes.size()) {
             file->Seek(oldSize);

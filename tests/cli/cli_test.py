@@ -7,6 +7,7 @@ import re
 import subprocess
 import sys
 import tempfile
+from xml.etree import ElementTree
 
 PROGRAM = [os.path.abspath(word) if os.path.exists(word) else word for word in sys.argv[1:]]
 UNDER_WINE = "wine" in PROGRAM[0]
@@ -155,6 +156,41 @@ def diff_tells_changes_and_nothing_of_formats():
          "point": 2, "from": [300, 200], "to": [300, 100]}]  # fmt: skip
     assert "element 1 (poly) point 2: (3, 2) -> (3, 1)" in run("diff", "alt/Tür.syt", "neu/Tür.syt", status=1)[0]
     assert as_json("diff", "/dev/null", old, status=1) == [{"symbol": "Tür", "change": "symbol-added"}]
+
+
+def pictures_pages_and_drawings_are_made():
+    put("k/Bad/Tür & Tor.syt"), put("k/x.syt"), put("k/schlecht.syt", b"kein Symbol")
+    said = re.compile(r"qsymbol: k[/\\]schlecht\.syt: error 3501: Keine gültige Symboldatei\.\n")
+    for target, made in (("bilder", ["bilder/Bad/Tür & Tor.svg", "bilder/x.svg"]), ("seite.html", ["seite.html"]),
+                         ("plan.dxf", ["plan.dxf"])):  # fmt: skip
+        command = {"bilder": "svg", "seite.html": "gallery", "plan.dxf": "dxf"}[target]
+        out, errors = run(command, "-r", "--decimal", "point", "k", target, status=1)
+        assert said.fullmatch(errors), errors
+        first = [pathlib.Path(name).read_bytes() for name in made]
+        _, errors = run(command, "-r", "--decimal", "point", "k", target, status=1)
+        assert errors.count(": error 58: ") == len(made), errors
+        put("k/x.syt", DOOR.replace(b"3.00;2.00", b"2.00;2.00"))
+        out, errors = run(command, "-rqf", "--decimal", "point", "k", target, status=1)
+        assert out == "" and said.fullmatch(errors), (out, errors)
+        assert pathlib.Path(made[-1]).read_bytes() != first[-1]
+        put("k/x.syt")
+        assert not [path.name for path in pathlib.Path(".").rglob("*") if path.suffix in (".new", ".neu", ".tmp")]
+    picture = ElementTree.parse("bilder/Bad/Tür & Tor.svg").getroot()
+    assert picture.get("width", "").endswith("mm") and "Tür" in "".join(picture.itertext())
+    page = pathlib.Path("seite.html").read_text(encoding="utf-8")
+    assert "Tür &amp; Tor" in page and "Tür & Tor" not in page and not re.search(r"(src|href)=.https?:", page)
+    units = {}
+    for unit in ("mm", "cm", "m"):
+        run("dxf", "-f", "--decimal", "point", "--units", unit, "k/x.syt", "plan.dxf")
+        words = pathlib.Path("plan.dxf").read_text(encoding="latin-1").split()
+        units[unit] = words[words.index("$INSUNITS") + 2]
+        assert words[words.index("$ACADVER") + 2] == "AC1018" and words.count("INSERT") == 1
+    assert units == {"mm": "4", "cm": "5", "m": "6"}
+    for wrong in (("gallery", "k", "seite.txt"), ("dxf", "k/x.syt", "plan.txt"), ("dxf", "--units", "km", "k", "p.dxf"), ("svg", "k")):
+        run(*wrong, status=2)
+    for command, target in (("svg", "leer"), ("dxf", "nix.dxf")):
+        _, errors = run(command, "fehlt.syt", target, status=1)
+        assert errors == "qsymbol: fehlt.syt: error 53: Datei nicht gefunden\n", errors
 
 
 def wrong_usage_is_status_2():

@@ -77,6 +77,11 @@ HRESULT STDAPICALLTYPE FillInLate(EXCEPINFO* exception) {
     return S_OK;
 }
 
+HRESULT STDAPICALLTYPE FillInRefusal(EXCEPINFO* exception) {
+    Raise(exception, 450, L"Plan", L"Falsche Anzahl");
+    return S_OK;
+}
+
 class ForeignSurface : public support::AutomationTest {
 protected:
     Failure Draw() const {
@@ -195,10 +200,7 @@ TEST_F(ForeignSurface, RefusedArgumentsAreToldInManyForms) {
         },
         [](EXCEPINFO* exception) {
             *exception = {};
-            exception->pfnDeferredFillIn = [](EXCEPINFO* late) -> HRESULT {
-                Raise(late, 450, L"Plan", L"Falsche Anzahl");
-                return S_OK;
-            };
+            exception->pfnDeferredFillIn = FillInRefusal;
             return DISP_E_EXCEPTION;
         }};
     for (const auto& refusal : kRefusals) {
