@@ -57,7 +57,7 @@ std::string ReadWholeFile(FileSystem& files, const std::u16string& path, Reach r
     const std::uint64_t size = file->Size();
     std::string bytes;
     bool more = ReadUpTo(*file, bytes, reach == nullptr ? size : std::min(size, kBeginning));
-    while (more && bytes.size() < size) {
+    while (reach != nullptr && more && bytes.size() < size) {
         const std::uint64_t needed = reach(bytes);
         if (needed <= bytes.size())
             break;

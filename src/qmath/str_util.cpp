@@ -7,7 +7,7 @@ namespace qmath {
 std::int32_t TokenCount(std::u16string_view text, std::u16string_view separator) {
     std::size_t count = 1;
     if (!separator.empty()) {
-        for (std::size_t at = text.find(separator); at != text.npos;
+        for (std::size_t at = text.find(separator); at != std::u16string_view::npos;
              at = text.find(separator, at + separator.size()))
             ++count;
     }
@@ -18,10 +18,10 @@ std::u16string_view GetToken(std::u16string_view text, std::u16string_view separ
     if (index < 1)
         return {};
     for (;;) {
-        const std::size_t end = separator.empty() ? text.npos : text.find(separator);
+        const std::size_t end = separator.empty() ? std::u16string_view::npos : text.find(separator);
         if (index == 1)
             return text.substr(0, end);
-        if (end == text.npos)
+        if (end == std::u16string_view::npos)
             return {};
         text.remove_prefix(end + separator.size());
         --index;

@@ -36,9 +36,9 @@ Extent Placed(const Extent& bounds, qmath::Point base, const SymbolPosition& pos
 
 } // namespace
 
-DxfDrawing::DxfDrawing(DrawingUnit unit) : context_(std::make_unique<DrawingContext>(unit)) {
-    modelRecord_ = context_->NewHandle();
-    paperRecord_ = context_->NewHandle();
+DxfDrawing::DxfDrawing(DrawingUnit unit)
+    : context_(std::make_unique<DrawingContext>(unit)), modelRecord_(context_->NewHandle()),
+      paperRecord_(context_->NewHandle()) {
     AddLayer(u"0");
 }
 
@@ -84,9 +84,10 @@ void DxfDrawing::Insert(Block block, Layer layer, const SymbolPosition& position
 }
 
 VectorSurface& DxfDrawing::Draw(Layer layer, DxfColours colours) {
-    modelSpace_.push_back(
-        {std::make_unique<DxfSurface>(*context_, modelRecord_, layers_[layer].name, colours), {}});
-    return *modelSpace_.back().surface;
+    auto surface = std::make_unique<DxfSurface>(*context_, modelRecord_, layers_[layer].name, colours);
+    VectorSurface& drawn = *surface;
+    modelSpace_.emplace_back().surface = std::move(surface);
+    return drawn;
 }
 
 std::string DxfDrawing::Compose() const {

@@ -29,7 +29,7 @@ void DxfTags::Real(int code, double value) {
 
 void DxfTags::Handle(int code, DxfHandle handle) {
     std::array<char, 8> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), handle, 16).ptr;
+    char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), handle, 16).ptr;
     std::string text(digits.data(), end);
     for (char& digit : text)
         if (digit >= 'a')

@@ -20,6 +20,11 @@ bool IsControl(char16_t unit) {
     return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
 }
 
+/// Whether a reader would take the beginning of a text for an escape.
+bool ReadsAsEscape(std::u16string_view text) {
+    return text.starts_with(u"\\U+") || text.starts_with(u"\\u+");
+}
+
 } // namespace
 
 std::string DxfText(std::u16string_view text) {
@@ -31,10 +36,7 @@ std::string DxfText(std::u16string_view text) {
             out += static_cast<char>(unit + '@');
         } else if (unit == u'^') {
             out += "^ ";
-        } else if (unit == u'\\' && i + 2 < text.size() && (text[i + 1] == u'U' || text[i + 1] == u'u') &&
-                   text[i + 2] == u'+') {
-            AppendEscape(out, unit); // would read as an escape otherwise
-        } else if (IsControl(unit) || unit > 0xFF) {
+        } else if (IsControl(unit) || unit > 0xFF || ReadsAsEscape(text.substr(i))) {
             AppendEscape(out, unit);
         } else {
             out += static_cast<char>(static_cast<unsigned char>(unit));

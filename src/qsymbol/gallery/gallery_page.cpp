@@ -119,10 +119,17 @@ std::string GalleryPage::Sections() const {
     for (const Category& category : categories_) {
         const std::string id = "category-" + std::to_string(++number);
         const std::string name = XmlText(category.name);
-        out += "<section data-category=\"" + name + "\" aria-labelledby=\"" + id + "\"><h2 id=\"" + id + '"' +
-               (categories_.size() == 1 ? " class=\"hidden\">" : ">") + // the page's title says it
-               (name.empty() ? "Ohne Kategorie" : name) + " <span>" + std::to_string(category.cards.size()) +
-               "</span></h2>\n<ul>\n";
+        out += R"(<section data-category=")";
+        out += name;
+        out += R"(" aria-labelledby=")";
+        out += id;
+        out += R"("><h2 id=")";
+        out += id;
+        out += categories_.size() == 1 ? R"(" class="hidden">)" : R"(">)"; // the page's title says it
+        out += name.empty() ? "Ohne Kategorie" : name;
+        out += " <span>";
+        out += std::to_string(category.cards.size());
+        out += "</span></h2>\n<ul>\n";
         for (const std::string& card : category.cards)
             out += card;
         out += "</ul></section>\n";

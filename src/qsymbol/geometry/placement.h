@@ -49,7 +49,7 @@ private:
 /// leaves the symbol unscaled.
 inline Placement SurfaceFreePlacement(qmath::Point reference, const SymbolPosition& position,
                                       double screenFactor) {
-    return Placement(reference, position, FactorOrOne(screenFactor));
+    return {reference, position, FactorOrOne(screenFactor)};
 }
 
 } // namespace qsymbol

@@ -29,8 +29,9 @@ void Extent::IncludeArc(qmath::Vector centre, double radius, double start, doubl
     include(start + sweep);
     // The extremes lie on the axes, where the arc crosses them.
     constexpr double kQuarter = qmath::kPi / 2;
-    for (double axis = std::ceil(start / kQuarter) * kQuarter; axis < start + sweep; axis += kQuarter)
-        include(axis);
+    const double first = std::ceil(start / kQuarter);
+    for (int i = 0; (first + i) * kQuarter < start + sweep; ++i)
+        include((first + i) * kQuarter);
 }
 
 } // namespace qsymbol

@@ -10,7 +10,7 @@ namespace qsymbol {
 void AppendShort(std::string& out, double value, int decimals) {
     // Room for every finite double in full.
     std::array<char, 400> digits{};
-    const auto end =
+    const char* const end =
         std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals)
             .ptr;
     std::string_view text(digits.data(), static_cast<std::size_t>(end - digits.data()));

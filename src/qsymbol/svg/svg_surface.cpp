@@ -136,9 +136,9 @@ void SvgSurface::OnText(const PictureText& text) {
         out_ += R"( direction="rtl" unicode-bidi="embed")";
     if (text.opaque) {
         hasOpaqueText_ = true;
-        out_ += " filter=\"url(#qsymbol-opaque)\"";
+        out_ += R"~( filter="url(#qsymbol-opaque)")~";
     }
-    out_ += " xml:space=\"preserve\" fill=\"";
+    out_ += R"( xml:space="preserve" fill=")";
     AppendColour(out_, text.colour);
     out_ += "\">";
     AppendXmlText(out_, text.text);

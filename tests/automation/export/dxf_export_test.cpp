@@ -54,8 +54,7 @@ std::string FlagEntities() {
 class DxfExport : public support::AutomationTest {
 protected:
     void SetUp() override {
-        folder = std::filesystem::path(support::ProgramFolder()) /
-                 (L"dxf_" + std::to_wstring(GetCurrentProcessId()));
+        folder = std::filesystem::temp_directory_path() / (L"dxf_" + std::to_wstring(GetCurrentProcessId()));
         std::filesystem::remove_all(folder);
         std::filesystem::create_directory(folder);
         path = folder / L"plan.dxf";

@@ -148,7 +148,8 @@ Lines ComHost::Do(const Step& step) {
     const Failure failure = Act(plain);
     if (box_) {
         for (const std::string& logged : box_->Log())
-            if (std::find(std::begin(kUntold), std::end(kUntold), logged) == std::end(kUntold) && (failing_.empty() || !logged.starts_with(Logged(failing_))))
+            if (std::find(std::begin(kUntold), std::end(kUntold), logged) == std::end(kUntold) &&
+                (failing_.empty() || !logged.starts_with(Logged(failing_))))
                 outputs_.push_back(Access(logged));
     }
     for (auto box = boxes.Seen().rbegin(); box != boxes.Seen().rend(); ++box)

@@ -1,6 +1,5 @@
 #include "qsymbol/draw/bounds.h"
 
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -13,7 +12,6 @@ namespace {
 using qmath::Rect;
 using qsymbol::GetBoundingRect;
 using qsymbol::Symbol;
-
 
 Symbol Box(std::int32_t width, std::int32_t height, qmath::Point reference = {}) {
     Symbol symbol;

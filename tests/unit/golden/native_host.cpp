@@ -174,8 +174,8 @@ bool NativeHost::ActOnFiles(const Step& step) {
         std::string& bytes = File(words.at(1));
         bytes.clear();
         for (const std::string& line : step.payload)
-            bytes += Unescaped(world_.codePage.Encode(base::FromUtf8(line))) +
-                     (command == "file" ? "\r\n" : "");
+            bytes +=
+                Unescaped(world_.codePage.Encode(base::FromUtf8(line))) + (command == "file" ? "\r\n" : "");
     } else if (command == "binary") {
         File(words.at(1)).clear();
         for (const std::string& line : step.payload)
@@ -190,8 +190,7 @@ bool NativeHost::ActOnFiles(const Step& step) {
     } else if (command == "same") {
         outputs_.emplace_back(File(words.at(1)) == File(words.at(2)) ? "same" : "different");
     } else if (command == "entities") {
-        for (const std::string& entity :
-             EntitiesOf(base::ToUtf8(world_.codePage.Decode(File(words.at(1))))))
+        for (const std::string& entity : EntitiesOf(base::ToUtf8(world_.codePage.Decode(File(words.at(1))))))
             outputs_.push_back(entity);
     } else if (command == "katalog" || command == "liste") {
         Load(step);
