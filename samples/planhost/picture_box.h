@@ -4,10 +4,10 @@
 
 #include <array>
 
-/// A picture box as drawing libraries know it from Basic: an object with late-bound properties, each of which
-/// takes effect on the device context at once, because the library goes on with plain GDI calls there; and
-/// with a method that draws a line. The device context must outlive the box; the box leaves it as it found
-/// it.
+/// A picture box as drawing libraries know it from Basic: an object with late-bound properties, each of
+/// which takes effect on the device context at once, because the library goes on with plain GDI calls
+/// there; and with a method that draws a line. The device context must outlive the box; the box leaves it
+/// as it found it.
 class PictureBox final : public IDispatch {
 public:
     /// A box of this size in pixels, from the origin of the device context on.

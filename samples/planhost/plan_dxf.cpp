@@ -30,8 +30,8 @@ LONG Exported(long long units) {
     return static_cast<LONG>(units * kScale);
 }
 
-/// Sets the factor by which exported symbols are scaled: that of the last drawing, here one without a
-/// surface.
+/// Sets the factor by which exported symbols are scaled: that of the last drawing, here one without
+/// a surface.
 void SetScale(_CSymbol& symbol) {
     LONG ownColours = -1;
     Check(symbol.Draw(0, 0, 0, nullptr, nullptr, 1.0, kScale, &ownColours));
@@ -79,8 +79,8 @@ void ExportPlan(const Plan& plan, _CSymbolColl& catalogue, const std::filesystem
         WriteWalls(plan, file);
         file.Close();
     }
-    // The library appends each symbol on its own; the file is closed meanwhile, so nothing of ours comes
-    // between.
+    // The library appends each symbol on its own; the file is closed meanwhile, so nothing of ours
+    // comes between.
     const Bstr name(unfinished.Path().wstring());
     for (std::size_t i = 0; i < symbols.size(); ++i) {
         if (i == 0)

@@ -28,9 +28,9 @@ constexpr std::int32_t CheckedSub(std::int32_t a, std::int32_t b) {
 /// The nearest whole number, exact halves to even, as a 64-bit integer; for a value outside the 32-bit range
 /// and for what is not a number, some integer outside that range.
 constexpr std::uint64_t RoundedBits(double value) {
-    // Adding 1.5 * 2^52 rounds in the processor's mode (half to even) and leaves the whole number in the low
-    // bits. The bits of doubles are ordered like their values, so what lies outside gives a difference
-    // outside.
+    // Adding 1.5 * 2^52 rounds in the processor's mode (half to even) and leaves the whole number in the
+    // low bits. The bits of doubles are ordered like their values, so what lies outside gives a
+    // difference outside.
     constexpr double kShift = 6755399441055744.0;
     return std::bit_cast<std::uint64_t>(value + kShift) - std::bit_cast<std::uint64_t>(kShift);
 }

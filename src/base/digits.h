@@ -35,8 +35,8 @@ inline std::size_t LeadingDigits(const char* at, std::int64_t& value) {
 
 /// The value of one to eight digits; -1 when anything else is among them, or when there are none or more.
 ///
-/// All digits are checked and converted at once in one 64-bit word, so the time does not depend on their
-/// number.
+/// All digits are checked and converted at once in one 64-bit word, so the time does not depend on
+/// their number.
 inline std::int64_t DigitsValue(const char* at, std::size_t count) {
     static_assert(std::endian::native == std::endian::little);
     constexpr std::uint64_t kZeros = 0x3030303030303030U;

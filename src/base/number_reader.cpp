@@ -28,8 +28,8 @@ int SingleByte(const std::string& separator) {
     return separator.size() == 1 ? static_cast<unsigned char>(separator[0]) : -1;
 }
 
-/// Digits collected from a text: an integer mantissa while it is exact, and the digits themselves beyond
-/// that.
+/// Digits collected from a text: an integer mantissa while it is exact, and the digits themselves
+/// beyond that.
 class Mantissa { // NOLINT(cppcoreguidelines-pro-type-member-init)
 public:
     void Add(char digit, bool fraction) {

@@ -30,8 +30,8 @@ struct System {
 base::RegionalSettings CommaSettings();
 base::RegionalSettings PointSettings();
 
-/// A failure that belongs to another file than the one that is worked on: to the target instead of the
-/// source.
+/// A failure that belongs to another file than the one that is worked on: to the target instead of
+/// the source.
 class FailureOf : public base::Error {
 public:
     FailureOf(std::u16string path, const base::Error& error) : base::Error(error), path_(std::move(path)) {}

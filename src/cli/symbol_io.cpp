@@ -12,8 +12,8 @@ Reading ReadSymbolFile(const std::u16string& path, const base::RegionalSettings&
                        const System& system) {
     const NoStrings strings;
     KeptNotice prompt;
-    // Foreign files write decimals with a point whatever the user does; the reader wants to be told of a
-    // comma.
+    // Foreign files write decimals with a point whatever the user does; the reader wants to be told of
+    // a comma.
     const qsymbol::FileEnvironment environment{system.files, system.codePage,
                                                Extension(path) == u"wsc" ? CommaSettings() : settings,
                                                strings, prompt};

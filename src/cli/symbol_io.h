@@ -14,8 +14,8 @@ struct Reading {
     std::optional<std::u16string> notice; ///< why a foreign file was not read to its end
 };
 
-/// Reads a symbol file of any format under these number conventions; foreign files have their own. Errors of
-/// qsymbol::ReadFromFile.
+/// Reads a symbol file of any format under these number conventions; foreign files have their own. Errors
+/// of qsymbol::ReadFromFile.
 Reading ReadSymbolFile(const std::u16string& path, const base::RegionalSettings& settings,
                        const System& system);
 

@@ -28,8 +28,8 @@ private:
     std::unordered_set<std::u16string> claimed_;
 };
 
-/// The target of a source in a folder: its name with another extension, in the subfolder that it was found
-/// in.
+/// The target of a source in a folder: its name with another extension, in the subfolder that it was
+/// found in.
 std::u16string TargetIn(const std::u16string& folder, const SourceFile& source,
                         std::u16string_view extension);
 

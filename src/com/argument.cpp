@@ -114,8 +114,8 @@ HRESULT Argument::Take(const DispatchParameter& parameter, VARIANTARG* passed, L
         if (SUCCEEDED(status))
             status = VariantChangeTypeEx(local_.Put(), plain.Get(), locale, 0, parameter.type);
     }
-    // Whatever else the system says about an object or an array where a plain value belongs, it is the wrong
-    // type.
+    // Whatever else the system says about an object or an array where a plain value belongs, it is the
+    // wrong type.
     if (FAILED(status))
         return status == DISP_E_OVERFLOW || status == E_OUTOFMEMORY ? status : DISP_E_TYPEMISMATCH;
     const bool isVariable = value != passed || (type & VT_BYREF) != 0;

@@ -4,8 +4,8 @@
 
 namespace com {
 
-/// Holds a lock of the system's own for its life. Needs no making and no end, so it may stand in a global
-/// object.
+/// Holds a lock of the system's own for its life. Needs no making and no end, so it may stand in a
+/// global object.
 class ExclusiveLock {
 public:
     explicit ExclusiveLock(SRWLOCK& lock) : lock_(lock) { AcquireSRWLockExclusive(&lock_); }

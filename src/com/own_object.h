@@ -23,9 +23,9 @@ const IID& PrivateId() {
     return id;
 }
 
-/// The library's own object behind an interface that a host passed; empty for any other object. Passes on
-/// what the object says when it is asked, unless that it does not know the question. The caller holds the
-/// object.
+/// The library's own object behind an interface that a host passed; empty for any other object. Passes
+/// on what the object says when it is asked, unless that it does not know the question. The caller
+/// holds the object.
 template <class Face, class Interface>
 ComPtr<Face> Own(Interface& object) {
     struct Nobody;

@@ -6,8 +6,8 @@ namespace messages {
 
 enum class FailureChoice { Abort, Retry, Ignore };
 
-/// Seam: what the library says to the user and asks of him. What cannot be said is dropped. A DLL answers with message boxes, a test from a
-/// script.
+/// Seam: what the library says to the user and asks of him. What cannot be said is dropped. A DLL answers
+/// with message boxes, a test from a script.
 class UserPrompt {
 public:
     virtual ~UserPrompt() = default;

@@ -14,8 +14,8 @@ bool IsAround(Way a, Way b) {
     return Sign(a.x) * Sign(b.x) <= 0 && Sign(a.y) * Sign(b.y) <= 0;
 }
 
-/// Whether the segment a-b and the rectangle share a point: neither an axis nor the segment's normal parts
-/// them.
+/// Whether the segment a-b and the rectangle share a point: neither an axis nor the segment's normal
+/// parts them.
 bool SegmentMeets(Point a, Point b, const Rect& rect) {
     if (std::max(a.x, b.x) < rect.left || std::min(a.x, b.x) > rect.right || std::max(a.y, b.y) < rect.top ||
         std::min(a.y, b.y) > rect.bottom)
@@ -40,8 +40,8 @@ bool OutlineContains(std::span<const Point> outline, Point point) {
         const std::int64_t cross = Cross(from, to);
         if (cross == 0 && IsAround(from, to))
             return true;
-        // Count the edges that cross the ray to the right. Without branches: where they lie is anyone's
-        // guess.
+        // Count the edges that cross the ray to the right. Without branches: where they lie is
+        // anyone's guess.
         const bool crossesHeight = (from.y <= 0) != (to.y <= 0);
         const bool isRight = (cross > 0) == (to.y > 0);
         inside ^= crossesHeight & isRight;

@@ -5,8 +5,8 @@
 
 #include <span>
 
-/// Tests on a closed polygon given by its vertices, the last joined to the first. Exact for all 32-bit
-/// values.
+/// Tests on a closed polygon given by its vertices, the last joined to the first. Exact for all
+/// 32-bit values.
 ///
 /// Inside is what the even-odd rule says, and every point of the outline. One vertex is a point, two are a
 /// segment, none is nothing.

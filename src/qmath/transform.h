@@ -33,8 +33,8 @@ public:
     }
     /// A world length in pixels.
     std::int32_t LengthToScreen(std::int32_t length) const { return base::RoundToLong(length / scale_); }
-    /// Character height in pixels, at least 1, for a font size in points; factor is world units to a
-    /// millimetre.
+    /// Character height in pixels, at least 1, for a font size in points; factor is world units to
+    /// a millimetre.
     std::int32_t FontSizeToScreen(double factor, std::int16_t size) const;
 
 private:

@@ -9,8 +9,8 @@
 
 namespace support {
 
-/// Answers questions from a script and keeps all that was said. A question without an answer left fails the
-/// test.
+/// Answers questions from a script and keeps all that was said. A question without an answer left fails
+/// the test.
 class ScriptedPrompt final : public messages::UserPrompt {
 public:
     std::deque<bool> yesNo;

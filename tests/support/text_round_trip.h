@@ -13,8 +13,8 @@ bool IsRefusedAsText(const qsymbol::Symbol& symbol, const base::CodePage& codePa
 bool IsRefusedAsBinary(const qsymbol::Symbol& symbol, const base::CodePage& codePage);
 
 /// The symbol as its text form gives it back, angles aside: undefined elements move to the end, a closed
-/// polyline of two points becomes a rectangle, a text is cut at ";", and what the format has no place for is
-/// gone.
+/// polyline of two points becomes a rectangle, a text is cut at ";", and what the format has no place for
+/// is gone.
 qsymbol::Symbol AfterText(const qsymbol::Symbol& symbol, const base::CodePage& codePage);
 
 /// Equal but for angles, which may differ by half a hundredth of a degree and by what a double cannot hold.

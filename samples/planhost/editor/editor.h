@@ -19,8 +19,8 @@ public:
     /// Draws all anew, the tool's image last.
     void Redraw();
 
-    /// Pixels of the picture. Shift catches points for a tool; Ctrl adds to the marked symbols and takes from
-    /// them.
+    /// Pixels of the picture. Shift catches points for a tool; Ctrl adds to the marked symbols and takes
+    /// from them.
     void MouseMove(POINT pixel);
     void MouseDown(POINT pixel);
     void MouseUp(POINT pixel);

@@ -100,8 +100,8 @@ STDMETHODIMP CSymbolColl::GetSymInput(BSTR stSymName, _CSymInput** value) {
     return Return(value, [&] {
         com::ComPtr<CSymInput> input;
         library::ReportAndSwallow(u"CSymbolColl.GetSymInput", [&] {
-            // A reference for the time: a foreign symbol may call its host, and that may empty this
-            // catalogue.
+            // A reference for the time: a foreign symbol may call its host, and that may empty
+            // this catalogue.
             if (const com::ComPtr<_CSymbol>* const found = Find(stSymName))
                 input = CSymInput::CreateFor(*com::ComPtr<_CSymbol>(*found).Get());
         })();

@@ -9,8 +9,8 @@
 /// What all objects of QSymbol share: one of each in a process, made on first use.
 namespace library {
 
-/// Makes sure that the resource-string object exists; it opens "QRes.dll" once and lives as long as the
-/// process.
+/// Makes sure that the resource-string object exists; it opens "QRes.dll" once and lives as long as
+/// the process.
 void EnsureResources();
 
 /// The user seam of this DLL: message boxes.
@@ -28,8 +28,8 @@ qsymbol::FileEnvironment FileEnvironmentNow();
 /// Shows the exception being handled to the user: source, line break, description. Never throws.
 void ReportCurrentError(std::u16string_view source) noexcept;
 
-/// The body of an operation that a user triggers: run, it shows an error under the source, which goes no
-/// further.
+/// The body of an operation that a user triggers: run, it shows an error under the source, which goes
+/// no further.
 template <class Body>
 [[nodiscard]] auto ReportAndSwallow(std::u16string_view source, Body body) {
     return [source, body]() noexcept {

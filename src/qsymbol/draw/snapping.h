@@ -16,8 +16,8 @@ struct CaughtPoint {
     qmath::Point screen;
 };
 
-/// The first characteristic point, in element and point order, nearer than range pixels to (x, y) in both
-/// axes.
+/// The first characteristic point, in element and point order, nearer than range pixels to (x, y) in
+/// both axes.
 ///
 /// A polyline offers its vertices, a circle its centre, an arc its centre, start and end, a text nothing.
 /// Errors of the transformation pass through; error 6 outside the 32-bit range.

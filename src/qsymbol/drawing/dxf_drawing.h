@@ -38,8 +38,8 @@ public:
     /// Places a block in the model space, on top of what stands there.
     void Insert(Block block, Layer layer, const SymbolPosition& position);
 
-    /// A surface that draws into the model space on a layer, on top of what stands there. It goes with the
-    /// drawing.
+    /// A surface that draws into the model space on a layer, on top of what stands there. It goes with
+    /// the drawing.
     VectorSurface& Draw(Layer layer, DxfColours colours = DxfColours::Own);
 
     /// The file's bytes, in code page 1252.

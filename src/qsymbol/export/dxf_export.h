@@ -11,8 +11,8 @@
 
 namespace qsymbol {
 
-/// Writes all elements of a placed symbol as DXF entities, scaled by the factor unless it is 0. Errors of
-/// EntityWriter::Write.
+/// Writes all elements of a placed symbol as DXF entities, scaled by the factor unless it is 0. Errors
+/// of EntityWriter::Write.
 void ExportSymbol(const Symbol& symbol, const SymbolPosition& position, double screenFactor,
                   const base::CodePage& codePage, TagSink& out);
 

@@ -10,8 +10,8 @@
 
 namespace qsymbol {
 
-/// Collects the group codes and values of a DXF file in memory: every code and every value is a line of its
-/// own.
+/// Collects the group codes and values of a DXF file in memory: every code and every value is a line of
+/// its own.
 ///
 /// Codes are texts, because hosts know them by their padding.
 class TagSink {

@@ -6,16 +6,16 @@
 
 namespace qsymbol {
 
-/// What reading one file may take in memory: 64 MiB and 64 bytes for each byte of the file, the file
-/// included.
+/// What reading one file may take in memory: 64 MiB and 64 bytes for each byte of the file, the
+/// file included.
 ///
 /// Counts in a file are charged here before they are believed, so no file, however broken, takes more.
 class MemoryBudget {
 public:
     explicit MemoryBudget(std::uint64_t fileSize) : left_(kBase + (kPerByte - kContents) * fileSize) {}
 
-    /// Takes memory for so many items of so many bytes, and a fixed sum for the block. Error 7 when it is not
-    /// left.
+    /// Takes memory for so many items of so many bytes, and a fixed sum for the block. Error 7 when it is
+    /// not left.
     void Charge(std::uint64_t count, std::uint64_t itemSize) {
         if (left_ < kBlock || count > (left_ - kBlock) / itemSize)
             base::Raise(base::RunTimeError::OutOfMemory);

@@ -10,8 +10,8 @@
 
 namespace qsymbol {
 
-/// Puts the keyed fields of a text file's element lines into a record. Keys unknown to the record type are
-/// ignored.
+/// Puts the keyed fields of a text file's element lines into a record. Keys unknown to the record type
+/// are ignored.
 ///
 /// Errors 13 and 6 for numbers, 9 for a point count that makes no list, 7 past the memory bound.
 class TextElementFields {

@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <string_view>
 
-/// What reader and writer of the text format share: record types and keys, upper case as they stand in a
-/// file.
+/// What reader and writer of the text format share: record types and keys, upper case as they stand in
+/// a file.
 namespace qsymbol::text_format {
 
 inline constexpr char kSeparator = ';';

@@ -175,7 +175,10 @@ std::uint64_t TextReach(std::string_view beginning) {
     while (lines.Next(line) && line.empty()) {
     }
     const bool ends = line.data() + line.size() != beginning.data() + beginning.size();
-    const bool refused = ends ? !text_format::IsHeader(line) : !line.starts_with(text_format::kHeader);
+    // Where the beginning ends in the line, the line may still become a header.
+    const std::string_view header(text_format::kHeader);
+    const bool refused =
+        ends ? !text_format::IsHeader(line) : !line.starts_with(header) && !header.starts_with(line);
     return refused && !line.empty() ? beginning.size() : UINT64_MAX;
 }
 

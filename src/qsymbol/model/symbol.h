@@ -7,8 +7,8 @@
 
 namespace qsymbol {
 
-/// One symbol: a named drawing with a reference point (its insertion point) and a nominal size, in logical
-/// units.
+/// One symbol: a named drawing with a reference point (its insertion point) and a nominal size, in
+/// logical units.
 struct Symbol {
     ElementList elements;
     std::int32_t refX = 0;

@@ -25,8 +25,8 @@ SvgView ViewOf(const SvgSurface& surface, double emptyWidth = 0, double emptyHei
 /// "left top width height", for a viewBox.
 std::string ViewBox(const SvgView& view);
 
-/// A whole SVG file, true to scale: its width and height are those of what was drawn. No script, nothing from
-/// outside.
+/// A whole SVG file, true to scale: its width and height are those of what was drawn. No script, nothing
+/// from outside.
 std::string SvgDocument(SvgSurface& surface, const SvgView& view, std::u16string_view title);
 
 /// The file of one symbol under its name.

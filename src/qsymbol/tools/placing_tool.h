@@ -12,17 +12,15 @@ namespace qsymbol {
 /// What the placing tools share: an image that follows the mouse, turns and is fixed, and a guide line to it.
 ///
 ///  1. Start: there is no position. Draws and turns show nothing.
-///  2. The first mouse event gives the image a position; from now on it stands on the surface, inverted:
-///  drawing
-///     it once more takes it away again.
+///  2. The first mouse event gives the image a position; from now on it stands on the surface, inverted: drawing it
+///     once more takes it away again.
 ///  3. Each move and turn takes the image away, changes the place and draws the image there.
-///  4. Fixing makes the tool ready. It ignores every further event; a draw now shows the image for good, in
-///  its
-///     own colours and without guide line.
+///  4. Fixing makes the tool ready. It ignores every further event; a draw now shows the image for good, in its own
+///     colours and without guide line.
 ///
 /// What an event is to change is worked out before the image is taken away, so an event that fails early
-/// leaves image and state as they were. The guide line belongs to the image: set its start before the first
-/// event.
+/// leaves image and state as they were. The guide line belongs to the image: set its start before the
+/// first event.
 class PlacingTool {
 public:
     PlacingTool(const PlacingTool&) = delete;

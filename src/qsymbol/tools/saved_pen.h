@@ -17,8 +17,8 @@ public:
     SavedPen(const SavedPen&) = delete;
     SavedPen& operator=(const SavedPen&) = delete;
 
-    /// Drawing the same image twice restores what was there: not-xor mode, one pixel wide, solid, black, not
-    /// filled.
+    /// Drawing the same image twice restores what was there: not-xor mode, one pixel wide, solid, black,
+    /// not filled.
     void UseInvertingPen();
     /// The image replaces what is there; elements bring their own pens.
     void UseCopyPen();

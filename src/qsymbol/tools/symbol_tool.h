@@ -13,11 +13,9 @@ namespace qsymbol {
 ///
 ///  1. AddSymref gives the references, SetMoveStartPos the base of relative fixing and of a guide line.
 ///  2. MouseMove: the inverted group follows the mouse.
-///  3. KeyUp, keys of the numeric pad: + and − turn by −1° and +1°, * and / by −10° and +10°; 8, 7, 4, 1, 2,
-///  3, 6,
-///     9 turn so that the first reference looks to 0°, 45° and so on.
-///  4. MouseDown: the image is taken away and the group is fixed at the click. MouseDownReal: the same at
-///  logical
+///  3. KeyUp, keys of the numeric pad: + and − turn by −1° and +1°, * and / by −10° and +10°; 8, 7, 4, 1, 2, 3, 6, 9
+///     turn so that the first reference looks to 0°, 45° and so on.
+///  4. MouseDown: the image is taken away and the group is fixed at the click. MouseDownReal: the same at logical
 ///     coordinates.
 ///  5. The host reads the place of each reference and draws the group with its plan.
 class SymbolTool final : public PlacingTool {
@@ -38,8 +36,8 @@ public:
 
     /// position: from 1; error 91 when there is none.
     std::int32_t GetObjIdByPos(std::int32_t position) const;
-    /// Where the reference of an object stands; nothing before the first position. Error 91 for an unknown
-    /// id.
+    /// Where the reference of an object stands; nothing before the first position. Error 91 for an
+    /// unknown id.
     std::optional<SymbolPosition> GetSymrefDataById(std::int32_t objectId) const;
     /// The same for the reference at a position from 1.
     std::optional<SymbolPosition> GetSymrefDataByPos(std::int32_t position) const;

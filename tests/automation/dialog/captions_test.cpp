@@ -3,8 +3,8 @@
 
 #include <gmock/gmock.h>
 
-// Captions come from the resource library, which is opened once in a process: each case runs in a host of its
-// own.
+// Captions come from the resource library, which is opened once in a process: each case runs in a host of
+// its own.
 
 namespace {
 

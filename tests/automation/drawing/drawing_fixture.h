@@ -36,8 +36,8 @@ POINT World(const Place& place, POINT point);
 POINT Pixel(const View& view, POINT world);
 int Pixels(const View& view, double length);
 
-/// Two equal canvases, one for the library and one for the plain GDI calls of the test, and a box on the
-/// first.
+/// Two equal canvases, one for the library and one for the plain GDI calls of the test, and a box on
+/// the first.
 class DrawingTest : public support::AutomationTest {
 protected:
     explicit DrawingTest(const std::wstring& name = L"PlanBox", const std::wstring& type = L"PictureBox") {

@@ -43,8 +43,8 @@ protected:
             return "error 6";
         return std::to_string(static_cast<long long>(rounded));
     }
-    /// Texts that are numbers go into one file together; each of the others ends the read of a file of its
-    /// own.
+    /// Texts that are numbers go into one file together; each of the others ends the read of a file of
+    /// its own.
     void Compare(const std::vector<std::string>& texts) const;
     void CompareAll() const;
 };

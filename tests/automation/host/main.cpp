@@ -11,9 +11,9 @@
 #include <cstdio>
 #include <map>
 
-// A host program for what the library does once in a process. It works in its current folder or in one that
-// it is told, writes what it sees to the standard output, and ends with 0 when nothing failed that should
-// not.
+// A host program for what the library does once in a process. It works in its current folder or in one
+// that it is told, writes what it sees to the standard output, and ends with 0 when nothing failed that
+// should not.
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include "support/shapes.h"
 #include "support/temp_folder.h"
 
-/// How long each library keeps the other: QSymbol holds QMath's class objects while one of its own objects
-/// lives.
+/// How long each library keeps the other: QSymbol holds QMath's class objects while one of its own
+/// objects lives.
 
 namespace {
 

@@ -94,8 +94,8 @@ TEST_F(FontSelector, RefusesWhatIsNoDeviceContext) {
               support::RunTimeError(5, L"QMath"));
 }
 
-/// More rounds than a process may have GDI objects: a single one left behind each time would not let them
-/// end.
+/// More rounds than a process may have GDI objects: a single one left behind each time would not let
+/// them end.
 TEST_F(FontSelector, LeavesNoGdiObjects) {
     constexpr int kRounds = 20000;
     for (int i = 0; i < kRounds; ++i) {

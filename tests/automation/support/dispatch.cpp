@@ -44,8 +44,8 @@ DISPID Dispatch::Id(const wchar_t* member) const {
 
 Answer Dispatch::InvokeId(DISPID id, WORD flags, const std::vector<Value>& arguments,
                           const std::vector<DISPID>& namedIds, const std::vector<Value>& named) const {
-    // Named arguments come first, positional ones follow with the last in front. The values stay the
-    // caller's.
+    // Named arguments come first, positional ones follow with the last in front. The values stay
+    // the caller's.
     std::vector<VARIANTARG> passed;
     for (const Value& value : named)
         passed.push_back(*value.Raw());

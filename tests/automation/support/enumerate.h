@@ -11,8 +11,8 @@
 
 namespace support {
 
-/// The For Each enumerator of a collection, asked for late bound as every client does; empty when there is
-/// none.
+/// The For Each enumerator of a collection, asked for late bound as every client does; empty when there
+/// is none.
 Ref<IEnumVARIANT> EnumeratorOf(IDispatch* collection);
 
 /// The next item of an enumerator; an empty value at the end.

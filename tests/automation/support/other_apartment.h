@@ -38,8 +38,8 @@ private:
     void Run();
 
     std::promise<void> ready_;
-    std::thread thread_;
     DWORD id_ = 0;
+    std::thread thread_; ///< last: it uses the others from its start
 };
 
 } // namespace support

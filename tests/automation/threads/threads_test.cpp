@@ -3,8 +3,8 @@
 
 #include <gmock/gmock.h>
 
-// What is made once in a process is made by whichever thread comes first, so each case has a process of its
-// own.
+// What is made once in a process is made by whichever thread comes first, so each case has a process of
+// its own.
 
 namespace {
 

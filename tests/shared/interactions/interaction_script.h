@@ -11,15 +11,13 @@
 ///
 /// One text file each; the first line is its caption. A line begins with
 ///   #   a comment
-///   *   set-up: "tool input|group", "scale 10", "pen MODE WIDTH STYLE COLOUR FILLSTYLE", "symbol NAME" with
-///   its elements
-///       behind it, "ref ID DX DY DEGREES SYMBOL"
+///   *   set-up: "tool input|group", "scale 10", "pen MODE WIDTH STYLE COLOUR FILLSTYLE", "symbol NAME" with its
+///       elements behind it, "ref ID DX DY DEGREES SYMBOL"
 ///   :   a name for some accesses: "NAME = ACCESS | ACCESS | …"; names may be used in what follows
 ///   >   an event: the member's name and its arguments
 ///   -   accesses that the last event makes, in order; several lines follow each other
 ///   =   what the last event answers or, for an event without an answer, the tool's state
-///   !   the error that the last event ends with: number, then "raised", "silent" or the source it is shown
-///   under
+///   !   the error that the last event ends with: number, then "raised", "silent" or the source it is shown under
 namespace interactions {
 
 using Words = std::vector<std::string>;

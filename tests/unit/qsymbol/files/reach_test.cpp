@@ -34,6 +34,7 @@ TEST(Reach, OfLinesEndsWhereTheyAreRefused) {
           {qsymbol::TextReach, "SYM;1;2;3;4;5\nX\n", false},
           {qsymbol::TextReach, "SYM;1\n", true},
           {qsymbol::TextReach, "SYN", true},
+          {qsymbol::TextReach, "\n\nSY", false},
           {qsymbol::WscReach, "X\nSTR 1", false},
           {qsymbol::WscReach, "X\nXYZ", false},
           {qsymbol::WscReach, "X\nXYZ\n", true}})

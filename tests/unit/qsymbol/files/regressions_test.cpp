@@ -22,8 +22,8 @@ void Replay(const std::string& folder, Oracle oracle, std::size_t least) {
     EXPECT_GE(count, least) << folder;
 }
 
-/// What the fuzzers, or a close look, once found must stay mended. There is nothing of the other formats so
-/// far.
+/// What the fuzzers, or a close look, once found must stay mended. There is nothing of the other formats
+/// so far.
 TEST(Regressions, Findings) {
     Replay("tests/data/regressions/text", support::BrokenTextPromise, 1);
     Replay("tests/data/regressions/number", support::BrokenNumberPromise, 1);
