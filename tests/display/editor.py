@@ -81,9 +81,9 @@ class Editor:
 
     def wait_for_window(self, title=""):
         window = self.desktop.window("PlanhostEditor", title)
-        self.area = window.area
-        self.picture_height = next(int(c[3]) for c in window.controls if c[0] == "msctls_statusbar32") - self.area[1]
-        width, height = self.area[2] - self.area[0], self.picture_height
+        self.window = window.area
+        self.area = next(tuple(map(int, c[2:6])) for c in window.controls if c[0] == "PlanhostPlan")
+        width, height = self.area[2] - self.area[0], self.area[3] - self.area[1]
         self.scale = max(self.sheet[0] * UNITS / (width - 2 * MARGIN), self.sheet[1] * UNITS / (height - 2 * MARGIN))
         self.offset = ((self.sheet[0] * UNITS - width * self.scale) / 2, (self.sheet[1] * UNITS - height * self.scale) / 2)
         return window
@@ -120,8 +120,7 @@ class Editor:
         return last
 
     def _part(self, picture):
-        left, top, right, _ = self.area
-        return picture.part(left, top, right, top + self.picture_height)
+        return picture.part(*self.area)
 
     def wait_for_picture(self, what, condition):
         return self.desktop.wait_for_picture(what, lambda picture: condition(self._part(picture)))
@@ -160,7 +159,7 @@ class Editor:
 
     def park(self):
         """Takes the mouse out of the picture."""
-        self.desktop.move(self.area[2] - 200, self.area[3] - 10)
+        self.desktop.move(self.window[2] - 200, self.window[3] - 10)
 
     def click_at(self, pixel):
         self.point_at(pixel)
@@ -190,7 +189,7 @@ class Editor:
     def double_click_caption(self):
         """Maximises the window or gives it its size back; waits for the new size."""
         before = self.area
-        self.desktop.move(before[0] + 300, before[1] - 30)
+        self.desktop.move(self.window[0] + 300, self.window[1] - 30)
         self.desktop.double_click()
         wait_for("another size", lambda: self.wait_for_window().area != before)
 

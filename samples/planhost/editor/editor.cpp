@@ -68,6 +68,10 @@ void Editor::MouseDown(POINT pixel) {
 }
 
 void Editor::MouseUp(POINT pixel) {
+    if (std::exchange(fixesWhereLetGo_, false) && tool_) {
+        const RECT picture{0, 0, pixels_.cx, pixels_.cy};
+        return PtInRect(&picture, pixel) ? MouseDown(pixel) : Cancel();
+    }
     if (!band_)
         return;
     band_->MouseMove(view_, pixel);
@@ -125,7 +129,11 @@ void Editor::Choose() {
                                                  chosen.Put()));
     if (chosen.Text().empty())
         return;
-    name_ = chosen.Text();
+    Place(chosen.Text());
+}
+
+void Editor::Place(const std::wstring& name) {
+    name_ = name;
     degrees_ = 0;
     Place();
 }
@@ -171,6 +179,7 @@ void Editor::Start(std::unique_ptr<EditorTool> tool) {
     Redraw();
     tool_ = std::move(tool);
     isPlacing_ = false;
+    fixesWhereLetGo_ = false;
 }
 
 void Editor::Finish(EditorTool& tool) {

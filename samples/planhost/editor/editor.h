@@ -39,6 +39,11 @@ public:
     void Undo();
     /// The user chooses a symbol and places it.
     void Choose();
+    /// The user has chosen a symbol by its name.
+    void Place(const std::wstring& name);
+    /// What is being placed is placed where the mouse button that is down now is let go; outside of the picture it is
+    /// given up.
+    void FixWhereLetGo() { fixesWhereLetGo_ = HasTool(); }
     bool CanPlaceAgain() const;
     /// Places the topmost marked symbol once more, or else the last one.
     void PlaceAgain();
@@ -65,5 +70,6 @@ private:
     std::wstring name_;  ///< of the symbol that was placed last, or is being placed
     double degrees_ = 0; ///< its direction
     bool isPlacing_ = false;
+    bool fixesWhereLetGo_ = false;
     std::optional<PlacedSymbol> placed_;
 };

@@ -1,11 +1,12 @@
 #include "editor_window.h"
 
 #include "../text.h"
+#include "dpi.h"
+#include "editor_layout.h"
 #include "plan_files.h"
 #include "resource.h"
 
 #include <commctrl.h>
-#include <windowsx.h>
 
 #include <algorithm>
 
@@ -18,24 +19,13 @@ constexpr SIZE kFirstSize{1120, 840};
 constexpr int kPositionWidth = 220; // of the status bar's parts
 constexpr int kCountWidth = 170;
 
-/// The same length on this screen.
-int OnScreen(int pixels) {
-    const HDC screen = GetDC(nullptr);
-    const int perInch = GetDeviceCaps(screen, LOGPIXELSX);
-    ReleaseDC(nullptr, screen);
-    return MulDiv(pixels, perInch, 96);
-}
-
-POINT PointOf(LPARAM lParam) {
-    return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
-}
-
 /// The first size of the window; no larger than there is room.
 SIZE FirstSize() {
     RECT room;
     SystemParametersInfoW(SPI_GETWORKAREA, 0, &room, 0);
-    return {std::min<LONG>(OnScreen(kFirstSize.cx), room.right - room.left),
-            std::min<LONG>(OnScreen(kFirstSize.cy), room.bottom - room.top)};
+    const UINT dots = DotsOf(nullptr);
+    return {std::min<LONG>(Scaled(kFirstSize.cx, dots), room.right - room.left),
+            std::min<LONG>(Scaled(kFirstSize.cy, dots), room.bottom - room.top)};
 }
 
 void RegisterWindowClass(WNDPROC onMessage) {
@@ -94,7 +84,9 @@ const EditorWindow::Command EditorWindow::kCommands[] = {
     {IDM_CANCEL, Always, [](EditorWindow& w) { w.Cancel(); }},
 };
 
-EditorWindow::EditorWindow(Ptr<_CSymbolColl> catalogue) : editor_(std::move(catalogue)) {
+EditorWindow::EditorWindow(const std::filesystem::path& catalogueFolder)
+    : catalogueFolder_(std::filesystem::absolute(catalogueFolder)), editor_(OpenCatalogue(catalogueFolder)),
+      plan_(editor_) {
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_BAR_CLASSES};
     InitCommonControlsEx(&controls);
     RegisterWindowClass(OnMessage);
@@ -138,37 +130,9 @@ LRESULT CALLBACK EditorWindow::OnMessage(HWND window, UINT message, WPARAM wPara
 
 LRESULT EditorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_CREATE:
-        status_ = CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0,
-                                  0, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
-        return status_ != nullptr ? 0 : -1;
-    case WM_SIZE: Do([&] { Resize(); }); return 0;
-    case WM_PAINT: Paint(); return 0;
-    case WM_ERASEBKGND: return 1; // the picture covers everything
-    case WM_MOUSEMOVE: Do([&] { editor_.MouseMove(PointOf(lParam)); }); return 0;
-    case WM_LBUTTONDOWN:
-        SetCapture(window_);
-        Do([&] { editor_.MouseDown(PointOf(lParam)); });
-        return 0;
-    case WM_LBUTTONUP:
-        Do([&] { editor_.MouseUp(PointOf(lParam)); });
-        ReleaseCapture();
-        return 0;
-    case WM_CAPTURECHANGED:
-        if (!editor_.HasTool())
-            Do([&] { editor_.Cancel(); });
-        return 0;
-    case WM_RBUTTONDOWN: Do([&] { Cancel(); }); return 0;
-    case WM_KEYDOWN:
-        if (wParam == VK_ESCAPE) // no accelerator: those rest while the mouse draws a rubber band
-            Execute(IDM_CANCEL);
-        return 0;
-    case WM_KEYUP: Do([&] { editor_.KeyUp(wParam, lParam); }); return 0;
-    case WM_SETCURSOR:
-        if (LOWORD(lParam) != HTCLIENT)
-            break;
-        SetCursor(LoadCursorW(nullptr, editor_.HasTool() ? IDC_CROSS : IDC_ARROW));
-        return TRUE;
+    case WM_CREATE: CreateParts(); return status_ != nullptr ? 0 : -1;
+    case WM_SIZE: Resize(); return 0;
+    case WM_SETFOCUS: FocusPlan(); return 0;
     case WM_COMMAND: Execute(LOWORD(wParam)); return 0;
     case WM_INITMENUPOPUP: EnableCommands(reinterpret_cast<HMENU>(wParam)); return 0;
     case WM_CLOSE:
@@ -199,21 +163,58 @@ void EditorWindow::Do(const Action& action) {
     ShowState();
 }
 
+void EditorWindow::CreateParts() {
+    status_ = CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0,
+                              window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+    plan_.Create(window_, [this](const std::function<void()>& action) { Do(action); });
+    palette_ = MakePalette(window_, *this);
+}
+
 void EditorWindow::Resize() {
     RECT client, bar;
     SendMessageW(status_, WM_SIZE, 0, 0);
     GetClientRect(window_, &client);
     GetWindowRect(status_, &bar);
-    const int countStart = client.right - OnScreen(kCountWidth);
-    const int ends[] = {std::max(0, countStart - OnScreen(kPositionWidth)), std::max(0, countStart), -1};
+    const UINT dots = DotsOf(window_);
+    const int countStart = client.right - Scaled(kCountWidth, dots);
+    const int ends[] = {std::max(0, countStart - Scaled(kPositionWidth, dots)), std::max(0, countStart), -1};
     SendMessageW(status_, SB_SETPARTS, std::size(ends), reinterpret_cast<LPARAM>(ends));
-    editor_.Resize({client.right, client.bottom - (bar.bottom - bar.top)});
+    const EditorLayout layout = LayOut({client.right, client.bottom},
+                                       {0, palette_ ? palette_->Width(dots) : 0, bar.bottom - bar.top});
+    plan_.MoveTo(layout.plan);
+    if (palette_) {
+        const auto [left, top, right, bottom] = layout.palette;
+        MoveWindow(palette_->Window(), left, top, right - left, bottom - top, TRUE);
+    }
 }
 
-void EditorWindow::Paint() {
-    PAINTSTRUCT paint;
-    editor_.Paint(BeginPaint(window_, &paint));
-    EndPaint(window_, &paint);
+void EditorWindow::FollowMouse() {
+    editor_.MouseMove(plan_.Mouse());
+}
+
+void EditorWindow::BeginPlacing(const std::wstring& name) {
+    Do([&] {
+        editor_.Cancel();
+        editor_.Place(name);
+        FollowMouse();
+    });
+    FocusPlan();
+}
+
+void EditorWindow::BeginDragging(const std::wstring& name) {
+    BeginPlacing(name);
+    editor_.FixWhereLetGo();
+    SetCapture(plan_.Window());
+}
+
+void EditorWindow::ReloadCatalogue() {
+    Do([&] {
+        editor_.Cancel();
+        editor_.Document().UseCatalogue(OpenCatalogue(catalogueFolder_));
+        editor_.Redraw();
+    });
+    if (palette_)
+        palette_->CatalogueChanged();
 }
 
 void EditorWindow::Execute(int id) {
@@ -224,11 +225,7 @@ void EditorWindow::Execute(int id) {
             if (id != IDM_CANCEL)
                 editor_.Cancel();
             command.run(*this);
-            // The tool's image appears where the mouse is already.
-            POINT mouse;
-            GetCursorPos(&mouse);
-            ScreenToClient(window_, &mouse);
-            editor_.MouseMove(mouse);
+            FollowMouse(); // the tool's image appears where the mouse is already
         });
     }
 }
@@ -245,7 +242,7 @@ void EditorWindow::ShowState() {
     const std::wstring title =
         PlanName(editor_.Document()) + (editor_.Document().IsModified() ? L"* – " : L" – ") + kTitle;
     SetWindowTextW(window_, title.c_str());
-    InvalidateRect(window_, nullptr, FALSE);
+    plan_.Refresh();
 }
 
 void EditorWindow::Cancel() {

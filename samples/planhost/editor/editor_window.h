@@ -1,12 +1,13 @@
 #pragma once
 
-#include "editor.h"
+#include "palette.h"
+#include "plan_window.h"
 
-/// The window with menu and status bar. It hands events to the editor, shows what failed and goes on.
-class EditorWindow {
+/// The window with menu, palette, plan and status bar. It runs the commands, shows what failed and goes on.
+class EditorWindow final : PaletteHost {
 public:
     /// Shows the window with a new plan.
-    explicit EditorWindow(Ptr<_CSymbolColl> catalogue);
+    explicit EditorWindow(const std::filesystem::path& catalogueFolder);
     EditorWindow(const EditorWindow&) = delete;
 
     void Open(const std::filesystem::path& plan);
@@ -25,8 +26,18 @@ private:
     template <class Action>
     void Do(const Action& action);
 
+    _CSymbolColl& Catalogue() override { return editor_.Document().Catalogue(); }
+    const std::filesystem::path& CatalogueFolder() const override { return catalogueFolder_; }
+    Settings& Remembered() override { return settings_; }
+    void BeginPlacing(const std::wstring& name) override;
+    void BeginDragging(const std::wstring& name) override;
+    void ReloadCatalogue() override;
+    void FocusPlan() override { SetFocus(plan_.Window()); }
+
+    void CreateParts();
     void Resize();
-    void Paint();
+    /// Moves what a tool shows to where the mouse is.
+    void FollowMouse();
     void Execute(int command);
     void EnableCommands(HMENU menu) const;
     void ShowState();
@@ -34,7 +45,11 @@ private:
     void MoveBy();
     bool MayClose();
 
+    std::filesystem::path catalogueFolder_;
+    Settings settings_;
+    Editor editor_;
+    PlanWindow plan_;
+    std::unique_ptr<PaletteStrip> palette_;
     HWND window_ = nullptr;
     HWND status_ = nullptr;
-    Editor editor_;
 };

@@ -44,6 +44,11 @@ void PlanDocument::SaveAs(const std::filesystem::path& file) {
     saved_ = plan_.symbols;
 }
 
+void PlanDocument::UseCatalogue(Ptr<_CSymbolColl> catalogue) {
+    symbols_ = FindSymbols(plan_, *catalogue.Get());
+    catalogue_ = std::move(catalogue);
+}
+
 void PlanDocument::Add(const std::vector<PlacedSymbol>& added) {
     std::vector<PlacedSymbol> symbols = plan_.symbols;
     symbols.insert(symbols.end(), added.begin(), added.end());

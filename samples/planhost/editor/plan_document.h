@@ -18,6 +18,8 @@ public:
     void Open(const std::filesystem::path& file);
     void SaveAs(const std::filesystem::path& file);
 
+    /// Takes the plan's symbols from another catalogue; all of them must be in it.
+    void UseCatalogue(Ptr<_CSymbolColl> catalogue);
     _CSymbolColl& Catalogue() const { return *catalogue_.Get(); }
     const Plan& Content() const { return plan_; }
     /// The symbols of the catalogue that the plan shows, in its order.

@@ -17,7 +17,7 @@ void LeaveOwnConsole() {
 void RunEditor(const std::filesystem::path& catalogueFolder, const std::filesystem::path& plan) {
     LeaveOwnConsole();
     try {
-        EditorWindow window(OpenCatalogue(catalogueFolder));
+        EditorWindow window(catalogueFolder);
         if (!plan.empty())
             window.Open(plan);
         window.Run();
