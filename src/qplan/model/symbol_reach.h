@@ -1,0 +1,27 @@
+#pragma once
+
+#include "qsymbol/model/element_extent.h"
+#include "qsymbol/model/symbol.h"
+
+#include <limits>
+
+namespace qplan {
+
+/// How far a symbol reaches from its reference point, unturned and unscaled: nothing of it is hit, caught or drawn
+/// beyond. It may be larger than the truth, never smaller.
+struct SymbolReach {
+    qsymbol::Box box;  ///< logical units, the reference point is (0, 0); empty: nothing is ever there
+    double pixels = 0; ///< what drawing adds on every side, whatever the scale: texts have a least height
+
+    /// Of a symbol of which nothing is known: it is asked every time.
+    static constexpr SymbolReach Unlimited() {
+        constexpr double kFar = std::numeric_limits<double>::infinity();
+        return {{-kFar, -kFar, kFar, kFar}, kFar};
+    }
+    bool IsUnlimited() const { return box.right - box.left == std::numeric_limits<double>::infinity(); }
+};
+
+/// That of a value: its nominal box and all elements, with pens and a generous estimate of its texts.
+SymbolReach ReachOf(const qsymbol::Symbol& symbol);
+
+} // namespace qplan

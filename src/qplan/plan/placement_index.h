@@ -1,0 +1,40 @@
+#pragma once
+
+#include "qplan/index/box_index.h"
+#include "qplan/plan/placement_list.h"
+#include "qplan/plan/symbol_table.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace qplan {
+
+/// Where the placements of a plan are, by the reach of their symbols. Made when it is first asked for; every question
+/// adds what has come since.
+class PlacementIndex {
+public:
+    /// All slots have changed, or reach elsewhere.
+    void Forget();
+    /// A slot has another position.
+    void Moved(std::size_t slot) { moved_.push_back(static_cast<std::uint32_t>(slot)); }
+
+    /// Brings it up to date, for symbols scaled by at most this factor. It holds for smaller ones too and is not made
+    /// again for them, so that drawing and hit tests with different factors may alternate.
+    void Update(const PlacementList& placements, const SymbolTable& symbols, double factor);
+
+    /// Slots that may have something in the window, in order, each once; empty ones may be among them.
+    std::vector<std::uint32_t> SlotsIn(const WorldBox& window);
+    /// The same from the top down, as far as they are asked for; a slot may come again.
+    BoxIndex::Descent DescendIn(const WorldBox& window) { return {tree_, window}; }
+
+private:
+    void Add(std::size_t slot, const Placement& placement, const SymbolReach& reach);
+
+    BoxIndex tree_;
+    std::size_t known_ = 0; ///< slots below are in
+    std::vector<std::uint32_t> moved_;
+    double factor_ = 1;
+    bool mirrored_ = false;
+};
+
+} // namespace qplan

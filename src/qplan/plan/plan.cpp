@@ -1,0 +1,228 @@
+#include "qplan/plan/plan.h"
+
+#include "base/error.h"
+#include "qsymbol/draw/surface_factors.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace qplan {
+
+using qsymbol::SymbolPosition;
+
+namespace {
+
+void RequireAngle(const SymbolPosition& position) {
+    if (!std::isfinite(position.angle))
+        base::Raise(base::RunTimeError::InvalidCall);
+}
+
+/// The square of the distance of a caught point from the cursor.
+double Distance(qmath::Point caught, float x, float y) {
+    const double dx = static_cast<double>(caught.x) - x;
+    const double dy = static_cast<double>(caught.y) - y;
+    return dx * dx + dy * dy;
+}
+
+} // namespace
+
+/// A placement that is going to be asked.
+struct Plan::Asked {
+    std::size_t slot;
+    std::int32_t id;
+};
+
+void Plan::SetSymbols(std::shared_ptr<SymbolSource> source) {
+    symbols_.SetSource(std::move(source));
+    index_.Forget();
+}
+
+std::int32_t Plan::Add(std::u16string_view name, const SymbolPosition& position) {
+    const std::uint32_t symbol = symbols_.Take(name);
+    RequireAngle(position);
+    if (lastId_ == std::numeric_limits<std::int32_t>::max())
+        base::Raise(base::RunTimeError::Overflow);
+    placements_.Append({lastId_ + 1, symbol, position});
+    ++changes_;
+    return ++lastId_;
+}
+
+void Plan::Move(std::int32_t id, const SymbolPosition& position) {
+    const std::optional<std::size_t> slot = placements_.SlotOf(id);
+    if (!slot)
+        base::Raise(base::RunTimeError::InvalidCall);
+    RequireAngle(position);
+    index_.Moved(*slot);
+    placements_.Move(*slot, position);
+    ++changes_;
+}
+
+void Plan::RemoveById(std::int32_t id) {
+    const std::optional<std::size_t> slot = placements_.SlotOf(id);
+    if (!slot)
+        base::Raise(base::RunTimeError::InvalidCall);
+    if (placements_.Remove(*slot))
+        index_.Forget();
+    ++changes_;
+}
+
+void Plan::Clear() {
+    placements_.Clear();
+    symbols_.Clear();
+    index_.Forget();
+    sheet_ = {};
+    ++changes_;
+}
+
+void Plan::Refresh() const {
+    if (symbols_.Refresh())
+        index_.Forget();
+}
+
+WorldBox Plan::Near(const PixelWindow& pixels, const qsymbol::Transformation& transformation,
+                    double factor) const {
+    const std::optional<WorldBox> window = WorldWindow(pixels, transformation);
+    // Last, because all before may call a host, which may change the plan.
+    index_.Update(placements_, symbols_, factor);
+    return window && std::isfinite(factor) ? *window : WorldBox::Everything();
+}
+
+std::vector<Plan::Asked> Plan::Candidates(const WorldBox& window) const {
+    std::vector<Asked> candidates;
+    for (const std::uint32_t slot : index_.SlotsIn(window))
+        if (const Placement* const placement = placements_.AtSlot(slot))
+            candidates.push_back({slot, placement->id});
+    return candidates;
+}
+
+const Placement* Plan::Still(const Asked& asked) const {
+    if (asked.slot < placements_.SlotCount())
+        if (const Placement* const there = placements_.AtSlot(asked.slot);
+            there != nullptr && there->id == asked.id)
+            return there;
+    return placements_.ById(asked.id);
+}
+
+std::optional<std::int32_t> Plan::HitTest(const View& view, qmath::Point screen) const {
+    Refresh();
+    const PixelWindow pixel = PixelWindow::Around({screen.x, screen.y, screen.x, screen.y});
+    BoxIndex::Descent descent = index_.DescendIn(Near(pixel, view.transformation, view.screenFactor));
+    const auto isHit = [&](const Placement& placement) {
+        const std::shared_ptr<const PlacedSymbol> symbol = SymbolOf(placement);
+        return symbol->IsHitAt(SymbolPosition(placement.position), view, screen);
+    };
+    const std::uint64_t before = changes_;
+    for (std::uint32_t slot = 0; descent.Next(slot);) {
+        const Placement* const placement = placements_.AtSlot(slot);
+        if (placement == nullptr)
+            continue;
+        const std::int32_t id = placement->id;
+        if (isHit(*placement))
+            return id;
+        if (changes_ == before)
+            continue;
+        // A symbol of the host has changed the plan: what lies below is asked as it is now.
+        std::vector<Asked> below = Candidates(WorldBox::Everything());
+        std::reverse(below.begin(), below.end());
+        for (const Asked& asked : below)
+            if (const Placement* const there = asked.id < id ? Still(asked) : nullptr)
+                if (isHit(*there))
+                    return asked.id;
+        return std::nullopt;
+    }
+    return std::nullopt;
+}
+
+std::vector<std::int32_t> Plan::HitRect(const View& view, const qmath::Rect& screen) const {
+    Refresh();
+    std::vector<std::int32_t> hits;
+    for (const Asked& asked :
+         Candidates(Near(PixelWindow::Around(screen), view.transformation, view.screenFactor))) {
+        const Placement* const placement = Still(asked);
+        if (placement == nullptr)
+            continue;
+        const std::shared_ptr<const PlacedSymbol> symbol = SymbolOf(*placement);
+        if (symbol->IsHitBy(SymbolPosition(placement->position), view, screen))
+            hits.push_back(asked.id);
+    }
+    return hits;
+}
+
+std::optional<qsymbol::CaughtPoint> Plan::CatchPt(const View& view, float x, float y,
+                                                  std::int16_t range) const {
+    Refresh();
+    const double reach = std::max<double>(range, 0);
+    const PixelWindow pixels{x - reach, y - reach, x + reach, y + reach};
+    std::optional<qsymbol::CaughtPoint> nearest;
+    double least = 0;
+    for (const Asked& asked : Candidates(Near(pixels, view.transformation, view.screenFactor))) {
+        const Placement* const placement = Still(asked);
+        if (placement == nullptr)
+            continue;
+        const std::shared_ptr<const PlacedSymbol> symbol = SymbolOf(*placement);
+        const auto caught = symbol->CatchPt(SymbolPosition(placement->position), view, x, y, range);
+        if (!caught)
+            continue;
+        // What comes later lies on top.
+        if (const double distance = Distance(caught->screen, x, y); !nearest || distance <= least) {
+            nearest = caught;
+            least = distance;
+        }
+    }
+    return nearest;
+}
+
+std::optional<qmath::Rect> Plan::Extent(double screenFactor) const {
+    Refresh();
+    const ExtentKey key{changes_, symbols_.Changes(), screenFactor};
+    if (extent_.first == key)
+        return extent_.second;
+    std::optional<qmath::Rect> extent;
+    for (const Placement* next = placements_.NextAfter(0); next != nullptr;) {
+        const std::int32_t id = next->id;
+        const std::shared_ptr<const PlacedSymbol> symbol = SymbolOf(*next);
+        const qmath::Rect bounds = symbol->Bounds(SymbolPosition(next->position), screenFactor);
+        const qmath::Rect last = extent.value_or(bounds);
+        extent = {std::min(last.left, bounds.left), std::min(last.top, bounds.top),
+                  std::max(last.right, bounds.right), std::max(last.bottom, bounds.bottom)};
+        next = placements_.NextAfter(id);
+    }
+    extent_ = {key, extent};
+    return extent;
+}
+
+std::vector<std::int32_t> Plan::Visible(const qsymbol::Transformation& transformation,
+                                        const std::optional<qmath::Rect>& pixels,
+                                        double geometryFactor) const {
+    // The thinnest pen, an arc's rounded box and the pixel that a line leaves out.
+    constexpr double kMargin = 3;
+    Refresh();
+    const double scale = std::max(1.0, std::abs(geometryFactor));
+    WorldBox window = WorldBox::Everything();
+    if (pixels)
+        window = Near(PixelWindow::Around(*pixels, kMargin + symbols_.MostPixels() * scale), transformation,
+                      geometryFactor);
+    else
+        index_.Update(placements_, symbols_, geometryFactor);
+    std::vector<std::int32_t> ids;
+    for (const Asked& asked : Candidates(window))
+        ids.push_back(asked.id);
+    return ids;
+}
+
+void Plan::Draw(qsymbol::Surface& surface, const qsymbol::Transformation& transformation,
+                const std::optional<qmath::Rect>& pixels, const qsymbol::DrawFactors& factors,
+                std::int32_t markColor) const {
+    const double factor = FactorsFor(surface, factors).geometry;
+    for (const std::int32_t id : Visible(transformation, pixels, factor)) {
+        const Placement* const placement = placements_.ById(id);
+        if (placement == nullptr)
+            continue;
+        const std::shared_ptr<const PlacedSymbol> symbol = SymbolOf(*placement);
+        symbol->Draw(SymbolPosition(placement->position), surface, transformation, factors, markColor);
+    }
+}
+
+} // namespace qplan

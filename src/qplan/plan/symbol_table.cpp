@@ -1,0 +1,101 @@
+#include "qplan/plan/symbol_table.h"
+
+#include "base/error.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace qplan {
+
+namespace {
+
+std::shared_ptr<const PlacedSymbol> Find(SymbolSource& source, std::u16string_view name) {
+    std::shared_ptr<const PlacedSymbol> symbol = source.Find(name);
+    if (symbol == nullptr)
+        base::Raise(base::RunTimeError::InvalidCall);
+    return symbol;
+}
+
+SymbolTable::Entry EntryOf(std::u16string name, std::shared_ptr<const PlacedSymbol> symbol) {
+    // The edition first: a change in between is seen the next time.
+    const std::uint64_t edition = symbol->Edition();
+    const SymbolReach reach = symbol->Reach();
+    return {std::move(name), std::move(symbol), edition, reach};
+}
+
+bool IsSame(const qsymbol::Box& a, const qsymbol::Box& b) {
+    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+}
+
+} // namespace
+
+void SymbolTable::SetSource(std::shared_ptr<SymbolSource> source) {
+    if (source != nullptr && source != source_) {
+        // Finding may change the plan, so the names are taken first.
+        std::vector<Entry> entries;
+        entries.reserve(entries_.size());
+        for (std::size_t i = 0; i < entries_.size(); ++i) {
+            std::u16string name = entries_[i].name;
+            entries.push_back(EntryOf(name, Find(*source, name)));
+        }
+        if (entries.size() == entries_.size())
+            entries_ = std::move(entries);
+        mostPixels_ = 0;
+        for (Entry& entry : entries_)
+            mostPixels_ = std::max(mostPixels_, entry.reach.pixels);
+        sourceEdition_ = source->Edition();
+    }
+    source_ = std::move(source);
+    ++changes_;
+}
+
+std::uint32_t SymbolTable::Take(std::u16string_view name) {
+    if (source_ == nullptr)
+        base::Raise(base::RunTimeError::ObjectNotSet);
+    std::shared_ptr<const PlacedSymbol> symbol = Find(*source_, name);
+    std::u16string key(name);
+    const auto known = byName_.find(key);
+    if (known != byName_.end() && entries_[known->second].symbol == symbol)
+        return known->second;
+    Entry entry = EntryOf(key, std::move(symbol));
+    const auto at = static_cast<std::uint32_t>(entries_.size());
+    mostPixels_ = std::max(mostPixels_, entry.reach.pixels);
+    entries_.push_back(std::move(entry));
+    byName_[std::move(key)] = at;
+    return at;
+}
+
+void SymbolTable::Clear() {
+    entries_ = {};
+    byName_ = {};
+    mostPixels_ = 0;
+    ++changes_;
+}
+
+bool SymbolTable::Refresh() const {
+    if (source_ != nullptr) {
+        const std::uint64_t edition = source_->Edition();
+        if (edition == sourceEdition_)
+            return false;
+        sourceEdition_ = edition;
+    }
+    bool moved = false;
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+        const std::shared_ptr<const PlacedSymbol> symbol = entries_[i].symbol;
+        const std::uint64_t edition = symbol->Edition();
+        if (edition == entries_[i].edition)
+            continue;
+        const SymbolReach reach = symbol->Reach();
+        // Asking may have changed the plan.
+        if (i >= entries_.size() || entries_[i].symbol != symbol)
+            return true;
+        moved |= !IsSame(reach.box, entries_[i].reach.box);
+        mostPixels_ = std::max(mostPixels_, reach.pixels);
+        entries_[i].edition = edition;
+        entries_[i].reach = reach;
+        ++changes_;
+    }
+    return moved;
+}
+
+} // namespace qplan
