@@ -7,7 +7,7 @@ file(READ ${INPUT} header)
 string(REGEX REPLACE "from [^ ]*/([A-Za-z]+[.]idl)" "from \\1" header "${header}")
 
 # In quotes the file beside this one is meant: in brackets a "qmath.h" of somebody else may win.
-string(REPLACE "#include <QMath.h>" "#include \"QMath.h\"" header "${header}")
+string(REGEX REPLACE "#include <(QMath|QSymbol)[.]h>" "#include \"\\1.h\"" header "${header}")
 
 # <windowsx.h> has a macro of the name of a method. It is out of sight here and as it was behind, so it may be
 # included before or after.

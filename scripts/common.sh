@@ -176,10 +176,10 @@ windows() {
     printf 'Z:%s\n' "${path//\//\\}"
 }
 
-# register FOLDER: enters both DLLs of a folder in the prefix.
+# register FOLDER: enters the DLLs of a folder in the prefix.
 register() {
     local name
-    for name in QMath QSymbol; do
+    for name in QMath QSymbol QPlan; do
         wine_run regsvr32 /s "$(windows "$1/$name.dll")"
     done
 }

@@ -25,7 +25,7 @@ Way WayOf(int argc, char** argv) {
     return way;
 }
 
-/// Registers both DLLs beside the program for the whole run and checks at its end that nothing of them lives.
+/// Registers the DLLs beside the program for the whole run and checks at its end that nothing of them lives.
 class RegisteredServers final : public testing::Environment {
 public:
     explicit RegisteredServers(const Way& way) : way_(way) {}
@@ -33,17 +33,21 @@ public:
     void SetUp() override {
         ASSERT_TRUE(support::QMathServer().Loaded());
         ASSERT_TRUE(support::QSymbolServer().Loaded());
+        ASSERT_TRUE(support::QPlanServer().Loaded());
         if (way_.manifest) {
+            ASSERT_EQ(support::QPlanServer().Unregister(), S_OK);
             ASSERT_EQ(support::QSymbolServer().Unregister(), S_OK);
             ASSERT_EQ(support::QMathServer().Unregister(), S_OK);
             return;
         }
         ASSERT_EQ(support::QMathServer().Register(), S_OK);
         ASSERT_EQ(support::QSymbolServer().Register(), S_OK);
+        ASSERT_EQ(support::QPlanServer().Register(), S_OK);
     }
     void TearDown() override {
         if (way_.multithreaded)
             return; // the system keeps class objects in the apartment that it provides
+        EXPECT_EQ(support::QPlanServer().CanUnloadNow(), S_OK);
         EXPECT_EQ(support::QSymbolServer().CanUnloadNow(), S_OK);
         EXPECT_EQ(support::QMathServer().CanUnloadNow(), S_OK);
     }

@@ -42,6 +42,7 @@ INCLUDES = {
     "windowsx.h first": ["windowsx.h", "QSymbol.h"],
     "windowsx.h last": ["QSymbol.h", "windowsx.h"],
     "windowsx.h between": ["QMath.h", "windowsx.h", "QSymbol.h"],
+    "plans": ["QPlan.h"],
 }
 
 

@@ -1,9 +1,9 @@
 #include "automation/qsymbol/CSymElementColl.h"
 
+#include "automation/objects/element_access.h"
+#include "automation/objects/host_surface.h"
+#include "automation/objects/host_transformation.h"
 #include "automation/qsymbol/CSymElement.h"
-#include "automation/qsymbol/element_access.h"
-#include "automation/qsymbol/host_surface.h"
-#include "automation/qsymbol/host_transformation.h"
 #include "automation/qsymbol/object_list.h"
 #include "qsymbol/draw/element_drawing.h"
 #include "qsymbol/draw/surface_constants.h"

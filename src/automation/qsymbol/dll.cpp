@@ -1,9 +1,9 @@
+#include "automation/objects/math_library.h"
 #include "automation/qsymbol/CSymElement.h"
 #include "automation/qsymbol/CSymElementColl.h"
 #include "automation/qsymbol/CSymTool.h"
 #include "automation/qsymbol/CSymbol.h"
 #include "automation/qsymbol/CSymbolColl.h"
-#include "automation/qsymbol/math_library.h"
 #include "com/server.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "automation/qsymbol/host_surface.h"
-#include "automation/qsymbol/host_transformation.h"
+#include "automation/objects/host_surface.h"
+#include "automation/objects/host_transformation.h"
 #include "qsymbol/tools/drawing_target.h"
 
 #include <optional>

@@ -1,8 +1,8 @@
 #include "automation/qsymbol/symbol_selection.h"
 
 #include "automation/dialog/select_symbol.h"
+#include "automation/objects/math_objects.h"
 #include "automation/qsymbol/library.h"
-#include "automation/qsymbol/math_objects.h"
 #include "com/module.h"
 #include "com/object_call.h"
 

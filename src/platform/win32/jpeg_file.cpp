@@ -2,11 +2,9 @@
 
 #include "base/error.h"
 #include "platform/wide/wide_text.h"
+#include "platform/win32/gdi_plus.h"
 
 #include <objbase.h>
-#include <objidl.h>
-
-#include <gdiplus.h>
 
 namespace platform {
 
@@ -14,40 +12,10 @@ namespace {
 
 namespace flat = Gdiplus::DllExports;
 
-constexpr const wchar_t* kJpegEncoder = L"{557CF401-1A04-11D3-9A73-0000F81EF32E}";
-constexpr const wchar_t* kQualityParameter = L"{1D5BE4B5-FA4A-452D-9CDD-5DB35105E7EB}";
-constexpr UINT32 kInputVersion = 1;
-
-/// GDI+ between start-up and shut-down.
-class GdiPlus {
-public:
-    GdiPlus() {
-        Gdiplus::GdiplusStartupInput input;
-        input.GdiplusVersion = kInputVersion;
-        status_ = Gdiplus::GdiplusStartup(&token_, &input, nullptr);
-    }
-    GdiPlus(const GdiPlus&) = delete;
-    GdiPlus& operator=(const GdiPlus&) = delete;
-    ~GdiPlus() {
-        if (status_ == Gdiplus::Ok)
-            Gdiplus::GdiplusShutdown(token_);
-    }
-    Gdiplus::GpStatus Status() const { return status_; }
-
-private:
-    ULONG_PTR token_ = 0;
-    Gdiplus::GpStatus status_;
-};
-
 Gdiplus::GpStatus SaveImage(Gdiplus::GpImage* image, const std::u16string& fileName, LONG quality) {
     CLSID encoder;
-    Gdiplus::EncoderParameters parameters{};
     CLSIDFromString(kJpegEncoder, &encoder);
-    CLSIDFromString(kQualityParameter, &parameters.Parameter[0].Guid);
-    parameters.Count = 1;
-    parameters.Parameter[0].NumberOfValues = 1;
-    parameters.Parameter[0].Type = Gdiplus::EncoderParameterValueTypeLong;
-    parameters.Parameter[0].Value = &quality;
+    const Gdiplus::EncoderParameters parameters = JpegQuality(quality);
     return flat::GdipSaveImageToFile(image, Wide(fileName), &encoder, &parameters);
 }
 

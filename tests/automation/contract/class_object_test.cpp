@@ -27,6 +27,7 @@ const PublicClass kClasses[] = {
     {L"QSymbol.CSymElement", &CLSID_CSymElement, &IID__CSymElement},
     {L"QSymbol.CSymElementColl", &CLSID_CSymElementColl, &IID__CSymElementColl},
     {L"QSymbol.CSymTool", &CLSID_CSymTool, &IID__CSymTool},
+    {L"QPlan.CPicture", &CLSID_CPicture, &IID__CPicture},
     {L"QMath.CTrans", &CLSID_CTrans, &IID__CTrans},
     {L"QMath.CPt", &CLSID_CPt, &IID__CPt},
     {L"QMath.CPtList", &CLSID_CPtList, &IID__CPtList},
@@ -52,8 +53,10 @@ protected:
         return progId.substr(progId.find(L'.') + 1);
     }
     const support::Server& Server() const {
-        return std::wstring(GetParam().progId).starts_with(L"QMath") ? support::QMathServer()
-                                                                     : support::QSymbolServer();
+        const std::wstring progId = GetParam().progId;
+        return progId.starts_with(L"QMath")   ? support::QMathServer()
+               : progId.starts_with(L"QPlan") ? support::QPlanServer()
+                                              : support::QSymbolServer();
     }
 };
 
@@ -162,7 +165,8 @@ TEST_P(ClassObject, KeepsTheServerLoaded) {
 class UnknownClass : public AutomationTest {};
 
 TEST_F(UnknownClass, IsNotAvailable) {
-    for (const support::Server* server : {&support::QMathServer(), &support::QSymbolServer()}) {
+    for (const support::Server* server :
+         {&support::QMathServer(), &support::QSymbolServer(), &support::QPlanServer()}) {
         void* object = &object;
         EXPECT_EQ(server->GetClassObject(IID_IStream, IID_IClassFactory, &object), CLASS_E_CLASSNOTAVAILABLE);
         EXPECT_EQ(object, nullptr);

@@ -57,6 +57,17 @@ const Published kPublished[] = {
       "coclass CSymElementColl 4C2BA0E0-B9EC-48E1-9EE2-9BAA736E981F",
       "coclass CSymInput CBCDF685-39C4-4111-8F95-E60601E89049",
       "coclass CSymTool AE5C6A3B-F12D-45E6-AF62-DFE40BC79860"}},
+    {L"QPlan",
+     {"enum PlanUnitConstants A5E6BE03-2274-4B85-AE8B-3B7D47734C09",
+      "interface _CPicture 96A8A189-6D98-4B69-BDB6-596FB93AA62A",
+      "interface _CPlacement BD92C3D9-A088-46A8-A243-31B318D307F3",
+      "interface _CPlacementColl 3A5A0434-BEFC-4E66-BC4B-4DE90F5A3C9B",
+      "interface _CPlan 2A5D8BC4-971A-40F0-B7B9-5F32261C7DCF",
+      "library QPlan BA247BB5-9514-40B7-90F6-3E491400F419",
+      "coclass CPicture AA85A60E-C965-43F7-ADF1-97F5808E1657",
+      "coclass CPlacement A8DC21DD-352D-43EA-8799-98DB85D9879A",
+      "coclass CPlacementColl 9B3B3D09-9850-4AD0-A615-3653904DFA86",
+      "coclass CPlan E7DDE405-ACDF-4328-8B7A-8E978E50DC55"}},
 };
 
 std::string IdText(const GUID& id) {

@@ -8,13 +8,14 @@ namespace {
 
 using support::Dispatch;
 using support::QMathServer;
+using support::QPlanServer;
 using support::QSymbolServer;
 
 /// Activates the assembly manifest beside the DLLs for the running thread.
 class ActiveManifest {
 public:
-    ActiveManifest() {
-        const std::wstring path = support::ProgramFolder() + L"QSymbol.X.manifest";
+    explicit ActiveManifest(const wchar_t* name = L"QSymbol.X.manifest") {
+        const std::wstring path = support::ProgramFolder() + name;
         ACTCTXW description{};
         description.cbSize = sizeof description;
         description.lpSource = path.c_str();
@@ -37,18 +38,21 @@ private:
 class WithoutRegistration : public support::AutomationTest {
 protected:
     void SetUp() override {
+        ASSERT_OK(QPlanServer().Unregister());
         ASSERT_OK(QSymbolServer().Unregister());
         ASSERT_OK(QMathServer().Unregister());
     }
     void TearDown() override {
         EXPECT_OK(QMathServer().Register());
         EXPECT_OK(QSymbolServer().Register());
+        EXPECT_OK(QPlanServer().Register());
     }
 };
 
 TEST_F(WithoutRegistration, NothingCanBeCreated) {
     EXPECT_FALSE(Dispatch::Create(L"QSymbol.CSymbol"));
     EXPECT_FALSE(Dispatch::Create(L"QMath.CPt"));
+    EXPECT_FALSE(Dispatch::Create(L"QPlan.CPicture"));
 }
 
 TEST_F(WithoutRegistration, TheManifestServesAHost) {
@@ -60,6 +64,13 @@ TEST_F(WithoutRegistration, TheManifestServesAHost) {
           L"QSymbol.CSymTool"})
         EXPECT_TRUE(Dispatch::Create(progId)) << progId;
     EXPECT_FALSE(Dispatch::Create(L"QSymbol.CSymInput")) << "only a catalogue makes one";
+}
+
+TEST_F(WithoutRegistration, TheManifestOfPlansBringsTheOtherOne) {
+    const ActiveManifest manifest(L"QPlan.X.manifest");
+    for (const wchar_t* progId : {L"QPlan.CPicture", L"QSymbol.CSymbol", L"QMath.CTrans"})
+        EXPECT_TRUE(Dispatch::Create(progId)) << progId;
+    EXPECT_FALSE(Dispatch::Create(L"QPlan.CPlacement")) << "only a plan makes one";
 }
 
 TEST_F(WithoutRegistration, TheLibrariesFindEachOther) {

@@ -10,6 +10,7 @@ namespace {
 
 using support::Bstr;
 using support::QMathServer;
+using support::QPlanServer;
 using support::QSymbolServer;
 using support::ReadRegistry;
 using support::Ref;
@@ -24,8 +25,10 @@ protected:
     void TearDown() override {
         EXPECT_OK(QMathServer().Install(false, L"user"));
         EXPECT_OK(QSymbolServer().Install(false, L"user"));
+        EXPECT_OK(QPlanServer().Install(false, L"user"));
         EXPECT_OK(QMathServer().Register());
         EXPECT_OK(QSymbolServer().Register());
+        EXPECT_OK(QPlanServer().Register());
     }
     static bool CanCreate() {
         Ref<IUnknown> object;
@@ -62,16 +65,20 @@ TEST_F(Registration, TheTypeLibrariesAreFoundInEveryLocale) {
         Ref<ITypeLib> library;
         EXPECT_OK(LoadRegTypeLib(LIBID_QSymbol, 4, 1, locale, library.Put())) << std::hex << locale;
         EXPECT_OK(LoadRegTypeLib(LIBID_QMath, 1, 0, locale, library.Put())) << std::hex << locale;
+        EXPECT_OK(LoadRegTypeLib(LIBID_QPlan, 1, 0, locale, library.Put())) << std::hex << locale;
     }
 }
 
 TEST_F(Registration, LeavesNothingBehind) {
+    ASSERT_OK(QPlanServer().Unregister());
     ASSERT_OK(QSymbolServer().Unregister());
     ASSERT_OK(QMathServer().Unregister());
     const std::vector<std::wstring> without = support::ClassKeys();
     ASSERT_OK(QMathServer().Register());
     ASSERT_OK(QSymbolServer().Register());
+    ASSERT_OK(QPlanServer().Register());
     EXPECT_GT(support::ClassKeys().size(), without.size());
+    ASSERT_OK(QPlanServer().Unregister());
     ASSERT_OK(QSymbolServer().Unregister());
     ASSERT_OK(QMathServer().Unregister());
     EXPECT_THAT(support::ClassKeys(), testing::ElementsAreArray(without));

@@ -6,12 +6,12 @@
 #include "support/ref.h"
 #include "support/value.h"
 
-#include <QSymbol.h>
+#include <QPlan.h>
 #include <gtest/gtest.h>
 
 namespace support {
 
-/// A test with registered classes. After it no object of either library may live.
+/// A test with registered classes. After it no object of any library may live.
 class AutomationTest : public testing::Test {
 protected:
     AutomationTest();

@@ -1,4 +1,4 @@
 // The class and interface ids of the published headers, defined once for the whole program.
 #include <initguid.h>
 
-#include <QSymbol.h>
+#include <QPlan.h>

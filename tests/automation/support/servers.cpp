@@ -69,4 +69,9 @@ Server& QSymbolServer() {
     return server;
 }
 
+Server& QPlanServer() {
+    static Server server(ProgramFolder() + L"QPlan.dll");
+    return server;
+}
+
 } // namespace support

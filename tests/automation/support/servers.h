@@ -8,7 +8,7 @@
 
 namespace support {
 
-/// A copy of one of the two DLLs, loaded by its full path and reached through its entry points.
+/// A copy of one of the DLLs, loaded by its full path and reached through its entry points.
 class Server {
 public:
     explicit Server(const std::wstring& path);
@@ -35,6 +35,7 @@ private:
 /// The DLLs beside the program, loaded for the whole run.
 Server& QMathServer();
 Server& QSymbolServer();
+Server& QPlanServer();
 
 /// True under Wine, where some services of the system are thinner.
 bool RunsUnderWine();

@@ -1,6 +1,6 @@
-#include "automation/qsymbol/math_objects.h"
+#include "automation/objects/math_objects.h"
 
-#include "automation/qsymbol/math_library.h"
+#include "automation/objects/math_library.h"
 #include "automation/shared/point_access.h"
 #include "com/object_call.h"
 

@@ -1,6 +1,6 @@
-#include "automation/qsymbol/element_access.h"
+#include "automation/objects/element_access.h"
 
-#include "automation/qsymbol/font_access.h"
+#include "automation/objects/font_access.h"
 #include "automation/shared/point_access.h"
 #include "base/error.h"
 #include "com/object_call.h"

@@ -1,4 +1,4 @@
-#include "automation/qsymbol/math_library.h"
+#include "automation/objects/math_library.h"
 
 #include "com/com_ptr.h"
 #include "com/error_info.h"

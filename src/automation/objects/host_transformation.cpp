@@ -1,6 +1,6 @@
-#include "automation/qsymbol/host_transformation.h"
+#include "automation/objects/host_transformation.h"
 
-#include "automation/qsymbol/math_objects.h"
+#include "automation/objects/math_objects.h"
 #include "automation/shared/point_access.h"
 
 #include <utility>

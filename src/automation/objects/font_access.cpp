@@ -1,4 +1,4 @@
-#include "automation/qsymbol/font_access.h"
+#include "automation/objects/font_access.h"
 
 #include "com/error_info.h"
 #include "com/late_bound.h"

@@ -1,4 +1,4 @@
-#include "automation/qsymbol/host_surface.h"
+#include "automation/objects/host_surface.h"
 
 #include "base/checked.h"
 #include "com/type_name.h"

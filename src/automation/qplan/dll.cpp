@@ -1,0 +1,21 @@
+#include "automation/objects/math_library.h"
+#include "automation/qplan/CPicture.h"
+#include "com/server.h"
+
+namespace {
+
+/// CPlacement and CPlacementColl are missing on purpose: they come from a plan only.
+const com::ClassEntry kClasses[] = {
+    {&__uuidof(CPicture), L"CPicture", L"QPlan.CPicture", CPicture::CreateInstance},
+};
+
+} // namespace
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* reserved) {
+    return com::ServerMain(instance, reason, reserved,
+                           {.name = u"QPlan",
+                            .classes = kClasses,
+                            .sibling = u"QMath.dll",
+                            .threadIsIdle = math_library::GiveUp,
+                            .mayUnload = math_library::Unload});
+}
