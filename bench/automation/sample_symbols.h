@@ -7,5 +7,5 @@
 #include <string>
 #include <vector>
 
-/// All text symbols of a folder, read through the library.
+/// All text symbols of a folder and its subfolders, read through the library.
 std::vector<com::ComPtr<_CSymbol>> LoadSymbols(const std::wstring& folder);

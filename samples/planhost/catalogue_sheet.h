@@ -2,5 +2,7 @@
 
 #include "catalogue.h"
 
-/// Draws every symbol of the catalogue into a cell of its own, sorted by name, and writes the sheet as PNG.
-void DrawCatalogueSheet(_CSymbolColl& catalogue, const std::filesystem::path& picture);
+/// Draws every symbol into a cell of its own, category by category and sorted by name, and writes the sheet as PNG.
+/// folder: the catalogue that the symbols' files are from.
+void DrawCatalogueSheet(_CSymbolColl& symbols, const std::filesystem::path& folder,
+                        const std::filesystem::path& picture);

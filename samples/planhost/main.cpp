@@ -78,19 +78,20 @@ void Export(const Arguments& arguments) {
               L" geschrieben.");
 }
 
-void DrawSheet(_CSymbolColl& symbols, const std::wstring& picture) {
-    DrawCatalogueSheet(symbols, picture);
+void DrawSheet(_CSymbolColl& symbols, const Arguments& arguments) {
+    const std::wstring& picture = arguments[1];
+    DrawCatalogueSheet(symbols, arguments[0], picture);
     LONG count = 0;
     Check(symbols.get_Count(&count));
     PrintLine(std::to_wstring(count) + L" Symbole in " + picture + L" gezeichnet.");
 }
 
 void ShowCatalogue(const Arguments& arguments) {
-    DrawSheet(*OpenCatalogue(arguments[0]).Get(), arguments[1]);
+    DrawSheet(*OpenCatalogue(arguments[0]).Get(), arguments);
 }
 
 void Import(const Arguments& arguments) {
-    DrawSheet(*ImportFolder(arguments[0]).Get(), arguments[1]);
+    DrawSheet(*ImportFolder(arguments[0]).Get(), arguments);
 }
 
 void Edit(const Arguments& arguments) {

@@ -41,10 +41,19 @@ Sub RequireFolder(Path)
     End If
 End Sub
 
+' Fills the catalogue from a folder and its subfolders.
+Sub ReadFolders(Catalogue, Folder)
+    Dim Subfolder
+    Catalogue.ReadKatalog Folder
+    For Each Subfolder In CreateObject("Scripting.FileSystemObject").GetFolder(Folder).SubFolders
+        ReadFolders Catalogue, Subfolder.Path
+    Next
+End Sub
+
 Sub ListCatalogue(Folder)
     Dim Catalogue, Symbol
     Set Catalogue = CreateObject("QSymbol.CSymbolColl")
-    Catalogue.ReadKatalog Folder
+    ReadFolders Catalogue, Folder
     If Catalogue.Count = 0 Then
         Err.Raise 53, "katalog.vbs", "Keine Symbole (*.syb) im Ordner " & Folder
     End If

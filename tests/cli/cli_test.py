@@ -116,7 +116,7 @@ def check_finds_what_is_wrong():
 
 
 def the_sample_catalogue_has_no_finding():
-    assert run("check", CATALOGUE)[0] == f"{len(list(CATALOGUE.glob('*.syt')))} files, 0 errors, 0 warnings\n"
+    assert run("check", "-r", CATALOGUE)[0] == f"{len(list(CATALOGUE.rglob('*.syt')))} files, 0 errors, 0 warnings\n"
 
 
 def converting_is_whole_and_never_overwrites_unasked():
@@ -221,7 +221,7 @@ def only_files_are_files():
     run("info", "schleife", status=1)
     assert len(as_json("info", "-r", "f", "f/a.syt", "--decimal", "point")) == 1
     with open("/dev/full", "wb") as full:
-        assert subprocess.run([*PROGRAM, "info", CATALOGUE], stdout=full, stderr=subprocess.DEVNULL).returncode == 1
+        assert subprocess.run([*PROGRAM, "info", "-r", CATALOGUE], stdout=full, stderr=subprocess.DEVNULL).returncode == 1
 
 
 def main():

@@ -4,6 +4,7 @@ Without a scenario it names them all. Pictures are in build/test-output."""
 
 import os
 import pathlib
+import shutil
 import subprocess
 import sys
 
@@ -41,7 +42,10 @@ class Dialog:
         self.resolution = resolution
         self.folder = pathlib.Path(os.environ["SCREEN"]).parent
         (self.folder / "bilder").mkdir()
-        wine(BIN / "planhost.exe", "convert", windows_path(ROOT / "samples/katalog"), windows_path(self.folder / "katalog"))
+        (self.folder / "texte").mkdir()
+        for symbol in (ROOT / "samples/katalog").rglob("*.syt"):  # all in one folder: the host reads no subfolders
+            shutil.copy(symbol, self.folder / "texte")
+        wine(BIN / "planhost.exe", "convert", windows_path(self.folder / "texte"), windows_path(self.folder / "katalog"))
 
     def __enter__(self):
         if self.resolution != USUAL:
@@ -186,8 +190,8 @@ def doubled():
         usual = size(dialog.window.area)
         dialog.desktop.key("Escape")
         require(dialog.chosen() == "")
-    for file in (dialog.folder / "katalog", dialog.folder / "bilder"):
-        subprocess.run(["rm", "-r", file], check=True)
+    for name in ("texte", "katalog", "bilder"):
+        shutil.rmtree(dialog.folder / name)
     with Dialog("dialog-200", DOUBLE) as dialog:
         now = size(dialog.window.area)
         require(all(1.8 < a / b < 2.2 for a, b in zip(now, usual)), now, usual)

@@ -44,7 +44,7 @@ def expect(condition, *what):
 
 def make_catalogue(source, folder):
     """The catalogue in two categories, and symbols with odd names and texts."""
-    for index, path in enumerate(sorted(source.glob("*.syt"))):
+    for index, path in enumerate(sorted(source.rglob("*.syt"), key=lambda path: path.name)):
         target = folder / ("Möbel", "Bad|WC")[index % 2]
         target.mkdir(parents=True, exist_ok=True)
         shutil.copy(path, target)
@@ -194,7 +194,7 @@ def main():
         check_readers(readers, drawing, counts)
         compared = compare_pictures(document, folder / "svg", folder)
         for unit, number in (("cm", 5), ("m", 6)):
-            subprocess.run([program, "dxf", "-f", *common, "--units", unit, source / "WC.syt", drawing], check=True)
+            subprocess.run([program, "dxf", "-f", *common, "--units", unit, source / "Bad/WC.syt", drawing], check=True)
             small = ezdxf.readfile(drawing)
             scale = {"cm": 10, "m": 1000}[unit]
             expect(small.units == number and not small.audit().errors, unit)

@@ -123,7 +123,8 @@ void ExpectEntity(const ReadEntity& entity, const Symbol& symbol, const ElementR
 TEST_F(Dxflib, ReadsEverySymbolOfTheCatalogue) {
     const Placed placed{.at = {700000, 1200000}, .angle = 0.7, .factor = 1.3, .mirror = 2000000};
     std::vector<Symbol> symbols;
-    for (const auto& entry : std::filesystem::directory_iterator(QSYMBOL_SOURCE_DIR "/samples/katalog")) {
+    for (const auto& entry :
+         std::filesystem::recursive_directory_iterator(QSYMBOL_SOURCE_DIR "/samples/katalog")) {
         if (entry.path().extension() != ".syt")
             continue;
         Symbol& symbol = symbols.emplace_back();

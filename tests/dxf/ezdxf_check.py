@@ -57,7 +57,9 @@ def main():
     program, sample = sys.argv[1], pathlib.Path(sys.argv[2])
     with tempfile.TemporaryDirectory() as folder:
         catalogue = pathlib.Path(folder, "katalog")
-        shutil.copytree(sample, catalogue)
+        catalogue.mkdir()
+        for symbol in sample.rglob("*.syt"):
+            shutil.copy(symbol, catalogue)
         write_colour_chart(catalogue / "Farbtafel.syt")
         names = sorted(path.stem for path in catalogue.glob("*.syt"))
         placed = list(placements(names))

@@ -84,7 +84,8 @@ def main():
     check_audit(document)
     plan = read_plan(plan_file)
     placed = [placement(fields, plan["height"]) for fields in plan["SYMBOL"]]
-    symbols = {p.name: read_symbol(catalogue / f"{p.name}.syt") for p in placed}
+    files = {file.stem: file for file in catalogue.rglob("*.syt")}
+    symbols = {p.name: read_symbol(files[p.name]) for p in placed}
     counts = check_symbols(document.modelspace().query('*[layer=="SYMBOLE"]'), placed, symbols)
     check_host(document, plan)
     check_dxflib(document, subprocess.run([dxflib_dump, source], check=True, capture_output=True, text=True).stdout)

@@ -21,14 +21,14 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kSeeds = 12;
 
-/// The smallest files of a folder with this extension: a fuzzer does best with small seeds.
+/// The smallest files of a folder and its subfolders with this extension: a fuzzer does best with small seeds.
 std::vector<fs::path> Smallest(const fs::path& folder, const char* extension) {
     std::vector<fs::path> files;
-    for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder))
         if (entry.path().extension() == extension)
             files.push_back(entry.path());
     const auto smaller = [](const fs::path& a, const fs::path& b) {
-        return std::pair(fs::file_size(a), a) < std::pair(fs::file_size(b), b);
+        return std::pair(fs::file_size(a), a.filename()) < std::pair(fs::file_size(b), b.filename());
     };
     std::sort(files.begin(), files.end(), smaller);
     files.resize(std::min(files.size(), kSeeds));

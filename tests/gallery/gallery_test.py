@@ -23,18 +23,18 @@ FOLDERS = {"Küche": ["Küchenzeile", "Kühlschrank", "Herd", "Spüle"], "Möbel
 
 def make_gallery(folder, copies=0):
     """The gallery of a catalogue in folders and in the folder itself, two texts with markup included."""
-    catalogue = folder / "Haus"
+    catalogue, sources = folder / "Haus", sorted(CATALOGUE.rglob("*.syt"), key=lambda path: path.name)
+    file = {source.stem: source for source in sources}
     for name, symbols in FOLDERS.items():
         (catalogue / name).mkdir(parents=True)
         for symbol in symbols:
-            shutil.copy(CATALOGUE / f"{symbol}.syt", catalogue / name)
-    shutil.copy(CATALOGUE / "Aufzug.syt", catalogue / "Aufzug <b>&'.syt")
+            shutil.copy(file[symbol], catalogue / name)
+    shutil.copy(file["Aufzug"], catalogue / "Aufzug <b>&'.syt")
     (catalogue / "leer.syt").write_text("SYM;CNT=1;WID=0;HEI=0;RPX=0;RPY=0\r\n"
                                         "POLY;CNT=1;COL=0;WID=0;CLS=FALSE;FIL=-1\r\nPOINT;0;0\r\n")
     for number in range(copies):
         target = catalogue / f"Sammlung {number % 25:02}"
         target.mkdir(exist_ok=True)
-        sources = sorted(CATALOGUE.glob("*.syt"))
         shutil.copy(sources[number % len(sources)], target / f"Symbol {number:04}.syt")
     page = folder / "galerie.html"
     subprocess.run([QSYMBOL, "gallery", "-q", "-r", "--decimal", "comma", catalogue, page], check=True)

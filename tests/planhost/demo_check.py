@@ -2,6 +2,7 @@
 
 import pathlib
 import re
+import shutil
 import subprocess
 import sys
 
@@ -16,8 +17,8 @@ def promised():
 
 def left(names):
     missing = [name for name in names if not (OUT / name).is_file() or (OUT / name).stat().st_size == 0]
-    symbols = len(list((OUT / "katalog").glob("*.syb")))
-    if len(names) < 7 or missing or symbols != len(list(pathlib.Path("samples/katalog").glob("*.syt"))):
+    symbols = len(list((OUT / "katalog").rglob("*.syb")))
+    if len(names) < 7 or missing or symbols != len(list(pathlib.Path("samples/katalog").rglob("*.syt"))):
         raise AssertionError(f"{symbols} symbols; missing of {names}: {missing}")
 
 
@@ -32,6 +33,16 @@ def keeps_the_old_plan():
         raise AssertionError(f"status {ran.returncode}, {sorted(OUT.glob('zu weit*'))}")
 
 
+def tells_of_a_name_in_two_folders():
+    for category in ("Bad", "Küche"):
+        (OUT / "doppelt" / category).mkdir(parents=True, exist_ok=True)
+        shutil.copy(OUT / "katalog/Küche/Herd.syb", OUT / "doppelt" / category)
+    sheet = '. scripts/common.sh; wine_run dist/x64/planhost.exe sheet "$(windows build/demo/doppelt)" "$(windows build/demo/doppelt.png)"'
+    ran = subprocess.run(["bash", "-c", sheet], capture_output=True)
+    if ran.returncode != 1 or b'Das Symbol "Herd" gibt es in mehreren Ordnern' not in ran.stderr:
+        raise AssertionError(f"status {ran.returncode}: {ran.stderr}")
+
+
 def main():
     cases = {
         "demo": lambda: subprocess.run(["scripts/demo"], check=True),
@@ -40,6 +51,7 @@ def main():
             [sys.executable, "tests/dxf/plan_check.py", OUT / "wohnung.dxf", "samples/planhost/wohnung.plan",
              "samples/katalog", "build/native/tests/dxf/dxflib_dump"], check=True),
         "a failed export": keeps_the_old_plan,
+        "a name in two folders": tells_of_a_name_in_two_folders,
     }  # fmt: skip
     failed = 0
     for name, case in cases.items():
