@@ -21,14 +21,18 @@ double FontHeight(const qsymbol::ElementRecord& text) {
     return qsymbol::HasFlaggedSize(text) ? height / qsymbol::kFlaggedSizeDivisor : height;
 }
 
+/// A point and what lies around it.
+void Include(SymbolReach& reach, qmath::Point point, double around) {
+    reach.box.Include(point.x, point.y, around);
+    reach.length = std::max(reach.length, around);
+}
+
 void IncludeText(SymbolReach& reach, const qsymbol::ElementRecord& text) {
-    if (text.text.empty())
-        return;
     const double heights = kWidest * (static_cast<double>(text.text.size()) + 1);
     // Without a font of its own it has that of the surface, of which nothing is known.
     reach.pixels = std::max(reach.pixels, text.font ? heights : std::numeric_limits<double>::infinity());
     if (text.font)
-        reach.box.Include(text.points[0].x, text.points[0].y, heights * FontHeight(text));
+        Include(reach, text.points[0], heights * FontHeight(text));
 }
 
 void Include(SymbolReach& reach, const qsymbol::ElementRecord& element) {
@@ -39,10 +43,9 @@ void Include(SymbolReach& reach, const qsymbol::ElementRecord& element) {
         return IncludeText(reach, element);
     const double pen = std::max(0, element.lineWidth) / 2.0;
     for (const qmath::Point point : element.points)
-        reach.box.Include(point.x, point.y, pen);
+        Include(reach, point, pen);
     if (element.type == ElementType::Circle || element.type == ElementType::Arc)
-        reach.box.Include(element.points[0].x, element.points[0].y,
-                          std::abs(static_cast<double>(element.radius)) + pen);
+        Include(reach, element.points[0], std::abs(static_cast<double>(element.radius)) + pen);
 }
 
 } // namespace

@@ -12,11 +12,14 @@ namespace qplan {
 struct SymbolReach {
     qsymbol::Box box;  ///< logical units, the reference point is (0, 0); empty: nothing is ever there
     double pixels = 0; ///< what drawing adds on every side, whatever the scale: texts have a least height
+    /// The largest of what the box has around points: radii, pens, texts. A map of the host may show lengths larger than
+    /// it shows distances along one of its axes.
+    double length = 0;
 
     /// Of a symbol of which nothing is known: it is asked every time.
     static constexpr SymbolReach Unlimited() {
         constexpr double kFar = std::numeric_limits<double>::infinity();
-        return {{-kFar, -kFar, kFar, kFar}, kFar};
+        return {{-kFar, -kFar, kFar, kFar}, kFar, kFar};
     }
     bool IsUnlimited() const { return box.right - box.left == std::numeric_limits<double>::infinity(); }
 };

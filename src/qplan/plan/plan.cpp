@@ -1,5 +1,6 @@
 #include "qplan/plan/plan.h"
 
+#include "base/checked.h"
 #include "base/error.h"
 #include "qsymbol/draw/surface_factors.h"
 
@@ -176,9 +177,11 @@ std::optional<qsymbol::CaughtPoint> Plan::CatchPt(const View& view, float x, flo
 
 std::optional<qmath::Rect> Plan::Extent(double screenFactor) const {
     Refresh();
-    const ExtentKey key{changes_, symbols_.Changes(), screenFactor};
-    if (extent_.first == key)
-        return extent_.second;
+    const std::uint64_t placements = changes_;
+    const std::uint64_t symbols = symbols_.Changes();
+    if (extent_ && extent_->placements == placements && extent_->symbols == symbols &&
+        extent_->factor == screenFactor)
+        return extent_->extent;
     std::optional<qmath::Rect> extent;
     for (const Placement* next = placements_.NextAfter(0); next != nullptr;) {
         const std::int32_t id = next->id;
@@ -189,21 +192,33 @@ std::optional<qmath::Rect> Plan::Extent(double screenFactor) const {
                   std::max(last.right, bounds.right), std::max(last.bottom, bounds.bottom)};
         next = placements_.NextAfter(id);
     }
-    extent_ = {key, extent};
+    extent_ = {placements, symbols, screenFactor, extent};
     return extent;
+}
+
+/// How far from its points, in pixels, drawing can leave a mark.
+double Plan::MarginOfDrawing(const qsymbol::Transformation& transformation, double factor) const {
+    // The thinnest pen, a rounded box and the pixel that a line leaves out.
+    constexpr double kMargin = 3;
+    const double scale = std::max(1.0, std::abs(factor));
+    const double margin = kMargin + symbols_.MostPixels() * scale;
+    if (transformation.Plain() != nullptr)
+        return margin;
+    try {
+        return margin + transformation.LengthToScreen(base::RoundToLong(symbols_.MostLength() * scale));
+    } catch (const base::Error&) {
+        return std::numeric_limits<double>::infinity();
+    }
 }
 
 std::vector<std::int32_t> Plan::Visible(const qsymbol::Transformation& transformation,
                                         const std::optional<qmath::Rect>& pixels,
                                         double geometryFactor) const {
-    // The thinnest pen, an arc's rounded box and the pixel that a line leaves out.
-    constexpr double kMargin = 3;
     Refresh();
-    const double scale = std::max(1.0, std::abs(geometryFactor));
     WorldBox window = WorldBox::Everything();
     if (pixels)
-        window = Near(PixelWindow::Around(*pixels, kMargin + symbols_.MostPixels() * scale), transformation,
-                      geometryFactor);
+        window = Near(PixelWindow::Around(*pixels, MarginOfDrawing(transformation, geometryFactor)),
+                      transformation, geometryFactor);
     else
         index_.Update(placements_, symbols_, geometryFactor);
     std::vector<std::int32_t> ids;

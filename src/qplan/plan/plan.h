@@ -80,16 +80,17 @@ public:
 
 private:
     struct Asked;
-    struct ExtentKey {
-        std::uint64_t placements = 0;
-        std::uint64_t symbols = 0;
-        double factor = 0;
-        bool operator==(const ExtentKey&) const = default;
+    struct KnownExtent {
+        std::uint64_t placements;
+        std::uint64_t symbols;
+        double factor;
+        std::optional<qmath::Rect> extent;
     };
 
     void Refresh() const;
     WorldBox Near(const PixelWindow& pixels, const qsymbol::Transformation& transformation,
                   double factor) const;
+    double MarginOfDrawing(const qsymbol::Transformation& transformation, double factor) const;
     std::vector<Asked> Candidates(const WorldBox& window) const;
     /// The placement as it is now; nullptr when it has gone meanwhile.
     const Placement* Still(const Asked& asked) const;
@@ -100,7 +101,7 @@ private:
     std::int32_t lastId_ = 0;
     std::uint64_t changes_ = 1; ///< of the placements
     mutable PlacementIndex index_;
-    mutable std::pair<ExtentKey, std::optional<qmath::Rect>> extent_; ///< of the last call
+    mutable std::optional<KnownExtent> extent_;
 };
 
 } // namespace qplan

@@ -41,8 +41,9 @@ void SymbolTable::SetSource(std::shared_ptr<SymbolSource> source) {
         if (entries.size() == entries_.size())
             entries_ = std::move(entries);
         mostPixels_ = 0;
-        for (Entry& entry : entries_)
-            mostPixels_ = std::max(mostPixels_, entry.reach.pixels);
+        mostLength_ = 0;
+        for (const Entry& entry : entries_)
+            NoteMost(entry.reach);
         sourceEdition_ = source->Edition();
     }
     source_ = std::move(source);
@@ -59,7 +60,7 @@ std::uint32_t SymbolTable::Take(std::u16string_view name) {
         return known->second;
     Entry entry = EntryOf(key, std::move(symbol));
     const auto at = static_cast<std::uint32_t>(entries_.size());
-    mostPixels_ = std::max(mostPixels_, entry.reach.pixels);
+    NoteMost(entry.reach);
     entries_.push_back(std::move(entry));
     byName_[std::move(key)] = at;
     return at;
@@ -69,7 +70,13 @@ void SymbolTable::Clear() {
     entries_ = {};
     byName_ = {};
     mostPixels_ = 0;
+    mostLength_ = 0;
     ++changes_;
+}
+
+void SymbolTable::NoteMost(const SymbolReach& reach) const {
+    mostPixels_ = std::max(mostPixels_, reach.pixels);
+    mostLength_ = std::max(mostLength_, reach.length);
 }
 
 bool SymbolTable::Refresh() const {
@@ -90,7 +97,7 @@ bool SymbolTable::Refresh() const {
         if (i >= entries_.size() || entries_[i].symbol != symbol)
             return true;
         moved |= !IsSame(reach.box, entries_[i].reach.box);
-        mostPixels_ = std::max(mostPixels_, reach.pixels);
+        NoteMost(reach);
         entries_[i].edition = edition;
         entries_[i].reach = reach;
         ++changes_;

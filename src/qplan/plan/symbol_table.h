@@ -31,8 +31,9 @@ public:
 
     const Entry& operator[](std::uint32_t entry) const { return entries_[entry]; }
     std::size_t Size() const { return entries_.size(); }
-    /// The most that any symbol adds in pixels.
+    /// The most that drawing any of them adds, see SymbolReach.
     double MostPixels() const { return mostPixels_; }
+    double MostLength() const { return mostLength_; }
 
     /// Asks for what has changed. True when a symbol reaches elsewhere now.
     bool Refresh() const;
@@ -40,11 +41,14 @@ public:
     std::uint64_t Changes() const { return changes_; }
 
 private:
+    void NoteMost(const SymbolReach& reach) const;
+
     std::shared_ptr<SymbolSource> source_;
     // What is known of the symbols; the questions of a plan bring it up to date.
     mutable std::vector<Entry> entries_;
     mutable std::uint64_t sourceEdition_ = 0;
     mutable double mostPixels_ = 0;
+    mutable double mostLength_ = 0;
     mutable std::uint64_t changes_ = 0;
     std::unordered_map<std::u16string, std::uint32_t> byName_; ///< as it was written
 };
