@@ -68,8 +68,12 @@ std::string ReadWholeFile(FileSystem& files, const std::u16string& path, Reach r
 }
 
 void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, std::string_view bytes) {
+    WriteWholeFile(files, path, mode, [&](const ByteSink& sink) { sink(bytes); });
+}
+
+void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, const Composer& compose) {
     const std::unique_ptr<File> file = files.Open(path, mode);
-    Write(*file, bytes);
+    compose([&](std::string_view bytes) { Write(*file, bytes); });
     file->Close();
 }
 
@@ -103,10 +107,14 @@ void WriteInPlace(FileSystem& files, const std::u16string& path, std::string_vie
 }
 
 void WriteBeside(FileSystem& files, const std::u16string& path, std::string_view bytes) {
+    WriteBeside(files, path, [&](const ByteSink& sink) { sink(bytes); });
+}
+
+void WriteBeside(FileSystem& files, const std::u16string& path, const Composer& compose) {
     const std::u16string beside = FreeNameBeside(files, path);
     std::unique_ptr<File> file = files.Open(beside, OpenMode::Replace);
     try {
-        Write(*file, bytes);
+        compose([&](std::string_view bytes) { Write(*file, bytes); });
         file->Flush();
         file->Close();
         files.Rename(beside, path);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/byte_sink.h"
 #include "base/file_system.h"
 
 #include <cstdint>
@@ -17,6 +18,8 @@ std::string ReadWholeFile(FileSystem& files, const std::u16string& path, Reach r
 
 /// Writes the bytes in one go and closes the file. Errors of FileSystem::Open and File.
 void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, std::string_view bytes);
+/// The same for bytes that come piece by piece. Errors of `compose` too.
+void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, const Composer& compose);
 
 /// What becomes of that part of an old file that is longer than the new content.
 enum class Tail { Cut, Keep };
@@ -30,5 +33,7 @@ void WriteInPlace(FileSystem& files, const std::u16string& path, std::string_vie
 /// Writes the bytes into a new file beside, which then takes the name: any error leaves the old file whole.
 /// Errors of FileSystem and File.
 void WriteBeside(FileSystem& files, const std::u16string& path, std::string_view bytes);
+/// The same for bytes that come piece by piece. Errors of `compose` too.
+void WriteBeside(FileSystem& files, const std::u16string& path, const Composer& compose);
 
 } // namespace base

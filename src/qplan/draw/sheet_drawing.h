@@ -4,21 +4,13 @@
 #include "qsymbol/draw/surface.h"
 #include "qsymbol/geometry/transformation.h"
 
-#include <array>
-
+/// Drawing of what there is of a plan beside its symbols. Errors of surface and transformation pass through; error 6
+/// where a coordinate leaves the 32-bit range.
 namespace qplan {
 
-/// A place on the sheet in millimetres.
-struct SheetPoint {
-    double x = 0;
-    double y = 0;
-};
-
-/// The four corners of a wall: its middle line, widened by half the thickness to both sides.
-std::array<SheetPoint, 4> OutlineOf(const Wall& wall);
-
-/// Floors, then walls: what lies below the symbols. Errors of surface and transformation, 6.
-void DrawGround(const Sheet& sheet, qsymbol::Surface& surface, const qsymbol::Transformation& transformation);
+// What lies below the symbols, in this order.
+void DrawFloors(const Sheet& sheet, qsymbol::Surface& surface, const qsymbol::Transformation& transformation);
+void DrawWalls(const Sheet& sheet, qsymbol::Surface& surface, const qsymbol::Transformation& transformation);
 /// The title and the names of the rooms, which lie on top of the symbols.
 void DrawLettering(const Sheet& sheet, qsymbol::Surface& surface,
                    const qsymbol::Transformation& transformation);

@@ -41,7 +41,10 @@ void Plan::SetSymbols(std::shared_ptr<SymbolSource> source) {
 }
 
 std::int32_t Plan::Add(std::u16string_view name, const SymbolPosition& position) {
-    const std::uint32_t symbol = symbols_.Take(name);
+    return AddUsed(symbols_.Take(name), position);
+}
+
+std::int32_t Plan::AddUsed(std::uint32_t symbol, const SymbolPosition& position) {
     RequireAngle(position);
     if (lastId_ == std::numeric_limits<std::int32_t>::max())
         base::Raise(base::RunTimeError::Overflow);
@@ -80,6 +83,14 @@ void Plan::Clear() {
 void Plan::Refresh() const {
     if (symbols_.Refresh())
         index_.Forget();
+}
+
+Plan Plan::Successor() const {
+    Plan next;
+    next.symbols_.SetSource(symbols_.Source());
+    next.lastId_ = lastId_;
+    next.changes_ = changes_ + 1; // so that a question that is going on sees the change
+    return next;
 }
 
 WorldBox Plan::Near(const PixelWindow& pixels, const qsymbol::Transformation& transformation,

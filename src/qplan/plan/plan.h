@@ -37,12 +37,18 @@ public:
     /// Places a symbol on top; the new id. Error 91 without symbols, 5 for an unknown name and an angle that is no
     /// number, 6 when all ids are used.
     std::int32_t Add(std::u16string_view name, const qsymbol::SymbolPosition& position);
+    /// The same for a symbol that the plan uses: Placement::symbol. Not across Clear and SetSymbols.
+    std::int32_t AddUsed(std::uint32_t symbol, const qsymbol::SymbolPosition& position);
     /// Error 5 for an unknown id and an angle that is no number.
     void Move(std::int32_t id, const qsymbol::SymbolPosition& position);
     /// Error 5 for an unknown id.
     void RemoveById(std::int32_t id);
     /// No placements and no sheet; the symbols stay, ids go on.
     void Clear();
+    /// An empty plan with the same symbols, whose ids begin where these end.
+    Plan Successor() const;
+    /// The highest id so far, 0 at first.
+    std::int32_t LastId() const { return lastId_; }
 
     /// nullptr for an unknown id. Valid until the plan changes.
     const Placement* ById(std::int32_t id) const { return placements_.ById(id); }

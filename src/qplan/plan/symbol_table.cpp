@@ -31,15 +31,16 @@ bool IsSame(const qsymbol::Box& a, const qsymbol::Box& b) {
 
 void SymbolTable::SetSource(std::shared_ptr<SymbolSource> source) {
     if (source != nullptr && source != source_) {
-        // Finding may change the plan, so the names are taken first.
         std::vector<Entry> entries;
+        const std::uint64_t before = changes_;
         entries.reserve(entries_.size());
         for (std::size_t i = 0; i < entries_.size(); ++i) {
             std::u16string name = entries_[i].name;
             entries.push_back(EntryOf(name, Find(*source, name)));
         }
-        if (entries.size() == entries_.size())
-            entries_ = std::move(entries);
+        if (changes_ != before) // a host's source has changed the plan meanwhile
+            base::Raise(base::RunTimeError::InvalidCall);
+        entries_ = std::move(entries);
         mostPixels_ = 0;
         mostLength_ = 0;
         for (const Entry& entry : entries_)
@@ -62,6 +63,7 @@ std::uint32_t SymbolTable::Take(std::u16string_view name) {
     const auto at = static_cast<std::uint32_t>(entries_.size());
     NoteMost(entry.reach);
     entries_.push_back(std::move(entry));
+    ++changes_;
     byName_[std::move(key)] = at;
     return at;
 }
@@ -90,11 +92,14 @@ bool SymbolTable::Refresh() const {
     for (std::size_t i = 0; i < entries_.size(); ++i) {
         const std::shared_ptr<const PlacedSymbol> symbol = entries_[i].symbol;
         const std::uint64_t edition = symbol->Edition();
+        // Asking may change the plan, each time.
+        const auto isStillThere = [&] { return i < entries_.size() && entries_[i].symbol == symbol; };
+        if (!isStillThere())
+            return true;
         if (edition == entries_[i].edition)
             continue;
         const SymbolReach reach = symbol->Reach();
-        // Asking may have changed the plan.
-        if (i >= entries_.size() || entries_[i].symbol != symbol)
+        if (!isStillThere())
             return true;
         moved |= !IsSame(reach.box, entries_[i].reach.box);
         NoteMost(reach);

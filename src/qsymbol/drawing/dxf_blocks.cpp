@@ -46,11 +46,4 @@ void AppendBlocks(DxfTags& out, const DxfContents& contents, DxfHandles& handles
     out.Text(0, "ENDSEC");
 }
 
-void AppendEntities(DxfTags& out, const DxfContents& contents) {
-    out.Text(0, "SECTION");
-    out.Text(2, "ENTITIES");
-    out.Append(contents.modelSpace);
-    out.Text(0, "ENDSEC");
-}
-
 } // namespace qsymbol

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/byte_sink.h"
 #include "qsymbol/drawing/drawing_unit.h"
 #include "qsymbol/drawing/dxf_tags.h"
 #include "qsymbol/drawing/text_styles.h"
@@ -28,11 +29,11 @@ struct DxfContents {
     std::vector<DxfBlock> blocks;
     DxfHandle modelRecord = 0;
     DxfHandle paperRecord = 0;
-    DxfTags modelSpace;
-    DxfHandle lastHandle = 0; ///< the highest one that is in use
+    base::Composer modelSpace; ///< its entities
+    DxfHandle lastHandle = 0;  ///< the highest one that is in use
 };
 
 /// The whole file: header, tables, blocks, entities, objects.
-std::string ComposeDxf(const DxfContents& contents);
+void ComposeDxf(const DxfContents& contents, const base::ByteSink& sink);
 
 } // namespace qsymbol

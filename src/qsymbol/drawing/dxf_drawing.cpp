@@ -68,19 +68,43 @@ DxfDrawing::Block DxfDrawing::AddBlock(std::u16string_view name, const Symbol& s
 void DxfDrawing::Insert(Block block, Layer layer, const SymbolPosition& position) {
     if (modelSpace_.empty() || modelSpace_.back().surface != nullptr)
         modelSpace_.emplace_back();
+    modelSpace_.back().inserts.push_back({.position = position,
+                                          .block = static_cast<std::uint32_t>(block),
+                                          .layer = static_cast<std::uint32_t>(layer),
+                                          .handle = context_->NewHandle()});
     const BlockEntry& entry = blocks_[block];
-    DxfTags& out = modelSpace_.back().inserts;
+    inserted_.Include(Placed(entry.surface->Bounds(), entry.base, position));
+}
+
+void DxfDrawing::Append(DxfTags& out, const PlacedBlock& insert) const {
+    const SymbolPosition& position = insert.position;
     out.Text(0, "INSERT");
-    out.Handle(5, context_->NewHandle());
+    out.Handle(5, insert.handle);
     out.Handle(330, modelRecord_);
     out.Text(100, "AcDbEntity");
-    out.Text(8, layers_[layer].name);
+    out.Text(8, layers_[insert.layer].name);
     out.Text(100, "AcDbBlockReference");
-    out.Text(2, DxfText(entry.name));
+    out.Text(2, DxfText(blocks_[insert.block].name));
     out.Place(10, context_->Length(position.at.x), context_->Length(-static_cast<double>(position.at.y)));
     if (position.angle != 0)
         out.Real(50, qmath::RadToDeg(position.angle));
-    inserted_.Include(Placed(entry.surface->Bounds(), entry.base, position));
+}
+
+void DxfDrawing::ComposeModelSpace(const base::ByteSink& sink) const {
+    constexpr std::size_t kPiece = 1 << 16;
+    for (const Part& part : modelSpace_) {
+        if (part.surface)
+            sink(part.surface->Entities().Bytes());
+        DxfTags inserts;
+        for (const PlacedBlock& insert : part.inserts) {
+            Append(inserts, insert);
+            if (inserts.Bytes().size() < kPiece)
+                continue;
+            sink(inserts.Bytes());
+            inserts = {};
+        }
+        sink(inserts.Bytes());
+    }
 }
 
 VectorSurface& DxfDrawing::Draw(Layer layer, DxfColours colours) {
@@ -91,6 +115,12 @@ VectorSurface& DxfDrawing::Draw(Layer layer, DxfColours colours) {
 }
 
 std::string DxfDrawing::Compose() const {
+    std::string bytes;
+    Compose([&](std::string_view piece) { bytes += piece; });
+    return bytes;
+}
+
+void DxfDrawing::Compose(const base::ByteSink& sink) const {
     DxfContents contents;
     contents.unit = context_->unit;
     contents.styles = context_->styles.All();
@@ -106,16 +136,15 @@ std::string DxfDrawing::Compose() const {
                                    .baseY = context_->Length(-static_cast<double>(block.base.y)),
                                    .entities = block.surface->Entities()});
     Extent bounds = inserted_;
-    for (const Part& part : modelSpace_) {
-        contents.modelSpace.Append(part.surface ? part.surface->Entities() : part.inserts);
+    for (const Part& part : modelSpace_)
         if (part.surface)
             bounds.Include(part.surface->Bounds());
-    }
+    contents.modelSpace = [this](const base::ByteSink& out) { ComposeModelSpace(out); };
     if (!bounds.IsEmpty()) {
         contents.bounds.Include({context_->Length(bounds.Left()), context_->Length(-bounds.Bottom())});
         contents.bounds.Include({context_->Length(bounds.Right()), context_->Length(-bounds.Top())});
     }
-    return ComposeDxf(contents);
+    ComposeDxf(contents, sink);
 }
 
 } // namespace qsymbol

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/byte_sink.h"
 #include "qsymbol/drawing/drawing_context.h"
 #include "qsymbol/drawing/drawing_names.h"
 #include "qsymbol/drawing/dxf_surface.h"
@@ -7,6 +8,7 @@
 #include "qsymbol/model/symbol.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,6 +46,7 @@ public:
 
     /// The file's bytes, in code page 1252.
     std::string Compose() const;
+    void Compose(const base::ByteSink& sink) const;
 
 private:
     struct BlockEntry {
@@ -56,11 +59,21 @@ private:
         std::u16string key; ///< upper case
         std::string name;   ///< encoded
     };
+    /// A placed block; it becomes text when the file is composed, for there may be many.
+    struct PlacedBlock {
+        SymbolPosition position;
+        std::uint32_t block = 0;
+        std::uint32_t layer = 0;
+        DxfHandle handle = 0;
+    };
     /// A stretch of the model space: what a surface drew, or inserts.
     struct Part {
         std::unique_ptr<DxfSurface> surface;
-        DxfTags inserts;
+        std::vector<PlacedBlock> inserts;
     };
+
+    void Append(DxfTags& out, const PlacedBlock& insert) const;
+    void ComposeModelSpace(const base::ByteSink& sink) const;
 
     /// Surfaces refer to the context, so it stays where it is when the drawing moves.
     std::unique_ptr<DrawingContext> context_;

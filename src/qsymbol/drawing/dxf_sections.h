@@ -31,7 +31,6 @@ inline DxfLayouts NewLayouts(DxfHandles& handles) {
 void AppendHeader(DxfTags& out, const DxfContents& contents, const DxfHandles& handles);
 void AppendTables(DxfTags& out, const DxfContents& contents, const DxfLayouts& layouts, DxfHandles& handles);
 void AppendBlocks(DxfTags& out, const DxfContents& contents, DxfHandles& handles);
-void AppendEntities(DxfTags& out, const DxfContents& contents);
 void AppendObjects(DxfTags& out, const DxfContents& contents, const DxfLayouts& layouts, DxfHandles& handles);
 
 } // namespace qsymbol

@@ -51,7 +51,7 @@ std::string ViewBox(const SvgView& view) {
     return Number(view.left) + ' ' + Number(view.top) + ' ' + Number(view.width) + ' ' + Number(view.height);
 }
 
-std::string SvgDocument(SvgSurface& surface, const SvgView& view, std::u16string_view title) {
+std::string SvgHead(const SvgView& view, std::u16string_view title) {
     std::string out = R"(<?xml version="1.0" encoding="UTF-8"?>)"
                       "\n"
                       R"(<svg xmlns="http://www.w3.org/2000/svg" version="1.1" width=")";
@@ -59,6 +59,11 @@ std::string SvgDocument(SvgSurface& surface, const SvgView& view, std::u16string
     out += "\" overflow=\"visible\">\n<title>"; // a hairline on the edge is seen whole where there is room
     AppendXmlText(out, title);
     out += "</title>\n";
+    return out;
+}
+
+std::string SvgDocument(SvgSurface& surface, const SvgView& view, std::u16string_view title) {
+    std::string out = SvgHead(view, title);
     const std::string_view elements = surface.Elements();
     if (surface.HasOpaqueText()) {
         out += "<defs>";

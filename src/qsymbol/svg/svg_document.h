@@ -25,6 +25,9 @@ SvgView ViewOf(const SvgSurface& surface, double emptyWidth = 0, double emptyHei
 /// "left top width height", for a viewBox.
 std::string ViewBox(const SvgView& view);
 
+/// The beginning of an SVG file up to its title; the group of elements and the end are to follow.
+std::string SvgHead(const SvgView& view, std::u16string_view title);
+
 /// A whole SVG file, true to scale: its width and height are those of what was drawn. No script, nothing
 /// from outside.
 std::string SvgDocument(SvgSurface& surface, const SvgView& view, std::u16string_view title);
