@@ -42,6 +42,11 @@ base::Error RunTime(base::RunTimeError number) {
     return {static_cast<std::int32_t>(number), u"", std::u16string(base::Description(number))};
 }
 
+bool Exists(const std::u16string& path) {
+    std::error_code ignored;
+    return fs::exists(fs::path(path), ignored);
+}
+
 bool IsFolder(const std::u16string& path) {
     std::error_code ignored;
     return fs::is_directory(fs::path(path), ignored);

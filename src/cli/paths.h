@@ -27,6 +27,7 @@ enum class Kind { Missing, File, Folder, Other };
 Kind KindOf(const std::u16string& path);
 
 /// False also for what cannot be looked at.
+bool Exists(const std::u16string& path);
 bool IsFolder(const std::u16string& path);
 
 /// A run-time error with its text.

@@ -2,6 +2,7 @@
 
 #include "base/utf8.h"
 #include "cli/paths.h"
+#include "cli/shown.h"
 
 #include <filesystem>
 #include <new>
@@ -67,11 +68,11 @@ void Run::Fail(const std::u16string& path, const base::Error& error) {
     status_ = 1;
     failed_ = true;
     std::string line = "qsymbol: ";
-    line += base::ToUtf8(path);
+    line += Shown(path);
     line += ": error ";
     line += std::to_string(error.Number());
     line += ": ";
-    line += base::ToUtf8(error.Description());
+    line += Shown(error.Description());
     line += '\n';
     Put(system_.errors, line);
 }

@@ -27,19 +27,38 @@ struct Named {
 struct Listing {
     std::vector<Named> files;
     std::vector<Named> folders;
+    std::vector<std::u16string> nameless; ///< as far as their names can be shown
 };
+
+/// The file's name, or nothing where it is not made of characters: some systems take any bytes.
+std::optional<std::u16string> NameOf(const fs::path& path) {
+    try {
+        return path.filename().u16string();
+    } catch (const fs::filesystem_error&) {
+        return std::nullopt;
+    }
+}
+
+std::u16string Shown(const fs::path& name) {
+    const std::u8string bytes = name.u8string();
+    return base::FromUtf8({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
 
 Listing List(const std::u16string& folder) {
     Listing listing;
     for (const fs::directory_entry& entry : fs::directory_iterator(fs::path(folder))) {
         std::error_code ignored;
-        std::u16string name = entry.path().filename().u16string();
-        // Linked folders are left alone, for they may lead back to where they are.
-        if (entry.is_directory(ignored)) {
+        std::optional<std::u16string> name = NameOf(entry.path());
+        const bool isFolder = entry.is_directory(ignored);
+        if (!name) {
+            if (std::u16string shown = Shown(entry.path().filename()); isFolder || IsReadable(shown))
+                listing.nameless.push_back(std::move(shown));
+        } else if (isFolder) {
+            // Linked folders are left alone, for they may lead back to where they are.
             if (!entry.is_symlink(ignored))
-                listing.folders.emplace_back(std::move(name));
-        } else if (IsReadable(name)) {
-            listing.files.emplace_back(std::move(name));
+                listing.folders.emplace_back(std::move(*name));
+        } else if (IsReadable(*name)) {
+            listing.files.emplace_back(std::move(*name));
         }
     }
     std::sort(listing.files.begin(), listing.files.end());
@@ -81,6 +100,8 @@ private:
         }
         for (const Named& file : listing.files)
             Add(Join(folder, file.name), below);
+        for (const std::u16string& name : listing.nameless)
+            found.push_back({Join(folder, name), below, RunTime(base::RunTimeError::BadFileName)});
         if (recursive_)
             for (const Named& sub : listing.folders)
                 LookInto(Join(folder, sub.name), below.empty() ? sub.name : Join(below, sub.name));

@@ -12,7 +12,7 @@ namespace cli {
 /// is left out.
 ///
 /// What cannot be used stands in the list with its failure: 53 missing, 3503 no symbol file's extension, 75
-/// no file, 70 a folder that must not be read.
+/// no file, 70 a folder that must not be read, 52 a name that is not made of characters.
 std::vector<SourceFile> SymbolFiles(const std::vector<std::string>& paths, bool recursive);
 
 } // namespace cli

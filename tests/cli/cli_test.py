@@ -1,9 +1,13 @@
 """cli_test.py PROGRAM…: runs the program qsymbol as its users do; PROGRAM may be a command with arguments (Wine)."""
 
+import ctypes
 import json
 import os
 import pathlib
+import pty
 import re
+import resource
+import signal
 import subprocess
 import sys
 import tempfile
@@ -186,19 +190,32 @@ def pictures_pages_and_drawings_are_made():
         units[unit] = words[words.index("$INSUNITS") + 2]
         assert words[words.index("$ACADVER") + 2] == "AC1018" and words.count("INSERT") == 1
     assert units == {"mm": "4", "cm": "5", "m": "6"}
-    for wrong in (("gallery", "k", "seite.txt"), ("dxf", "k/x.syt", "plan.txt"), ("dxf", "--units", "km", "k", "p.dxf"), ("svg", "k")):
-        run(*wrong, status=2)
-    for command, target in (("svg", "leer"), ("dxf", "nix.dxf")):
-        _, errors = run(command, "fehlt.syt", target, status=1)
-        assert errors == "qsymbol: fehlt.syt: error 53: Datei nicht gefunden\n", errors
+    put("l/x.wsc", CHAIN)
+    _, errors = run("svg", "-rf", "--decimal", "point", "k/x.syt", "l", "k/Bad", "bilder", status=1)
+    assert re.fullmatch(r"qsymbol: l[/\\]x\.wsc: error 58: .*\n", errors), f"two sources, one target: {errors}"
 
 
 def wrong_usage_is_status_2():
     put("x.syt")
-    for arguments in ((), ("gibtsnicht",), ("info",), ("info", "--nein", "x.syt"), ("info", "--decimal", "x", "x.syt"),
-                      ("convert", "x.syt", "y.syb", "--to", "wsc"), ("convert", ".", "y"), ("diff", "x.syt", ".")):  # fmt: skip
-        out, errors = run(*arguments, status=2)
+    own = {"--json": "info check diff", "--to syb": "convert", "--units m": "dxf"}
+    plain = {"info": "x.syt", "check": "x.syt", "convert": "x.syt y.syb", "svg": "x.syt .", "gallery": ". y.html",
+             "dxf": "x.syt y.dxf", "diff": "x.syt x.syt"}  # fmt: skip
+    wrong = ["", "help", "-r", "--nein", "convert . y", "convert x.syt y.syb --to wsc", "convert x.syt y.syb --to syt",
+             "diff x.syt .", "diff . x.syt", "gallery . y.txt", "dxf x.syt y.txt", "dxf x.syt y.dxf --units km", "svg x.syt"]  # fmt: skip
+    for command, words in plain.items():
+        wrong += [command, f"{command} {words} -x", f"{command} {words} --decimal", f"{command} {words} --decimal x",
+                  f"{command} {words} --decimal comma --decimal point"]  # fmt: skip
+        wrong += [f"{command} {words} {option}" for option, those in own.items() if command not in those.split()]
+        if command in ("convert", "gallery", "diff"):
+            wrong += [f"{command} {words} z", f"{command} {words.split()[0]}"]
+    for arguments in wrong:
+        out, errors = run(*arguments.split(), status=2)
         assert out == "" and errors.startswith("qsymbol: "), (arguments, out, errors)
+    assert os.listdir() == ["x.syt"], "wrong usage does nothing"
+    for arguments in ("info nix", "check nix", "convert nix y.syb", "convert nix y --to syb", "svg nix y", "gallery nix y.html",
+                      "dxf nix y.dxf", "diff nix x.syt", "diff . nix", "diff nix ."):  # fmt: skip
+        _, errors = run(*arguments.split(), "--decimal", "point", status=1)
+        assert errors == "qsymbol: nix: error 53: Datei nicht gefunden\n", (arguments, errors)
     assert re.fullmatch(r"qsymbol \d+\.\d+\.\d+\n", run("--version")[0])
     page = (pathlib.Path(__file__).resolve().parents[2] / "man/qsymbol.1").read_text(encoding="utf-8").replace("\\-", "-")
     text = run("--help")[0]
@@ -224,9 +241,131 @@ def only_files_are_files():
         assert subprocess.run([*PROGRAM, "info", "-r", CATALOGUE], stdout=full, stderr=subprocess.DEVNULL).returncode == 1
 
 
+def under(change, *arguments):
+    """The errors of the program in a process that this changed before, and the memory that it took, in MiB."""
+    program = subprocess.Popen([*PROGRAM, *map(str, arguments)], stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, preexec_fn=change,
+                               restore_signals=False, env={**os.environ, "ASAN_OPTIONS": "quarantine_size_mb=1"})  # fmt: skip
+    errors = program.stderr.read().decode()
+    program.stderr.close()
+    _, status, used = os.wait4(program.pid, 0)
+    program.returncode = os.waitstatus_to_exitcode(status)
+    assert program.returncode == (1 if errors else 0) or (arguments[0] == "check" and program.returncode == 1), (arguments, errors)
+    return errors, used.ru_maxrss // 1024
+
+
+def writing_commands(source, name):
+    return (("convert", source, f"z/{name}.syb"), ("svg", source, "z"), ("gallery", source, f"z/{name}.html"), ("dxf", source, f"z/{name}.dxf"))
+
+
+def memory_is_bounded():
+    if UNDER_WINE:
+        return
+    head, line = "SYM;CNT=%s;WID=3.00;HEI=2.00;RPX=0.00;RPY=0.00\r\n", "POLY;CNT=%s;COL=255;WID=0.00;CLS=FALSE;FIL=-1\r\n"
+    put("points.syt", (head % 1 + line % 1500000 + "POINT;1.00;2.00\r\n").encode())
+    put("elements.syt", (head % 100000).encode())
+    put("more.syt", (head % 2000000000).encode()), put("text.syt"), run("convert", "--decimal", "point", "text.syt", "tail.syb")
+    put("tail.syt"), put("tail.wsc", CHAIN.replace(b"END", b"XYZ"))
+    for name in ("tail.syt", "tail.syb", "tail.wsc"):
+        os.truncate(name, 2 << 30)
+    for path, failure in (("points.syt", ""), ("elements.syt", ""), ("more.syt", "error 7:"), ("tail.syt", "error 9:"), ("tail.syb", ""),
+                          ("tail.wsc", "error 3501:")):  # fmt: skip
+        commands = (("info", path), ("check", path), ("diff", path, path), *writing_commands(path, "x"))
+        for command in commands:
+            errors, memory = under(None, *command, "-f", "--decimal", "point")
+            assert failure in errors or command[0] == "check", (command, errors)
+            assert memory < 256, f"{command}: {memory} MiB"
+
+
+def failures_of_the_disk_lose_nothing():
+    """Folders and files that may not be read or written, and a disk that is full: told of, the others go on, old files stay."""
+    if UNDER_WINE:
+        return
+    run("convert", "-r", "--to", "syt", "--decimal", "point", put("k/a.syt").parent, "k2")
+    for name in ("k/zu/b.syt", "k/c.syt", "z/zu/x"):
+        put(name)
+    for name, mode in (("k/zu", 0), ("k/c.syt", 0), ("z/zu", 0o555)):
+        os.chmod(name, mode)
+    drop = lambda: [ctypes.CDLL(None).prctl(24, capability) for capability in (1, 2)]  # the superuser's way around modes
+    denied = "qsymbol: k/c.syt: error 70: Zugriff verweigert\nqsymbol: k/zu: error 70: Zugriff verweigert\n"
+    for command in (("info", "k"), ("check", "k"), ("svg", "k", "b"), ("gallery", "k", "g.html"), ("dxf", "k", "d.dxf"), ("diff", "k", "k2"),
+                    ("convert", "--to", "syb", "k", "c")):  # fmt: skip
+        assert under(drop, *command, "-r", "--decimal", "point")[0] == denied, command
+    assert {str(path) for made in ("b", "c", "g.html", "d.dxf") for path in [pathlib.Path(made), *pathlib.Path(made).glob("*")]} == {
+        "b", "b/a.svg", "c", "c/a.syb", "g.html", "d.dxf"}  # fmt: skip
+    for command in writing_commands("k/a.syt", "zu/y"):
+        target = "z/zu/a.svg" if command[0] == "svg" else command[2]
+        errors, _ = under(drop, *command[:2], "z/zu" if command[0] == "svg" else target, "--decimal", "point")
+        assert errors == f"qsymbol: {target}: error 70: Zugriff verweigert\n", errors
+    def full():
+        signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+        resource.setrlimit(resource.RLIMIT_FSIZE, (60, 60))
+    for command in writing_commands("k/a.syt", "a"):
+        target = "z/a.svg" if command[0] == "svg" else command[2]
+        put(target, b"alt")
+        errors, _ = under(full, *command, "-f", "--decimal", "point")
+        assert errors == f"qsymbol: {target}: error 61: Datenträger voll\n", errors
+        assert pathlib.Path(target).read_bytes() == b"alt"
+    assert sorted(os.listdir("z")) == ["a.dxf", "a.html", "a.svg", "a.syb", "zu"], "nothing is left beside"
+    for name in ("k/zu", "z/zu"):
+        os.chmod(name, 0o755)
+
+
+def names_may_be_unusual():
+    names = ["a  b", "-r", "ü" * 100] if UNDER_WINE else ["a  b", "-r", "ü" * 125, "x" * 251, "\"q'<i>&amp;", "NUL", "oben\nunten\tESC\x1b[2J\x9b"]
+    for name in names:
+        put(f"k/{name}.syt")
+    bad = [] if UNDER_WINE else [b"k/k\xff.syt", b"k/\xfe.txt"]
+    for path in bad:
+        pathlib.Path(os.fsdecode(path)).write_bytes(DOOR)
+    if bad:
+        os.mkdir(b"k/o\xffo")
+    said = "".join(f"qsymbol: k/{name}: error 52: Dateiname oder -nummer falsch\n" for name in (["k\ufffd.syt", "o\ufffdo"] if bad else []))
+    for command in (("info", "k"), ("info", "--json", "k"), ("check", "--json", "k"), ("svg", "k", "b"), ("gallery", "k", "g.html"),
+                    ("dxf", "k", "d.dxf"), ("convert", "--to", "syb", "k", "c"), ("diff", "--json", "k", "c")):  # fmt: skip
+        out, errors = run(*command, "--decimal", "point", status=1 if bad else 0)
+        assert sorted(errors.splitlines()) == sorted(said.splitlines()), (command, errors)
+        if command == ("info", "k"):
+            assert len(out.splitlines()) == 1 + len(names) and not re.search("[\0-\x09\x0b-\x1f\x7f-\x9f]", out), out
+        elif command[:2] == ("info", "--json"):
+            assert {entry["name"] for entry in json.loads(out)} == set(names)
+        elif command[1] == "--json":
+            assert [entry for entry in json.loads(out) if entry.get("status") != "ok"][:-2] == [], out
+    assert {path.stem for path in pathlib.Path("c").iterdir()} == {path.stem for path in pathlib.Path("b").iterdir()} == set(names)
+    assert all(ElementTree.parse(path) for path in pathlib.Path("b").iterdir())
+    out = run("info", "--decimal", "point", "--", *[f"k/{name}.syt" for name in names])[0]
+    assert len(out.splitlines()) == 1 + len(names)
+    if UNDER_WINE:
+        for device in ("NUL", "AUX", "con", "COM1"):
+            for command in writing_commands("k/-r.syt", device)[::2]:
+                errors = run(*command[:2], command[2].replace("z/", ""), "-f", "--decimal", "point", status=1)[1]
+                assert "error 75" in errors, (device, command, errors)
+    else:
+        put("f.wsc", CHAIN.replace(b"END", b"X\x1b[2J\x7fy"))
+        assert "X?[2J?y" in run("info", "f.wsc", status=1)[1] and "X?[2J?y" in run("check", "f.wsc", status=1)[0]
+
+
+def progress_is_for_terminals():
+    if UNDER_WINE:
+        return
+    for number in range(3):
+        put(f"k/{number}.syt")
+    for quiet in ((), ("-q",)):
+        terminal, end = pty.openpty()
+        subprocess.run([*PROGRAM, "check", "--decimal", "point", "k", *quiet], stdout=subprocess.DEVNULL, stderr=end, check=True)
+        os.close(end)
+        try:
+            shown = os.read(terminal, 1000)
+        except OSError:  # nothing was written, and nobody is there any more
+            shown = b""
+        os.close(terminal)
+        # It goes away at the end: blanks over the last line.
+        assert shown == (b"" if quiet else b"\r0 / 3\r1 / 3\r2 / 3\r     \r"), shown
+    assert run("check", "--decimal", "point", "k")[1] == ""
+
+
 def main():
     cases = [case for name, case in globals().items() if callable(case) and "_" in name and case.__module__ == __name__
-             and name not in ("as_json",)]  # fmt: skip
+             and name not in ("as_json", "writing_commands")]  # fmt: skip
     failed = 0
     for case in cases:
         with tempfile.TemporaryDirectory() as folder:

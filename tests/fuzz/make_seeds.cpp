@@ -3,8 +3,10 @@
 #include "platform/posix/windows_1252.h"
 #include "qsymbol/files/binary_writer.h"
 #include "qsymbol/files/symbol_file.h"
+#include "support/command_oracle.h"
 #include "support/silent_prompt.h"
 #include "support/string_table.h"
+#include "support/temp_folder.h"
 
 #include <algorithm>
 #include <array>
@@ -63,6 +65,19 @@ void MakeSymbols(const fs::path& folder) {
     }
 }
 
+/// A small file of each format for each command; the first byte chooses, as support::BrokenCommandPromise says.
+void MakeCommands(const fs::path& seeds) {
+    constexpr std::array kFormats = {"text_reader", "binary_reader", "import_reader"};
+    fs::create_directories(seeds / "command");
+    for (std::size_t choice = 0; choice < kFormats.size() * support::CommandCount(); ++choice) {
+        const std::size_t command = choice / kFormats.size();
+        const fs::path symbol =
+            seeds / kFormats[choice % kFormats.size()] / ("symbol-" + std::to_string(command % kSeeds));
+        Write(seeds / "command" / ("file-" + std::to_string(choice)),
+              static_cast<char>(choice) + support::BytesOf(symbol));
+    }
+}
+
 } // namespace
 
 /// make_seeds SAMPLES SEEDS: what the fuzzers start from, out of the sample symbols.
@@ -97,5 +112,6 @@ int main(int count, char** arguments) {
                       fs::copy_options::overwrite_existing);
     MakeNumbers(seeds / "number_reader");
     MakeSymbols(seeds / "symbol_writer");
+    MakeCommands(seeds);
     return 0;
 }

@@ -2,6 +2,7 @@
 #include "cli/commands/command.h"
 #include "cli/commands/json_output.h"
 #include "cli/for_each.h"
+#include "cli/shown.h"
 #include "cli/symbol_files.h"
 #include "cli/symbol_io.h"
 #include "qsymbol/check/file_check.h"
@@ -52,7 +53,7 @@ Json AsJson(const std::u16string& path, const std::vector<Finding>& findings) {
 
 /// The file's name, and under it a line for each finding.
 std::string AsText(const std::u16string& path, const std::vector<Finding>& findings) {
-    std::string text = base::ToUtf8(path);
+    std::string text = Shown(path);
     text += '\n';
     for (const Finding& finding : findings) {
         text += "  ";
@@ -63,7 +64,7 @@ std::string AsText(const std::u16string& path, const std::vector<Finding>& findi
             text.append(", element ").append(std::to_string(*finding.element));
         if (finding.number)
             text.append(" ").append(std::to_string(*finding.number));
-        text.append(": ").append(base::ToUtf8(finding.message)).append("\n");
+        text.append(": ").append(Shown(finding.message)).append("\n");
     }
     return text;
 }

@@ -26,7 +26,7 @@ void Convert(const ConvertArguments& arguments, Run& run) {
         WrongUsage("convert: a folder needs --to syt or --to syb");
     // A file goes under the target's name, or under its own into a folder that is there.
     const bool intoFolder = fromFolder || (!to.empty() && IsFolder(target));
-    if (!intoFolder && !to.empty() && Extension(target) != to)
+    if (!intoFolder && !to.empty() && Extension(target) != to && Exists(base::FromUtf8(arguments.source)))
         WrongUsage("convert: --to and the target's extension differ");
     Targets targets(run);
     std::size_t written = 0;

@@ -61,10 +61,17 @@ std::vector<CatalogueDifference> CompareFiles(const std::vector<CatalogueSymbol>
     return {{after[0].name, after[0].name, std::move(changes)}};
 }
 
-void Diff(const DiffArguments& arguments, Run& run) {
-    const bool folders = IsFolder(base::FromUtf8(arguments.before));
-    if (folders != IsFolder(base::FromUtf8(arguments.after)))
+/// What is compared; a path under which there is nothing is told of when it is read.
+bool BothAreFolders(const DiffArguments& arguments) {
+    const std::u16string before = base::FromUtf8(arguments.before);
+    const std::u16string after = base::FromUtf8(arguments.after);
+    if (IsFolder(before) != IsFolder(after) && Exists(before) && Exists(after))
         WrongUsage("diff: both must be files, or both folders");
+    return IsFolder(before) && IsFolder(after);
+}
+
+void Diff(const DiffArguments& arguments, Run& run) {
+    const bool folders = BothAreFolders(arguments);
     const std::vector<CatalogueSymbol> before = ReadSide(arguments.before, run);
     const std::vector<CatalogueSymbol> after = ReadSide(arguments.after, run);
     std::vector<CatalogueDifference> differences;

@@ -1,5 +1,6 @@
 #include "cli/commands/difference_text.h"
 
+#include "cli/shown.h"
 #include "qsymbol/check/millimetres.h"
 
 #include <array>
@@ -95,8 +96,8 @@ Json WithChange(Json item, const Change& change) {
 } // namespace
 
 std::string AsText(const CatalogueDifference& difference) {
-    const std::string before = base::ToUtf8(difference.before);
-    const std::string after = base::ToUtf8(difference.after);
+    const std::string before = Shown(difference.before);
+    const std::string after = Shown(difference.after);
     std::string text;
     if (after.empty())
         return text.append("- ").append(before).append("\n");

@@ -4,6 +4,7 @@
 #include "cli/commands/table.h"
 #include "cli/for_each.h"
 #include "cli/paths.h"
+#include "cli/shown.h"
 #include "cli/symbol_files.h"
 #include "cli/symbol_io.h"
 #include "qsymbol/check/millimetres.h"
@@ -43,7 +44,7 @@ Json AsJson(const qsymbol::Symbol& symbol) {
 Table::Line AsLine(const qsymbol::Symbol& symbol) {
     using qsymbol::Millimetres;
     const qsymbol::SymbolSummary summary = Summarise(symbol);
-    return {base::ToUtf8(Name(symbol)),
+    return {Shown(Name(symbol)),
             base::ToUtf8(Extension(symbol.filePath)),
             Millimetres(symbol.width) + " x " + Millimetres(symbol.height),
             Millimetres(symbol.refX) + ", " + Millimetres(symbol.refY),

@@ -22,6 +22,9 @@ public:
         return true;
     }
 
+    /// True when the text is used up, with or without a last LF.
+    bool AtEnd() const { return at_ == end_; }
+
 private:
     static std::size_t Distance(const char* from, const char* to) {
         return static_cast<std::size_t>(to - from);

@@ -9,6 +9,8 @@
 #include "qsymbol/files/text_element_fields.h"
 #include "qsymbol/files/text_format.h"
 
+#include <charconv>
+
 namespace qsymbol {
 
 namespace {
@@ -162,6 +164,44 @@ private:
     std::size_t nextPoint_ = 0;
 };
 
+/// The header's count of elements where it is written plainly, else more than any file has.
+std::size_t CountIn(std::string_view header) {
+    constexpr std::size_t kPlainDigits = 9;
+    std::size_t count = SIZE_MAX;
+    FieldCursor fields(header, text_format::kSeparator);
+    for (std::string_view field; fields.Next(field);) {
+        if (Key(field) != Key("CNT"))
+            continue;
+        const std::string_view value = text_format::Value(field);
+        const char* const end = value.data() + value.size();
+        if (value.size() > kPlainDigits || std::from_chars(value.data(), end, count).ptr != end)
+            return SIZE_MAX;
+    }
+    return count;
+}
+
+/// True when a line, of whatever may follow it, opens an element: it is not empty and no point or string.
+bool OpensElement(std::string_view line, bool ends) {
+    if (line.ends_with('\r') && !ends)
+        line.remove_suffix(1); // of the line's end
+    const std::size_t separator = line.find(text_format::kSeparator);
+    const std::string_view type = line.substr(0, separator);
+    for (const std::string_view other : {text_format::kPoint, text_format::kString}) {
+        const bool mayBecome = !ends && separator == std::string_view::npos && other.starts_with(type);
+        if (type == other || mayBecome)
+            return false;
+    }
+    return !line.empty();
+}
+
+/// True when these lines open more elements than are counted, which is where reading ends.
+bool OpensMoreThan(std::size_t count, LineCursor lines) {
+    for (std::string_view line; lines.Next(line);)
+        if (OpensElement(line, !lines.AtEnd()) && count-- == 0)
+            return true;
+    return false;
+}
+
 } // namespace
 
 std::u16string ParseText(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {
@@ -179,7 +219,9 @@ std::uint64_t TextReach(std::string_view beginning) {
     const std::string_view header(text_format::kHeader);
     const bool refused =
         ends ? !text_format::IsHeader(line) : !line.starts_with(header) && !header.starts_with(line);
-    return refused && !line.empty() ? beginning.size() : UINT64_MAX;
+    if (refused && !line.empty())
+        return beginning.size();
+    return ends && OpensMoreThan(CountIn(line), lines) ? beginning.size() : UINT64_MAX;
 }
 
 } // namespace qsymbol

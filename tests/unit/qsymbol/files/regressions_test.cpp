@@ -1,3 +1,4 @@
+#include "support/command_oracle.h"
 #include "support/file_oracles.h"
 #include "support/number_oracle.h"
 #include "support/temp_folder.h"
@@ -8,11 +9,11 @@
 
 namespace {
 
-using Oracle = std::string (*)(std::string_view);
-
 /// Holds every file of a folder and below against the oracle.
+template <class Oracle>
 void Replay(const std::string& folder, Oracle oracle, std::size_t least) {
     std::size_t count = 0;
+    ASSERT_TRUE(std::filesystem::exists(QSYMBOL_SOURCE_DIR "/" + folder)) << folder;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(QSYMBOL_SOURCE_DIR "/" + folder)) {
         if (!entry.is_regular_file())
             continue;
@@ -30,11 +31,27 @@ TEST(Regressions, Findings) {
 }
 
 TEST(Regressions, SeedsOfTheFuzzers) {
-    Replay("tests/fuzz/seeds/text_reader", support::BrokenTextPromise, 10);
-    Replay("tests/fuzz/seeds/binary_reader", support::BrokenBinaryPromise, 10);
-    Replay("tests/fuzz/seeds/import_reader", support::BrokenImportPromise, 10);
-    Replay("tests/fuzz/seeds/number_reader", support::BrokenNumberPromise, 10);
-    Replay("tests/fuzz/seeds/symbol_writer", support::BrokenSymbolPromise, 10);
+    constexpr std::pair<const char*, std::string (*)(std::string_view)> kFuzzers[] = {
+        {"text_reader", support::BrokenTextPromise},     {"binary_reader", support::BrokenBinaryPromise},
+        {"import_reader", support::BrokenImportPromise}, {"number_reader", support::BrokenNumberPromise},
+        {"symbol_writer", support::BrokenSymbolPromise}, {"command", support::BrokenCommandPromise},
+    };
+    for (const auto& [name, oracle] : kFuzzers) {
+        Replay("tests/fuzz/seeds/" + std::string(name), oracle, 10);
+    }
+}
+
+TEST(Regressions, SeedsThroughEveryCommand) {
+    for (const auto& [name, extension] :
+         {std::pair{"text_reader", "syt"}, {"binary_reader", "syb"}, {"import_reader", "wsc"}}) {
+        const auto everyCommand = [&](std::string_view bytes) {
+            std::string broken;
+            for (std::size_t command = 0; command < support::CommandCount() && broken.empty(); ++command)
+                broken = support::BrokenCommandPromise(command, extension, bytes);
+            return broken;
+        };
+        Replay("tests/fuzz/seeds/" + std::string(name), everyCommand, 10);
+    }
 }
 
 } // namespace
