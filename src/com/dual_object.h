@@ -47,7 +47,7 @@ public:
         else if (iid == IID_IProvideClassInfo || iid == IID_IProvideClassInfo2)
             *object = static_cast<IProvideClassInfo2*>(this);
         else
-            return E_NOINTERFACE;
+            return QueryMore(iid, object);
         this->AddRef();
         return S_OK;
     }
@@ -115,6 +115,9 @@ public:
 
 protected:
     virtual ~DualObject() { TheModule().ObjectGone(); }
+
+    /// Questions for interfaces that only some classes have.
+    virtual HRESULT QueryMore(REFIID, void**) { return E_NOINTERFACE; }
 
     /// Runs the body of a method: no exception leaves it, and the object lives until its end, whatever a host
     /// does meanwhile.

@@ -11,6 +11,10 @@ public:
     /// Reads the control's hDC.
     explicit HostSurface(IDispatch& control);
 
+    IDispatch& Control() const { return *control_; }
+    /// What the control's hDC was.
+    HDC Context() const { return context_; }
+
     qsymbol::SurfaceKind Kind() override;
     std::u16string Name() override;
 

@@ -15,7 +15,8 @@ namespace math_library {
 namespace {
 
 /// In the order of Class.
-const CLSID* const kClasses[] = {&__uuidof(CPt), &__uuidof(CPtList), &__uuidof(CRect), &__uuidof(CSettings)};
+const CLSID* const kClasses[] = {&__uuidof(CPt), &__uuidof(CPtList), &__uuidof(CRect), &__uuidof(CSettings),
+                                 &__uuidof(CTrans)};
 
 /// What this thread holds, in the same order. Plain pointers: threads end without notice.
 thread_local IClassFactory* g_held[std::size(kClasses)] = {};

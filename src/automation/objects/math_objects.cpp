@@ -42,6 +42,12 @@ com::ComPtr<_CRect> NewRect(const qmath::Rect& rect) {
     return object;
 }
 
+com::ComPtr<_CTrans> NewTrans(double scale) {
+    auto trans = New<_CTrans>(Class::Trans);
+    com::Call(*trans, &_CTrans::SetScale, scale);
+    return trans;
+}
+
 com::ComPtr<_CSettings> Settings() {
     return New<_CSettings>(Class::Settings);
 }

@@ -19,6 +19,9 @@ com::ComPtr<_CPtList> NewPointList(std::span<const qmath::Point> points);
 
 com::ComPtr<_CRect> NewRect(const qmath::Rect& rect);
 
+/// A transformation with offsets of 0.
+com::ComPtr<_CTrans> NewTrans(double scale);
+
 /// The settings that all components share.
 com::ComPtr<_CSettings> Settings();
 

@@ -1,6 +1,37 @@
 #include "automation/qmath/CTrans.h"
 
+#include "automation/shared/library_values.h"
 #include "automation/shared/point_access.h"
+#include "com/unknown_object.h"
+
+#include <new>
+
+namespace {
+
+class TransformValue final : public com::UnknownObject<ITransformValue> {
+public:
+    explicit TransformValue(CTrans& trans) : trans_(&trans) {}
+
+    void* STDMETHODCALLTYPE Object() override { return static_cast<_CTrans*>(trans_.Get()); }
+    void STDMETHODCALLTYPE Get(double* scale, LONG* offsetX, LONG* offsetY) override {
+        *scale = trans_->Value().Scale();
+        *offsetX = trans_->Value().OffsetX();
+        *offsetY = trans_->Value().OffsetY();
+    }
+
+private:
+    com::ComPtr<CTrans> trans_;
+};
+
+} // namespace
+
+HRESULT CTrans::QueryMore(REFIID iid, void** object) {
+    if (iid != __uuidof(ITransformValue))
+        return E_NOINTERFACE;
+    ITransformValue* const value = new (std::nothrow) TransformValue(*this);
+    *object = value;
+    return value == nullptr ? E_OUTOFMEMORY : S_OK;
+}
 
 STDMETHODIMP CTrans::SetScale(double scale) {
     return Do([&] { transform_.SetScale(scale); });

@@ -20,6 +20,10 @@ public:
     STDMETHODIMP get_OffsetX(LONG* value) override;
     STDMETHODIMP get_OffsetY(LONG* value) override;
 
+    const qmath::Transform& Value() const { return transform_; }
+
 private:
+    HRESULT QueryMore(REFIID iid, void** object) override;
+
     qmath::Transform transform_;
 };

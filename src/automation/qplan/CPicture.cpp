@@ -42,6 +42,27 @@ CPicture::Sheet& CPicture::Made() const {
     return com::Required(sheet_.get());
 }
 
+com::ComPtr<CPicture> CPicture::CreateBlank(LONG width, LONG height) {
+    constexpr COLORREF kWhite = RGB(255, 255, 255);
+    com::ComPtr<CPicture> picture = DualObject::Create();
+    picture->sheet_ =
+        std::make_unique<Sheet>(std::make_unique<platform::MemoryBitmap>(width, height, kWhite));
+    return picture;
+}
+
+com::ComPtr<CPicture> CPicture::CreateRecording(HDC recorder, LONG width, LONG height) {
+    com::ComPtr<CPicture> picture = DualObject::Create();
+    picture->sheet_ = std::make_unique<Sheet>(recorder, width, height);
+    return picture;
+}
+
+const platform::MemoryBitmap& CPicture::Bitmap() const {
+    const Sheet& sheet = Made();
+    if (sheet.bitmap == nullptr)
+        base::Raise(base::RunTimeError::InvalidCall);
+    return *sheet.bitmap;
+}
+
 HRESULT CPicture::Get(DrawingTools::Property property, LONG* value) {
     return Return(value, [&] { return Made().tools.Get(property); });
 }
@@ -52,23 +73,23 @@ HRESULT CPicture::Put(DrawingTools::Property property, LONG value) {
 
 STDMETHODIMP CPicture::Create(LONG lWidth, LONG lHeight, LONG lBackColor) {
     return Compute([&] {
-        auto made = std::make_unique<Sheet>(lWidth, lHeight, BackgroundOf(lBackColor));
+        auto made = std::make_unique<Sheet>(
+            std::make_unique<platform::MemoryBitmap>(lWidth, lHeight, BackgroundOf(lBackColor)));
         sheet_.swap(made); // a failure leaves the old picture
     });
 }
 
 STDMETHODIMP CPicture::get_hDC(LONG* value) {
     // A handle has 32 significant bits in 64-bit programs as well.
-    return Return(value,
-                  [&] { return static_cast<LONG>(reinterpret_cast<LONG_PTR>(Made().bitmap.Context())); });
+    return Return(value, [&] { return static_cast<LONG>(reinterpret_cast<LONG_PTR>(Made().context)); });
 }
 
 STDMETHODIMP CPicture::get_ScaleWidth(float* value) {
-    return Return(value, [&] { return static_cast<float>(Made().bitmap.Width()); });
+    return Return(value, [&] { return static_cast<float>(Made().width); });
 }
 
 STDMETHODIMP CPicture::get_ScaleHeight(float* value) {
-    return Return(value, [&] { return static_cast<float>(Made().bitmap.Height()); });
+    return Return(value, [&] { return static_cast<float>(Made().height); });
 }
 
 STDMETHODIMP CPicture::get_Name(BSTR* value) {
@@ -132,17 +153,17 @@ STDMETHODIMP CPicture::Line(float sX1, float sY1, float sX2, float sY2) {
 }
 
 STDMETHODIMP CPicture::Clear() {
-    return Compute([&] { Made().bitmap.Clear(); });
+    return Compute([&] { Bitmap().Clear(); });
 }
 
 STDMETHODIMP CPicture::get_Pixel(LONG lX, LONG lY, LONG* value) {
-    return Return(value, [&] { return static_cast<LONG>(GetPixel(Made().bitmap.Context(), lX, lY)); });
+    return Return(value, [&] { return static_cast<LONG>(GetPixel(Bitmap().Context(), lX, lY)); });
 }
 
 STDMETHODIMP CPicture::get_Picture(IPictureDisp** value) {
-    return Return(value, [&] { return NewPicture(Made().bitmap.Copy()).Detach(); });
+    return Return(value, [&] { return NewPicture(Bitmap().Copy()).Detach(); });
 }
 
 STDMETHODIMP CPicture::Write2File(BSTR stFilename) {
-    return Compute([&] { WritePictureFile(Made().bitmap, com::Text(stFilename)); });
+    return Compute([&] { WritePictureFile(Bitmap(), com::Text(stFilename)); });
 }

@@ -12,6 +12,16 @@
 /// Public class CPicture: a surface in memory, for hosts that have none.
 class CPicture final : public com::DualObject<CPicture, _CPicture> {
 public:
+    /// A white picture. Errors of platform::MemoryBitmap.
+    static com::ComPtr<CPicture> CreateBlank(LONG width, LONG height);
+    /// A picture of this size whose drawings are recorded by a device context. It has no pixels: members that want
+    /// them are error 5.
+    static com::ComPtr<CPicture> CreateRecording(HDC recorder, LONG width, LONG height);
+    /// Lets the device context go; members are error 91 from then on.
+    void Finish() { sheet_.reset(); }
+    /// Error 91 before Create, 5 for a recording.
+    const platform::MemoryBitmap& Bitmap() const;
+
     STDMETHODIMP Create(LONG lWidth, LONG lHeight, LONG lBackColor) override;
     STDMETHODIMP get_hDC(LONG* value) override;
     STDMETHODIMP get_ScaleWidth(float* value) override;
@@ -37,12 +47,19 @@ public:
     STDMETHODIMP Write2File(BSTR stFilename) override;
 
 private:
-    /// What Create makes.
+    /// What is drawn on.
     struct Sheet {
-        Sheet(LONG width, LONG height, COLORREF background)
-            : bitmap(width, height, background), tools(bitmap.Context()) {}
+        Sheet(HDC recorder, LONG sheetWidth, LONG sheetHeight)
+            : context(recorder), width(sheetWidth), height(sheetHeight), tools(recorder) {}
+        explicit Sheet(std::unique_ptr<platform::MemoryBitmap> pixels)
+            : Sheet(pixels->Context(), pixels->Width(), pixels->Height()) {
+            bitmap = std::move(pixels);
+        }
 
-        platform::MemoryBitmap bitmap;
+        std::unique_ptr<platform::MemoryBitmap> bitmap; ///< outlives the tools; missing in a recording
+        HDC context;
+        LONG width;
+        LONG height;
         DrawingTools tools;
         std::u16string name = u"CPicture";
     };

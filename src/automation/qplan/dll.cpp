@@ -1,5 +1,6 @@
 #include "automation/objects/math_library.h"
 #include "automation/qplan/CPicture.h"
+#include "automation/qplan/CPlan.h"
 #include "com/server.h"
 
 namespace {
@@ -7,6 +8,7 @@ namespace {
 /// CPlacement and CPlacementColl are missing on purpose: they come from a plan only.
 const com::ClassEntry kClasses[] = {
     {&__uuidof(CPicture), L"CPicture", L"QPlan.CPicture", CPicture::CreateInstance},
+    {&__uuidof(CPlan), L"CPlan", L"QPlan.CPlan", CPlan::CreateInstance},
 };
 
 } // namespace

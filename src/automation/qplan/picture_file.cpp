@@ -46,8 +46,11 @@ PictureFormat PictureFormatOf(const std::u16string& path) {
     base::Raise(base::RunTimeError::InvalidCall);
 }
 
-void WritePictureFile(const MemoryBitmap& bitmap, const std::u16string& path) {
-    const PictureFormat format = PictureFormatOf(path);
+void WritePictureContent(const std::string& content, const std::u16string& path) {
     platform::Win32FileSystem files;
-    base::WriteBeside(files, path, Compose(bitmap, format));
+    base::WriteBeside(files, path, content);
+}
+
+void WritePictureFile(const MemoryBitmap& bitmap, const std::u16string& path) {
+    WritePictureContent(Compose(bitmap, PictureFormatOf(path)), path);
 }

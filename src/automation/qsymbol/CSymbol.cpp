@@ -9,6 +9,8 @@
 #include "automation/qsymbol/last_factors.h"
 #include "automation/qsymbol/library.h"
 #include "automation/qsymbol/symbol_access.h"
+#include "automation/qsymbol/symbol_value.h"
+#include "automation/shared/library_values.h"
 #include "automation/shared/point_access.h"
 #include "com/bstr.h"
 #include "platform/win32/gdi_text_measure.h"
@@ -21,9 +23,12 @@
 #include "qsymbol/export/dxf_export.h"
 #include "qsymbol/files/symbol_file.h"
 
+#include <atomic>
 #include <utility>
 
 namespace {
+
+std::atomic<std::uint64_t> g_lastEdition = 0;
 
 /// The records of elements that make a symbol. Error 9 for an empty collection.
 qsymbol::ElementList Records(_CSymElementColl& elements) {
@@ -57,7 +62,23 @@ com::ComPtr<CSymbol> CSymbol::CreateFrom(qsymbol::Symbol&& symbol) {
 qsymbol::Symbol& CSymbol::Edit() {
     if (symbol_.use_count() > 1)
         symbol_ = std::make_shared<qsymbol::Symbol>(*symbol_);
+    NoteChange();
     return *symbol_;
+}
+
+void CSymbol::NoteChange() {
+    edition_ = ++g_lastEdition;
+}
+
+std::uint64_t CSymbol::LastEdition() {
+    return g_lastEdition;
+}
+
+HRESULT CSymbol::QueryMore(REFIID iid, void** object) {
+    if (iid != __uuidof(ISymbolValue))
+        return E_NOINTERFACE;
+    *object = NewSymbolValue(*this);
+    return *object == nullptr ? E_OUTOFMEMORY : S_OK;
 }
 
 STDMETHODIMP CSymbol::get_FilePath(BSTR* value) {
@@ -219,9 +240,11 @@ STDMETHODIMP CSymbol::ReadFromFile() {
             qsymbol::ReadFromFile(*target, library::FileEnvironmentNow());
         } catch (...) {
             symbol_ = target;
+            NoteChange(); // who looked meanwhile saw a part of it
             throw;
         }
         symbol_ = target;
+        NoteChange();
     });
 }
 

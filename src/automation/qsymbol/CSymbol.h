@@ -6,6 +6,7 @@
 
 #include <QSymbol.h>
 
+#include <cstdint>
 #include <memory>
 
 /// Public class CSymbol: one symbol.
@@ -17,6 +18,10 @@ public:
     static com::ComPtr<CSymbol> CreateFrom(qsymbol::Symbol&& symbol);
     /// The symbol as it is now; changes of this object do not reach it.
     std::shared_ptr<const qsymbol::Symbol> Value() const { return symbol_; }
+    /// Another number after every change, and no other symbol's; 0 at first.
+    std::uint64_t Edition() const { return edition_; }
+    /// The highest edition of all symbols.
+    static std::uint64_t LastEdition();
 
     STDMETHODIMP get_FilePath(BSTR* value) override;
     STDMETHODIMP put_FilePath(BSTR value) override;
@@ -51,8 +56,11 @@ private:
     /// The value for a change: a copy of its own while somebody else still holds the present one. A host's
     /// surface may call back into the symbol that is just being drawn on it.
     qsymbol::Symbol& Edit();
+    void NoteChange();
+    HRESULT QueryMore(REFIID iid, void** object) override;
 
     /// What an export without elements left open; closed by the next export or with the object.
     std::unique_ptr<base::File> openDxfFile_;
     std::shared_ptr<qsymbol::Symbol> symbol_ = std::make_shared<qsymbol::Symbol>();
+    std::uint64_t edition_ = 0;
 };

@@ -101,7 +101,7 @@ BITMAPINFO MemoryBitmap::Info() const {
     return DescribeRows(width_, -height_);
 }
 
-void MemoryBitmap::Clear() {
+void MemoryBitmap::Clear() const {
     const RECT all{0, 0, width_, height_};
     const HBRUSH brush = CreateSolidBrush(background_);
     FillRect(context_, &all, brush);

@@ -20,7 +20,7 @@ public:
     std::int32_t Width() const { return width_; }
     std::int32_t Height() const { return height_; }
     /// Everything in the background's colour again.
-    void Clear();
+    void Clear() const;
 
     /// A copy that belongs to the caller. Error 7.
     HBITMAP Copy() const;

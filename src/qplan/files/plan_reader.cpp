@@ -25,7 +25,11 @@ constexpr std::int32_t kLargestColour = 0xFFFFFF;
 
 std::u16string Quoted(std::string_view text) {
     constexpr std::size_t kShown = 100;
-    return u"\"" + base::FromUtf8(text.substr(0, kShown)) + u"\"";
+    std::u16string quoted =
+        u"\""; // joined piece by piece: some compilers see dangers in a sum that begins with a literal
+    quoted += base::FromUtf8(text.substr(0, kShown));
+    quoted += u'"';
+    return quoted;
 }
 
 /// The fields of one line, taken from left to right.

@@ -28,6 +28,7 @@ const PublicClass kClasses[] = {
     {L"QSymbol.CSymElementColl", &CLSID_CSymElementColl, &IID__CSymElementColl},
     {L"QSymbol.CSymTool", &CLSID_CSymTool, &IID__CSymTool},
     {L"QPlan.CPicture", &CLSID_CPicture, &IID__CPicture},
+    {L"QPlan.CPlan", &CLSID_CPlan, &IID__CPlan},
     {L"QMath.CTrans", &CLSID_CTrans, &IID__CTrans},
     {L"QMath.CPt", &CLSID_CPt, &IID__CPt},
     {L"QMath.CPtList", &CLSID_CPtList, &IID__CPtList},

@@ -68,8 +68,14 @@ TEST_F(WithoutRegistration, TheManifestServesAHost) {
 
 TEST_F(WithoutRegistration, TheManifestOfPlansBringsTheOtherOne) {
     const ActiveManifest manifest(L"QPlan.X.manifest");
-    for (const wchar_t* progId : {L"QPlan.CPicture", L"QSymbol.CSymbol", L"QMath.CTrans"})
+    for (const wchar_t* progId : {L"QPlan.CPicture", L"QPlan.CPlan", L"QSymbol.CSymbol", L"QMath.CTrans"})
         EXPECT_TRUE(Dispatch::Create(progId)) << progId;
+    // The types of its arguments are those of the other libraries.
+    EXPECT_EQ(Dispatch::Create(L"QPlan.CPlan").Call(L"Add", {L"A", 0, 0, 0.0}).failure,
+              support::RunTimeError(91, L"QPlan"));
+    EXPECT_OK(Dispatch::Create(L"QPlan.CPlan")
+                  .PutRef(L"Symbols", Dispatch::Create(L"QSymbol.CSymbolColl").Object())
+                  .status);
     EXPECT_FALSE(Dispatch::Create(L"QPlan.CPlacement")) << "only a plan makes one";
 }
 
