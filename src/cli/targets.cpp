@@ -70,14 +70,15 @@ void MakeSureItMayBeWritten(const std::u16string& path, bool overwrite) {
         throw RunTime(base::RunTimeError::PermissionDenied);
 }
 
-void WriteBesideAndRename(const std::u16string& path, std::string_view bytes, base::FileSystem& files) {
+void WriteBesideAndRename(const std::u16string& path, const base::Composer& compose,
+                          base::FileSystem& files) {
     const fs::path target = BehindLinks(fs::path(path));
     const fs::path folder = target.parent_path();
     if (!folder.empty())
         fs::create_directories(folder);
     const fs::path beside = folder / fs::path(NameBeside());
     Passing passing(beside);
-    base::WriteWholeFile(files, beside.u16string(), base::OpenMode::Replace, bytes);
+    base::WriteWholeFile(files, beside.u16string(), base::OpenMode::Replace, compose);
     std::error_code none;
     const fs::file_status old = fs::status(target, none);
     if (fs::exists(old))
@@ -106,7 +107,11 @@ void Targets::Claim(const std::u16string& path) {
 }
 
 void Targets::Write(const std::u16string& path, std::string_view bytes) const {
-    OnTarget(path, [&] { WriteBesideAndRename(path, bytes, run_.OnSystem().files); });
+    Write(path, [&](const base::ByteSink& sink) { sink(bytes); });
+}
+
+void Targets::Write(const std::u16string& path, const base::Composer& compose) const {
+    OnTarget(path, [&] { WriteBesideAndRename(path, compose, run_.OnSystem().files); });
 }
 
 std::u16string TargetIn(const std::u16string& folder, const SourceFile& source,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/byte_sink.h"
 #include "cli/run.h"
 #include "cli/source_file.h"
 
@@ -22,6 +23,8 @@ public:
     /// Writes a claimed target beside its place and renames it. The old file stays whole on any failure: 61
     /// disk full, 70, 75, 57.
     void Write(const std::u16string& path, std::string_view bytes) const;
+    /// The same for bytes that come piece by piece; errors of `compose` too.
+    void Write(const std::u16string& path, const base::Composer& compose) const;
 
 private:
     const Run& run_;

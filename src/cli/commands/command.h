@@ -26,6 +26,7 @@ void AddConvert(CLI::App& application, Run& run);
 void AddSvg(CLI::App& application, Run& run);
 void AddGallery(CLI::App& application, Run& run);
 void AddDxf(CLI::App& application, Run& run);
+void AddPlan(CLI::App& application, Run& run);
 void AddDiff(CLI::App& application, Run& run);
 
 /// A subcommand with the options that all of them have.

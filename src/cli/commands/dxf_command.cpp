@@ -1,5 +1,6 @@
 #include "base/utf8.h"
 #include "cli/commands/command.h"
+#include "cli/commands/drawing_units.h"
 #include "cli/for_each.h"
 #include "cli/paths.h"
 #include "cli/symbol_files.h"
@@ -7,7 +8,6 @@
 #include "cli/targets.h"
 #include "qsymbol/drawing/catalogue_drawing.h"
 
-#include <map>
 #include <memory>
 
 namespace cli {
@@ -55,12 +55,7 @@ void AddDxf(CLI::App& application, Run& run) {
     command.add_option("PATH", arguments->paths, "Symbol files and folders, then the drawing to write")
         ->required()
         ->expected(2, -1);
-    const std::map<std::string, qsymbol::DrawingUnit> units = {{"mm", qsymbol::DrawingUnit::Millimetre},
-                                                               {"cm", qsymbol::DrawingUnit::Centimetre},
-                                                               {"m", qsymbol::DrawingUnit::Metre}};
-    command.add_option("--units", arguments->unit, "What a unit of the drawing measures; mm without it")
-        ->transform(CLI::CheckedTransformer(units).description(""))
-        ->type_name("mm|cm|m");
+    AddUnits(command, arguments->unit);
     command.callback([arguments, &run] { WriteDrawing(*arguments, run); });
 }
 

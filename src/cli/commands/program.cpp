@@ -15,7 +15,8 @@ namespace {
 
 constexpr int kWrongUsage = 2;
 
-constexpr std::array kCommands = {AddInfo, AddCheck, AddConvert, AddSvg, AddGallery, AddDxf, AddDiff};
+constexpr std::array kCommands = {AddInfo,    AddCheck, AddConvert, AddSvg,
+                                  AddGallery, AddDxf,   AddPlan,    AddDiff};
 
 void AddCommonOptions(CLI::App& application, Options& options) {
     application.add_flag("-r,--recursive", options.recursive, "Also the subfolders of folders");
