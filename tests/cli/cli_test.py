@@ -195,25 +195,56 @@ def pictures_pages_and_drawings_are_made():
     assert re.fullmatch(r"qsymbol: l[/\\]x\.wsc: error 58: .*\n", errors), f"two sources, one target: {errors}"
 
 
+def plans_become_pictures_and_drawings():
+    put("k/Bad/x.syt"), put("k/x.syb", b"kaputt"), put("k/schlecht.syb", b"kaputt")
+    plan = "PLAN;Haus & Hof;5000;4000\nFLOOR;255;0;0;5000;4000\nWALL;0;0;5000;0;240\nROOM;Küche;100;200\n"
+    put("h.plan", (plan + "SYMBOL;X;1000;2000.5;90\nSYMBOL;x;-1;0;0\n").encode())
+    write = ("plan", "h.plan", "k/Bad", "--decimal", "point", "--svg", "neu/h.svg", "--dxf", "neu/h.dxf")
+    assert run(*write) == ("2 symbols\n", "")
+    picture = ElementTree.parse("neu/h.svg").getroot()
+    assert (picture.get("width"), picture.get("viewBox")) == ("5000mm", "0 0 5000 4000")
+    assert [use.get("transform") for use in picture.iter("{http://www.w3.org/2000/svg}use")] == [
+        "translate(1000 2000.5) rotate(-90)", "translate(-1 0)"]  # fmt: skip
+    assert [text.text for text in picture.iter("{http://www.w3.org/2000/svg}text")] == ["Tür", "Tür", "Haus & Hof", "Küche"]
+    words = pathlib.Path("neu/h.dxf").read_text(encoding="latin-1").split()
+    layers = [words[i + 2] for i, word in enumerate(words) if word == "AcDbLayerTableRecord"]
+    assert layers == ["0", "BOEDEN", "WAENDE", "SYMBOLE", "RAEUME"] and words.count("INSERT") == 2, layers
+    old = pathlib.Path("neu/h.svg").read_bytes()
+    for line, number, text in (("SYMBOL;y;0;0;0", 5, 'Das Symbol "y" ist nicht im Katalog.'),
+                               ("SYMBOL;x;0;0;0;0", 321, "SYMBOL verlangt 4 Felder."),
+                               ("TISCH;x", 321, 'Unbekannte Zeilenart "TISCH".')):  # fmt: skip
+        put("f.plan", (plan + line).encode())
+        failed = run("plan", "-rf", "f.plan", "k", "--decimal", "point", "--svg", "neu/h.svg", status=1)
+        assert failed == ("", f"qsymbol: f.plan: error {number}: Zeile 5: {text}\n"), failed
+    target = re.compile(r"qsymbol: neu[/\\]h\.svg: error 58: .*\n")
+    assert target.fullmatch(run(*write, status=1)[1]) and target.fullmatch(run(*write[:-2], "-q", status=1)[1])
+    broken = run("plan", "-rf", *write[1:2], "k", *write[3:], status=1)[1]
+    assert re.fullmatch(r"qsymbol: k[/\\]x\.syb: error 3501: .*\n", broken), broken
+    assert "k: error 75" in run("plan", "h.plan", put("keiner/k"), "--svg", "z.svg", status=1)[1].replace("keiner/", "").replace("keiner\\", "")
+    assert pathlib.Path("neu/h.svg").read_bytes() == old and not pathlib.Path("z.svg").exists()
+    assert run(*write, "-fq", "--units", "m") == ("", "")
+
+
 def wrong_usage_is_status_2():
     put("x.syt")
-    own = {"--json": "info check diff", "--to syb": "convert", "--units m": "dxf"}
+    own = {"--json": "info check diff", "--to syb": "convert", "--units m": "dxf plan", "--svg z.svg": "plan", "--dxf z.dxf": "plan"}
     plain = {"info": "x.syt", "check": "x.syt", "convert": "x.syt y.syb", "svg": "x.syt .", "gallery": ". y.html",
-             "dxf": "x.syt y.dxf", "diff": "x.syt x.syt"}  # fmt: skip
+             "dxf": "x.syt y.dxf", "diff": "x.syt x.syt", "plan": "x.plan . --svg y.svg"}  # fmt: skip
     wrong = ["", "help", "-r", "--nein", "convert . y", "convert x.syt y.syb --to wsc", "convert x.syt y.syb --to syt",
-             "diff x.syt .", "diff . x.syt", "gallery . y.txt", "dxf x.syt y.txt", "dxf x.syt y.dxf --units km", "svg x.syt"]  # fmt: skip
+             "diff x.syt .", "diff . x.syt", "gallery . y.txt", "dxf x.syt y.txt", "dxf x.syt y.dxf --units km", "svg x.syt",
+             "plan x.plan .", "plan x.plan . --svg y.dxf", "plan x.plan . --dxf y.svg", "plan x.plan . --svg"]  # fmt: skip
     for command, words in plain.items():
         wrong += [command, f"{command} {words} -x", f"{command} {words} --decimal", f"{command} {words} --decimal x",
                   f"{command} {words} --decimal comma --decimal point"]  # fmt: skip
         wrong += [f"{command} {words} {option}" for option, those in own.items() if command not in those.split()]
-        if command in ("convert", "gallery", "diff"):
+        if command in ("convert", "gallery", "diff", "plan"):
             wrong += [f"{command} {words} z", f"{command} {words.split()[0]}"]
     for arguments in wrong:
         out, errors = run(*arguments.split(), status=2)
         assert out == "" and errors.startswith("qsymbol: "), (arguments, out, errors)
     assert os.listdir() == ["x.syt"], "wrong usage does nothing"
     for arguments in ("info nix", "check nix", "convert nix y.syb", "convert nix y --to syb", "svg nix y", "gallery nix y.html",
-                      "dxf nix y.dxf", "diff nix x.syt", "diff . nix", "diff nix ."):  # fmt: skip
+                      "dxf nix y.dxf", "plan nix . --svg y.svg", "plan x.plan nix --dxf y.dxf", "diff nix x.syt", "diff . nix", "diff nix ."):  # fmt: skip
         _, errors = run(*arguments.split(), "--decimal", "point", status=1)
         assert errors == "qsymbol: nix: error 53: Datei nicht gefunden\n", (arguments, errors)
     assert re.fullmatch(r"qsymbol \d+\.\d+\.\d+\n", run("--version")[0])

@@ -176,6 +176,23 @@ def compare_pictures(document, pictures, folder):
     return len(worst)
 
 
+def check_plan(program, source, folder):
+    """A whole plan: its symbols, each where the plan file says, as blocks of the same file."""
+    plan = source.parent / "planhost/wohnung.plan"
+    placed = [line.split(";")[1:] for line in plan.read_text(encoding="utf-8").splitlines() if line.startswith("SYMBOL")]
+    drawing = folder / "plan.dxf"
+    subprocess.run([program, "plan", "-q", "-r", "--decimal", "comma", plan, source, "--dxf", drawing], check=True)
+    document = ezdxf.readfile(drawing)
+    expect(not document.audit().errors, "the plan's audit")
+    inserts = list(document.modelspace().query('INSERT[layer=="SYMBOLE"]'))
+    expect(len(inserts) == len(placed) > 100, "symbols of the plan", len(inserts))
+    for insert, (name, x, y, angle) in zip(inserts, placed):
+        apart = insert.dxf.insert.distance((float(x), -float(y), 0))
+        expect(insert.dxf.name == name and apart < 1e-6 and abs(insert.dxf.rotation - float(angle)) < 1e-6, name, x, y)
+    names = {text.dxf.text for text in document.modelspace().query('TEXT[layer=="RAEUME"]')}
+    expect({"Küche", "Erdgeschosswohnung mit Terrasse"} <= names, names)
+
+
 def main():
     program, readers, source = pathlib.Path(sys.argv[1]).resolve(), sys.argv[2], pathlib.Path(sys.argv[3])
     know_arial()
@@ -199,7 +216,8 @@ def main():
             scale = {"cm": 10, "m": 1000}[unit]
             expect(small.units == number and not small.audit().errors, unit)
             expect(small.blocks["WC"].base_point.isclose(document.blocks["WC"].base_point / scale), unit, "scale")
-    print(f"{compared + 4 - len(failures)} passed, {len(failures)} failed, 0 skipped")
+        check_plan(program, source, folder)
+    print(f"{compared + 5 - len(failures)} passed, {len(failures)} failed, 0 skipped")
     return 1 if failures else 0
 
 

@@ -13,7 +13,7 @@ namespace cli {
 SymbolsByName::SymbolsByName(const std::u16string& folder, const Run& run) : run_(run) {
     const Kind kind = KindOf(folder);
     if (kind != Kind::Folder)
-        throw FailureOf(folder, RunTime(kind == Kind::Missing ? base::RunTimeError::PathNotFound
+        throw FailureOf(folder, RunTime(kind == Kind::Missing ? base::RunTimeError::FileNotFound
                                                               : base::RunTimeError::PathFileAccess));
     for (const SourceFile& file : SymbolFiles({base::ToUtf8(folder)}, run.options.recursive)) {
         if (file.failure)

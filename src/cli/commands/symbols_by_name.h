@@ -11,7 +11,7 @@ namespace cli {
 /// The symbol files of a catalogue as the source of a plan. A file is read when the plan names its symbol.
 class SymbolsByName final : public qplan::SymbolSource {
 public:
-    /// The first file of a name counts, whatever the case. Error 76 for a folder that is not there, 75 for a file.
+    /// The first file of a name counts, whatever the case. Error 53 for a folder that is not there, 75 for a file.
     SymbolsByName(const std::u16string& folder, const Run& run);
 
     /// Errors of ReadSymbol as FailureOf the symbol's file.
