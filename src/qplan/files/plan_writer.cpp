@@ -69,10 +69,13 @@ private:
         std::int32_t width = sheet.width;
         std::int32_t height = sheet.height;
         if (width == 0) {
-            // No sheet: one that reaches to the end of the last symbol.
-            const qmath::Rect extent = plan_.Extent(1).value_or(qmath::Rect());
-            width = SideTo(extent.right);
-            height = SideTo(extent.bottom);
+            // No sheet: one that reaches to the last insertion points.
+            qmath::Point last;
+            for (const Placement* next = plan_.NextAfter(0); next != nullptr;
+                 next = plan_.NextAfter(next->id))
+                last = {std::max(last.x, next->position.at.x), std::max(last.y, next->position.at.y)};
+            width = SideTo(last.x);
+            height = SideTo(last.y);
         }
         PutRecord("PLAN;", Field(sheet.title), {width, height});
         for (const auto& [colour, area] : sheet.floors)

@@ -33,7 +33,7 @@ constexpr double kPi = 3.14159265358979323846;
 
 int Rounds() {
     const char* const wanted = std::getenv("QSYMBOL_PLAN_ROUNDS");
-    return wanted == nullptr ? 120 : std::atoi(wanted);
+    return wanted == nullptr ? 70 : std::atoi(wanted);
 }
 
 /// Notes nothing but where it was drawn on.
