@@ -1,5 +1,6 @@
 """demo_check.py: runs scripts/demo, looks for what it promises to leave, and reads its DXF file with ezdxf and dxflib."""
 
+import math
 import pathlib
 import re
 import shutil
@@ -43,6 +44,29 @@ def tells_of_a_name_in_two_folders():
         raise AssertionError(f"status {ran.returncode}: {ran.stderr}")
 
 
+def planhost_draws(plan, width):
+    """The bytes of the picture that the sample host draws of a plan file."""
+    picture = OUT / f"{plan.stem}-host.png"
+    draw = ('. scripts/common.sh; wine_run dist/x64/planhost.exe plan "$(windows build/demo/katalog)" "$(windows "$1")" '
+            '"$(windows "$2")" "$3"')
+    subprocess.run(["bash", "-c", draw, "-", plan, picture, str(width)], check=True, stdout=subprocess.DEVNULL)
+    return picture.read_bytes()
+
+
+def draws_what_the_host_draws():
+    """The same encoder writes the pictures of both, so that equal files are equal pixels."""
+    script = pathlib.Path("samples/scripts/zimmer.vbs").read_text(encoding="utf-8")
+    furniture = OUT / "moebel.plan"
+    lines = ["PLAN;;4800;3600", f"FLOOR;{250 + 243 * 256 + 230 * 65536};0;0;4800;3600"]
+    for name, x, y, angle in re.findall(r'Plan.Add "(\w+)", (\d+), (\d+), ([\d.]+)', script):
+        lines.append(f"SYMBOL;{name};{int(x) // 100};{int(y) // 100};{round(math.degrees(float(angle)), 6)}")
+    furniture.write_text("\n".join(lines) + "\n", encoding="utf-8")
+    if len(lines) < 7 or planhost_draws(furniture, 960) != (OUT / "moebel.png").read_bytes():
+        raise AssertionError(f"moebel.png is another picture of {lines}")
+    if planhost_draws(pathlib.Path("samples/scripts/zimmer.plan"), 1000) != (OUT / "zimmer.png").read_bytes():
+        raise AssertionError("zimmer.png is another picture")
+
+
 def main():
     cases = {
         "demo": lambda: subprocess.run(["scripts/demo"], check=True),
@@ -50,6 +74,7 @@ def main():
         "its DXF file": lambda: subprocess.run(
             [sys.executable, "tests/dxf/plan_check.py", OUT / "wohnung.dxf", "samples/planhost/wohnung.plan",
              "samples/katalog", "build/native/tests/dxf/dxflib_dump"], check=True),
+        "pictures of scripts": draws_what_the_host_draws,
         "a failed export": keeps_the_old_plan,
         "a name in two folders": tells_of_a_name_in_two_folders,
     }  # fmt: skip
