@@ -54,7 +54,8 @@ void SymbolTable::SetSource(std::shared_ptr<SymbolSource> source) {
 std::uint32_t SymbolTable::Take(std::u16string_view name) {
     if (source_ == nullptr)
         base::Raise(base::RunTimeError::ObjectNotSet);
-    std::shared_ptr<const PlacedSymbol> symbol = Find(*source_, name);
+    const std::shared_ptr<SymbolSource> held = source_; // it may be exchanged while it is asked
+    std::shared_ptr<const PlacedSymbol> symbol = Find(*held, name);
     std::u16string key(name);
     const auto known = byName_.find(key);
     if (known != byName_.end() && entries_[known->second].symbol == symbol)
