@@ -15,6 +15,10 @@ public:
     int Width() const { return width_; }
     int Height() const { return height_; }
 
+    /// The pixels, row by row from the top: blue, green, red; rows are padded to four bytes. After GdiFlush they are as drawn.
+    BYTE* Bits() { return bits_; }
+    const BYTE* Bits() const { return bits_; }
+
     void SavePng(const std::wstring& path) const;
 
 private:

@@ -27,12 +27,13 @@ int PenStyle(LONG drawStyle, LONG width) {
 
 } // namespace
 
-Ptr<PictureBox> PictureBox::Create(HDC dc, int width, int height, std::wstring name) {
-    return Ptr(new PictureBox(dc, width, height, std::move(name)));
+Ptr<PictureBox> PictureBox::Create(HDC dc, int width, int height, std::wstring name, int thinnest) {
+    return Ptr(new PictureBox(dc, width, height, std::move(name), thinnest));
 }
 
-PictureBox::PictureBox(HDC dc, int width, int height, std::wstring name)
-    : dc_(dc), savedState_(SaveDC(dc)), width_(width), height_(height), name_(std::move(name)) {
+PictureBox::PictureBox(HDC dc, int width, int height, std::wstring name, int thinnest)
+    : dc_(dc), savedState_(SaveDC(dc)), width_(width), height_(height), name_(std::move(name)),
+      thinnest_(thinnest) {
     for (DISPID id = DrawMode; id <= DrawWidth; ++id)
         Apply(id);
 }
@@ -159,7 +160,7 @@ void PictureBox::Apply(DISPID id) {
 }
 
 void PictureBox::UsePen() {
-    const int width = static_cast<int>(values_[DrawWidth]);
+    const int width = std::max(static_cast<int>(values_[DrawWidth]), thinnest_);
     // CreatePen gives thick lines round ends and corners.
     Select(pen_, CreatePen(PenStyle(values_[DrawStyle], width), width, Colour(ForeColor)));
 }

@@ -10,8 +10,8 @@
 /// as it found it.
 class PictureBox final : public IDispatch {
 public:
-    /// A box of this size in pixels, from the origin of the device context on.
-    static Ptr<PictureBox> Create(HDC dc, int width, int height, std::wstring name);
+    /// A box of this size in pixels, from the origin of the device context on. thinnest: no line is thinner, in pixels.
+    static Ptr<PictureBox> Create(HDC dc, int width, int height, std::wstring name, int thinnest = 1);
 
     STDMETHODIMP QueryInterface(REFIID id, void** object) override;
     STDMETHODIMP_(ULONG) AddRef() override;
@@ -40,7 +40,7 @@ private:
         Line
     };
 
-    PictureBox(HDC dc, int width, int height, std::wstring name);
+    PictureBox(HDC dc, int width, int height, std::wstring name, int thinnest);
     ~PictureBox();
 
     HRESULT Get(DISPID id, VARIANT& result) const;
@@ -58,6 +58,7 @@ private:
     int width_;
     int height_;
     std::wstring name_;
+    int thinnest_;
     std::array<LONG, DrawWidth + 1> values_{R2_COPYPEN, 0, 0, 1, 0, 1};
     HGDIOBJ pen_ = nullptr;
     HGDIOBJ brush_ = nullptr;

@@ -75,15 +75,6 @@ void WriteText(const Canvas& canvas, const std::wstring& text, POINT at, int hei
     DeleteObject(font);
 }
 
-void WriteTitleAndLabels(const Plan& plan, const Canvas& canvas) {
-    WriteText(canvas, plan.title, {kTitleMargin, kTitleMargin - kTitleHeight / 2}, kTitleHeight, TA_LEFT);
-    for (const Room& room : plan.rooms) {
-        // Capitals are about two thirds of the height: this puts them round the middle.
-        const POINT baseline{room.middle.x, room.middle.y + kLabelHeight / 3};
-        WriteText(canvas, room.name, baseline, kLabelHeight, TA_CENTER);
-    }
-}
-
 } // namespace
 
 POINT ToPixel(const Canvas& canvas, double x, double y) {
@@ -92,10 +83,23 @@ POINT ToPixel(const Canvas& canvas, double x, double y) {
     return point;
 }
 
-void DrawPlanOn(const Canvas& canvas, const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
-                const std::vector<std::size_t>& marked) {
+void DrawBelowSymbols(const Canvas& canvas, const Plan& plan) {
     DrawFloors(plan, canvas);
     DrawWalls(plan, canvas);
+}
+
+void DrawAboveSymbols(const Canvas& canvas, const Plan& plan) {
+    WriteText(canvas, plan.title, {kTitleMargin, kTitleMargin - kTitleHeight / 2}, kTitleHeight, TA_LEFT);
+    for (const Room& room : plan.rooms) {
+        // Capitals are about two thirds of the height: this puts them round the middle.
+        const POINT baseline{room.middle.x, room.middle.y + kLabelHeight / 3};
+        WriteText(canvas, room.name, baseline, kLabelHeight, TA_CENTER);
+    }
+}
+
+void DrawPlanOn(const Canvas& canvas, const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
+                const std::vector<std::size_t>& marked) {
+    DrawBelowSymbols(canvas, plan);
     DrawSymbols(plan, symbols, marked, canvas);
-    WriteTitleAndLabels(plan, canvas);
+    DrawAboveSymbols(canvas, plan);
 }

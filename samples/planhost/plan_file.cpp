@@ -187,6 +187,10 @@ Plan ReadPlan(const std::filesystem::path& file) {
     std::ifstream stream(file, std::ios::binary);
     if (!stream)
         throw Failure{L"Plan nicht gefunden: " + file.wstring()};
+    return ParsePlan(stream, file.wstring());
+}
+
+Plan ParsePlan(std::istream& stream, const std::wstring& name) {
     Plan plan;
     std::string bytes;
     for (int line = 1; std::getline(stream, bytes); ++line) {
@@ -199,8 +203,15 @@ Plan ReadPlan(const std::filesystem::path& file) {
             TakeRecord(Record(FromUtf8(bytes), line), plan);
     }
     if (plan.width == 0)
-        throw Failure{L"Im Plan fehlt die Zeile PLAN: " + file.wstring()};
+        throw Failure{L"Im Plan fehlt die Zeile PLAN: " + name};
     return plan;
+}
+
+std::string SymbolLines(const std::vector<PlacedSymbol>& symbols) {
+    std::string lines;
+    for (const PlacedSymbol& placed : symbols)
+        lines += SymbolLine(placed) + '\n';
+    return lines;
 }
 
 void WritePlan(const Plan& plan, const std::filesystem::path& file) {

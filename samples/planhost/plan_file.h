@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <filesystem>
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -60,6 +61,11 @@ double Radians(const PlacedSymbol& placed);
 std::wstring Describe(const PlacedSymbol& placed);
 
 Plan ReadPlan(const std::filesystem::path& file);
+/// Reads a plan's text. name: what it is, for messages.
+Plan ParsePlan(std::istream& text, const std::wstring& name);
+
+/// The lines of placed symbols, as a plan file has them.
+std::string SymbolLines(const std::vector<PlacedSymbol>& symbols);
 
 /// Writes the lines of the plan back, with the symbols as they are now: what is not a symbol stays as it was
 /// read, comments too; new symbols come last. The old file is there until the new one is complete.

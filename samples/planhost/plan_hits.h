@@ -13,6 +13,9 @@ struct PointedAt {
     bool isPoint;
 };
 
+bool IsSymbolAt(const PointedAt& place, const PlacedSymbol& placed, _CSymbol& symbol,
+                _CTrans& transformation);
+
 /// Which placed symbols lie there, by their places in the plan: at a point the topmost alone, below a
 /// rectangle all. symbols: those of the plan, in its order.
 std::vector<std::size_t> SymbolsAt(const PointedAt& place, const Plan& plan,

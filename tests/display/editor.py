@@ -15,7 +15,7 @@ PROGRAM = ROOT / "build/mingw-x64/bin/planhost.exe"
 PICTURES = ROOT / "build/test-output"
 ROOM = ROOT / "tests/display/zimmer.plan"
 FLAT = ROOT / "samples/planhost/wohnung.plan"
-MARK = (226, 74, 20)
+MARK = (0, 95, 184)
 WALL = (74, 74, 78)
 MARGIN = 8  # pixels round the sheet
 UNITS = 100  # in a millimetre
@@ -58,10 +58,14 @@ def symbols_of(plan):
 class Editor:
     """A running editor with a plan; the map from plan to pixels is worked out here once more, from the sizes alone."""
 
-    def __init__(self, plan=None):
-        """Without a plan: with the new one that the editor makes."""
+    def __init__(self, plan=None, settings="[Ansicht]\nFangen=0\n"):
+        """Without a plan: with the new one that the editor makes. settings: what it remembers; None: as it left them."""
         catalogue = make_catalogue()
         self.plan = plan
+        self.settings = folder() / "planhost.ini"
+        if settings is not None:
+            self.settings.write_text(settings, encoding="utf-16")
+        os.environ["PLANHOST_INI"] = windows_path(self.settings)
         arguments = [windows_path(catalogue)] + ([windows_path(plan)] if plan else [])
         self.desktop = Desktop(str(PROGRAM), "edit", *arguments)
         self.sheet = sheet_of(plan) if plan else NEW_SHEET
@@ -84,9 +88,17 @@ class Editor:
         self.window = window.area
         self.area = next(tuple(map(int, c[2:6])) for c in window.controls if c[0] == "PlanhostPlan")
         width, height = self.area[2] - self.area[0], self.area[3] - self.area[1]
-        self.scale = max(self.sheet[0] * UNITS / (width - 2 * MARGIN), self.sheet[1] * UNITS / (height - 2 * MARGIN))
-        self.offset = ((self.sheet[0] * UNITS - width * self.scale) / 2, (self.sheet[1] * UNITS - height * self.scale) / 2)
+        scale = max(self.sheet[0] * UNITS / (width - 2 * MARGIN), self.sheet[1] * UNITS / (height - 2 * MARGIN))
+        self.scale = math.ceil(scale * 256) / 256  # a tile of 256 pixels begins at whole units
+        self.offset = tuple(round((side * UNITS / self.scale - pixels) / 2) * self.scale
+                            for side, pixels in zip(self.sheet, (width, height)))  # fmt: skip
         return window
+
+    def zoomed_about(self, pixel, scale):
+        """From here on the plan is seen at this scale, and the place under this pixel is where it was."""
+        at = [part * self.scale + offset for part, offset in zip(pixel, self.offset)]
+        self.scale = math.ceil(scale * 256) / 256
+        self.offset = tuple(round(place / self.scale - part) * self.scale for place, part in zip(at, pixel))
 
     def status(self):
         """Hint, position and count of the front window; empty texts while that is not the editor's."""

@@ -6,26 +6,28 @@
 
 using std::numbers::pi;
 
-TEST(SymbolGroup, MembersStandRelativeToTheFirst) {
-    const std::vector<PlacedSymbol> symbols{
-        {L"A", {100, 200}, 0}, {L"B", {1000, -500}, 90}, {L"C", {5, 6}, 0}, {L"D", {900, 100}, 180}};
-    const SymbolGroup group = MakeGroup(symbols, {1, 3});
-    EXPECT_EQ(group.base.x, 1000);
-    EXPECT_EQ(group.base.y, -500);
+TEST(SymbolGroup, MembersStandRelativeToTheBase) {
+    const std::vector<PlacedSymbol> symbols{{L"B", {1000, -500}, 90}, {L"D", {900, 100}, 180}};
+    const SymbolGroup group = MakeGroup(symbols, {1000, -400});
     ASSERT_EQ(group.members.size(), 2u);
-    EXPECT_EQ(group.members[0].place, 1u);
     EXPECT_EQ(group.members[0].delta.x, 0);
-    EXPECT_EQ(group.members[0].delta.y, 0);
+    EXPECT_EQ(group.members[0].delta.y, -100);
     EXPECT_DOUBLE_EQ(group.members[0].angle, pi / 2);
-    EXPECT_EQ(group.members[1].place, 3u);
     EXPECT_EQ(group.members[1].delta.x, -100);
-    EXPECT_EQ(group.members[1].delta.y, 600);
+    EXPECT_EQ(group.members[1].delta.y, 500);
     EXPECT_DOUBLE_EQ(group.members[1].angle, pi);
 }
 
 TEST(SymbolGroup, OppositeEndsOfTheLargestSheetFit) {
     const std::vector<PlacedSymbol> symbols{{L"A", {-1'000'000'000, 0}, 0}, {L"B", {1'000'000'000, 0}, 0}};
-    EXPECT_EQ(MakeGroup(symbols, {0, 1}).members[1].delta.x, 2'000'000'000);
+    EXPECT_EQ(MakeGroup(symbols, symbols.front().at).members[1].delta.x, 2'000'000'000);
+}
+
+TEST(SymbolGroup, TurnsCounterClockwiseAboutAPoint) {
+    const std::vector<PlacedSymbol> turned = TurnedAbout({{L"A", {300, 100}, 350}}, {100, 100}, 90);
+    EXPECT_EQ(turned[0].at.x, 100);
+    EXPECT_EQ(turned[0].at.y, -100); // upwards, for y grows downwards
+    EXPECT_EQ(turned[0].angle, 80);
 }
 
 TEST(SymbolGroup, DegreesLieInOneTurnWithoutTheNoiseOfRadians) {

@@ -1,42 +1,50 @@
 #include "editor.h"
 
-#include "../plan_hits.h"
-#include "../text.h"
+#include "catch_mark.h"
 #include "moving_tool.h"
-#include "placing_tool.h"
 #include "snapping.h"
+#include "turning_tool.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
-namespace {
+// What the mouse and the keys do. The commands of the menu are in editor_commands.cpp.
 
-/// Where the library's dialog puts pictures of the symbols when the user asks for them.
-std::wstring PictureFolder(const PlanDocument& document) {
-    return document.File().empty() ? std::filesystem::current_path().wstring()
-                                   : document.File().parent_path().wstring();
+Editor::Editor(Ptr<_CSymbolColl> catalogue) : document_(std::move(catalogue)) {
+    view_.Show(document_);
 }
 
-std::wstring CountOf(std::size_t count) {
-    return std::to_wstring(count) + (count == 1 ? L" Symbol" : L" Symbole");
+/// Upon the picture lies what is seen of the moment only; the picture itself is the tools'.
+void Editor::Paint(HDC dc) {
+    const bool hasFrame = hovered_ && !IsBusy() && *hovered_ < document_.Symbols().size();
+    if (!view_.HasPicture() || (!hasFrame && !caught_))
+        return view_.Paint(dc);
+    const Bitmap whole(pixels_.cx, pixels_.cy);
+    view_.Paint(whole.Dc());
+    if (hasFrame) {
+        Marks::Corners corners;
+        std::ranges::transform(view_.Scene().Corners(*hovered_), corners.begin(),
+                               [this](POINT corner) { return view_.Map().ToPixel(corner); });
+        DrawHoverFrame(whole.Dc(), corners);
+    }
+    if (caught_)
+        DrawCatchMark(whole.Dc(), view_.Map().ToPixel(*caught_->caught), caught_->kind);
+    BitBlt(dc, 0, 0, pixels_.cx, pixels_.cy, whole.Dc(), 0, 0, SRCCOPY);
 }
-
-/// Whole millimetres: a pixel is more than one.
-std::wstring Rounded(LONG units) {
-    return std::to_wstring(std::lround(units / static_cast<double>(kUnitsPerMillimetre)));
-}
-
-} // namespace
-
-Editor::Editor(Ptr<_CSymbolColl> catalogue) : document_(std::move(catalogue)) {}
 
 void Editor::Resize(SIZE pixels) {
     pixels_ = pixels;
-    Redraw();
+    ChangeView([&](PlanView& view) { view.Resize(pixels); });
 }
 
 void Editor::Redraw() {
-    view_.Show(document_, pixels_);
+    hovered_.reset();
+    ChangeView([this](PlanView& view) { view.Show(document_); });
+}
+
+void Editor::ChangeView(const std::function<void(PlanView&)>& change) {
+    change(view_);
     if (!view_.HasPicture())
         return;
     if (tool_)
@@ -45,26 +53,102 @@ void Editor::Redraw() {
         band_->Draw(view_);
 }
 
+bool Editor::DrawOn() {
+    if (!view_.DrawNextTile())
+        return false;
+    ChangeView([](PlanView& view) { view.Compose(); });
+    return true;
+}
+
+void Editor::UseCatalogue(Ptr<_CSymbolColl> catalogue) {
+    document_.UseCatalogue(std::move(catalogue));
+    view_.Forget();
+    Redraw();
+}
+
 Pointer Editor::PointerAt(POINT pixel) const {
-    return GetKeyState(VK_SHIFT) < 0 ? CatchPoint(document_, view_, pixel) : Pointer{pixel, std::nullopt};
+    const bool catches = tool_ && (snaps_ || GetKeyState(VK_SHIFT) < 0);
+    return catches ? CatchPoint(document_, view_, pixel, *tool_) : Pointer{pixel, std::nullopt};
+}
+
+bool Editor::IsNear(POINT one, POINT other) const {
+    return std::labs(one.x - other.x) < GetSystemMetrics(SM_CXDRAG) &&
+           std::labs(one.y - other.y) < GetSystemMetrics(SM_CYDRAG);
 }
 
 void Editor::MouseMove(POINT pixel) {
-    mouse_ = pixel;
-    if (tool_)
-        tool_->MouseMove(view_, PointerAt(pixel));
-    else if (band_)
+    const POINT before = std::exchange(mouse_, pixel);
+    if (panFrom_) {
+        panFrom_ = pixel;
+        return ChangeView([&](PlanView& view) { view.MoveBy(pixel.x - before.x, pixel.y - before.y); });
+    }
+    if (press_ && !IsNear(press_->pixel, pixel))
+        StartDragging();
+    caught_.reset();
+    if (tool_) {
+        const Pointer pointer = PointerAt(pixel);
+        tool_->MouseMove(view_, pointer);
+        if (pointer.caught)
+            caught_ = pointer;
+    } else if (band_) {
         band_->MouseMove(view_, pixel);
+    } else {
+        Look(pixel);
+    }
+}
+
+/// Which symbol the mouse points to.
+void Editor::Look(POINT pixel) {
+    const std::vector<std::size_t> below = view_.HasPicture() ? SymbolsAt(pixel) : std::vector<std::size_t>();
+    hovered_ = below.empty() ? std::nullopt : std::optional(below.front());
+}
+
+bool Editor::MouseLeave() {
+    const bool wasSeen = hovered_ || caught_;
+    hovered_.reset();
+    caught_.reset();
+    return wasSeen;
 }
 
 void Editor::MouseDown(POINT pixel) {
-    if (!tool_) {
-        band_.emplace(pixel);
-        return;
+    mouse_ = pixel;
+    if (tool_) {
+        tool_->MouseDown(view_, PointerAt(pixel));
+        return FinishIfReady();
     }
-    tool_->MouseDown(view_, PointerAt(pixel));
-    if (tool_->IsReady())
-        Finish(*std::exchange(tool_, nullptr));
+    if (IsTurnHandleAt(MarksOf(document_, view_.Scene(), view_.Map()), pixel))
+        return StartTurning(pixel);
+    const std::vector<std::size_t> below = SymbolsAt(pixel);
+    if (below.empty())
+        band_.emplace(pixel);
+    else
+        press_ = Press{pixel, std::ranges::any_of(
+                                  below, [this](std::size_t i) { return document_.Marks().Contains(i); })};
+}
+
+/// The symbols hang where they were taken hold of.
+void Editor::StartDragging() {
+    const auto [pixel, isOnMarked] = *std::exchange(press_, std::nullopt);
+    if (!isOnMarked)
+        document_.Marks().Set({SymbolsAt(pixel).front()});
+    const bool copies = GetKeyState(VK_CONTROL) < 0;
+    Start(std::make_unique<MovingTool>(document_, copies ? MovingTool::Copied : MovingTool::Moved,
+                                       view_.ToPlan(pixel)));
+    fixesWhereLetGo_ = true;
+}
+
+/// One symbol turns about its insertion point, several about the middle of all.
+void Editor::StartTurning(POINT pixel) {
+    const std::vector<std::size_t>& places = document_.Marks().Places();
+    POINT about = document_.Content().symbols[places.front()].at;
+    if (places.size() > 1) {
+        RECT all = Around(view_.Scene().Corners(places.front()));
+        for (const std::size_t place : places)
+            all = Joined(all, Around(view_.Scene().Corners(place)));
+        about = {all.left + (all.right - all.left) / 2, all.top + (all.bottom - all.top) / 2};
+    }
+    Start(std::make_unique<TurningTool>(document_, about, view_.ToPlan(pixel)));
+    fixesWhereLetGo_ = true;
 }
 
 void Editor::MouseUp(POINT pixel) {
@@ -72,12 +156,13 @@ void Editor::MouseUp(POINT pixel) {
         const RECT picture{0, 0, pixels_.cx, pixels_.cy};
         return PtInRect(&picture, pixel) ? MouseDown(pixel) : Cancel();
     }
+    if (std::exchange(press_, std::nullopt))
+        return Click(pixel);
     if (!band_)
         return;
     band_->MouseMove(view_, pixel);
     const PointedAt place = std::exchange(band_, std::nullopt)->Place();
-    std::vector<std::size_t> hit =
-        SymbolsAt(place, document_.Content(), document_.Symbols(), view_.Transformation());
+    std::vector<std::size_t> hit = place.isPoint ? std::vector<std::size_t>() : view_.SymbolsAt(place);
     if (GetKeyState(VK_CONTROL) < 0)
         document_.Marks().Toggle(hit);
     else
@@ -85,9 +170,51 @@ void Editor::MouseUp(POINT pixel) {
     Redraw();
 }
 
-void Editor::KeyUp(WPARAM key, LPARAM info) {
+/// Marks the topmost symbol. A second click at the same place marks the one below, until it is the topmost's turn again.
+void Editor::Click(POINT pixel) {
+    const std::vector<std::size_t> below = SymbolsAt(pixel);
+    if (below.empty())
+        return;
+    std::size_t next = 0;
+    if (GetKeyState(VK_CONTROL) < 0) {
+        document_.Marks().Toggle({below.front()});
+    } else {
+        const std::vector<std::size_t>& marked = document_.Marks().Places();
+        if (lastClick_ && IsNear(*lastClick_, pixel) && marked.size() == 1) {
+            const auto now = std::ranges::find(below, marked.front());
+            if (now != below.end())
+                next = static_cast<std::size_t>(now - below.begin() + 1) % below.size();
+        }
+        document_.Marks().Set({below[next]});
+    }
+    lastClick_ = pixel;
+    Redraw();
+}
+
+void Editor::MarkAt(POINT pixel) {
+    const std::vector<std::size_t> below = SymbolsAt(pixel);
+    if (below.empty() ||
+        std::ranges::any_of(below, [this](std::size_t i) { return document_.Marks().Contains(i); }))
+        return;
+    document_.Marks().Set({below.front()});
+    Redraw();
+}
+
+void Editor::Zoom(POINT pixel, double notches) {
+    ChangeView([&](PlanView& view) { view.ZoomAt(pixel, std::pow(2.0, notches / 4)); });
+}
+
+void Editor::Turn(const TurnKey& key) {
     if (tool_)
-        tool_->KeyUp(view_, key, info);
+        tool_->Turn(view_, key);
+}
+
+void Editor::Nudge(int right, int down) {
+    std::vector<PlacedSymbol> moved = document_.MarkedSymbols();
+    for (PlacedSymbol& symbol : moved)
+        symbol.at = {symbol.at.x + right, symbol.at.y + down};
+    document_.Replace(document_.Marks().Places(), moved, true);
+    Redraw();
 }
 
 void Editor::Cancel() {
@@ -95,84 +222,18 @@ void Editor::Cancel() {
         std::exchange(tool_, nullptr)->Draw(view_); // the second time erases
     if (band_)
         std::exchange(band_, std::nullopt)->Draw(view_);
+    press_.reset();
+    caught_.reset();
+    fixesWhereLetGo_ = false;
 }
 
 void Editor::Abandon() {
     tool_.reset();
     band_.reset();
+    press_.reset();
+    panFrom_.reset();
+    caught_.reset();
     Redraw();
-}
-
-void Editor::MarkAll() {
-    document_.Marks().SetRange(0, document_.Symbols().size());
-    Redraw();
-}
-
-void Editor::Unmark() {
-    document_.Marks().Clear();
-    Redraw();
-}
-
-void Editor::RemoveMarked() {
-    document_.RemoveMarked();
-    Redraw();
-}
-
-void Editor::Undo() {
-    document_.Undo();
-    Redraw();
-}
-
-void Editor::Choose() {
-    Bstr chosen;
-    Check(document_.Catalogue().SelectSymNameDlg(Bstr(name_ + L"+" + PictureFolder(document_)).Get(),
-                                                 chosen.Put()));
-    if (chosen.Text().empty())
-        return;
-    Place(chosen.Text());
-}
-
-void Editor::Place(const std::wstring& name) {
-    name_ = name;
-    degrees_ = 0;
-    Place();
-}
-
-bool Editor::CanPlaceAgain() const {
-    return !name_.empty() || !document_.Marks().IsEmpty();
-}
-
-void Editor::PlaceAgain() {
-    if (!document_.Marks().IsEmpty()) {
-        const PlacedSymbol& example = document_.Content().symbols[document_.Marks().Places().back()];
-        name_ = example.name;
-        degrees_ = example.angle;
-    }
-    Place();
-}
-
-/// A line leads from the symbol that was placed before, if it is still there.
-void Editor::Place() {
-    std::optional<POINT> guideFrom;
-    if (placed_ && std::ranges::count(document_.Content().symbols, *placed_) > 0)
-        guideFrom = placed_->at;
-    document_.Marks().Clear();
-    Start(std::make_unique<PlacingTool>(document_.Catalogue(), name_, degrees_, guideFrom));
-    isPlacing_ = true;
-}
-
-void Editor::MoveMarked() {
-    Start(std::make_unique<MovingTool>(document_, MovingTool::Moved));
-}
-
-void Editor::DuplicateMarked() {
-    Start(std::make_unique<MovingTool>(document_, MovingTool::Copied));
-}
-
-void Editor::MoveMarked(const TypedMove& move) {
-    MovingTool tool(document_, MovingTool::Moved);
-    tool.MoveTo(view_, move.to, move.isRelative);
-    Finish(tool);
 }
 
 void Editor::Start(std::unique_ptr<EditorTool> tool) {
@@ -182,36 +243,19 @@ void Editor::Start(std::unique_ptr<EditorTool> tool) {
     fixesWhereLetGo_ = false;
 }
 
+void Editor::FinishIfReady() {
+    if (tool_ && tool_->IsReady())
+        Finish(*std::exchange(tool_, nullptr));
+}
+
 void Editor::Finish(EditorTool& tool) {
+    caught_.reset();
     tool.Finish(document_);
     if (std::exchange(isPlacing_, false)) {
         placed_ = document_.Content().symbols.back();
         degrees_ = placed_->angle;
+        if (placedTold_)
+            placedTold_(name_);
     }
     Redraw();
-}
-
-std::wstring Editor::Hint() const {
-    if (tool_)
-        return tool_->Hint();
-    if (!document_.Marks().IsEmpty())
-        return L"Strg+M verschiebt, Strg+D dupliziert, Entf löscht, F3 setzt das Symbol noch einmal";
-    return L"Klick oder Rechteck markiert Symbole, mit Strg auch weitere; F2 wählt ein neues Symbol";
-}
-
-std::wstring Editor::PositionText() const {
-    if (!view_.HasPicture())
-        return {};
-    const POINT place = view_.ToPlan(mouse_);
-    std::wstring text = L"x " + Rounded(place.x) + L" mm   y " + Rounded(place.y) + L" mm";
-    if (const std::optional<double> degrees = tool_ ? tool_->Direction() : std::nullopt)
-        text += L"   " + std::to_wstring(std::lround(*degrees)) + L"°";
-    return text;
-}
-
-std::wstring Editor::CountText() const {
-    std::wstring text = CountOf(document_.Symbols().size());
-    if (const std::size_t marked = document_.Marks().Places().size(); marked > 0)
-        text += L", " + std::to_wstring(marked) + L" markiert";
-    return text;
 }

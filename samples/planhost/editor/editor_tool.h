@@ -3,6 +3,7 @@
 #include "plan_document.h"
 #include "plan_view.h"
 #include "pointer.h"
+#include "tool_keys.h"
 
 #include <optional>
 #include <string>
@@ -16,14 +17,19 @@ public:
     virtual void MouseMove(PlanView& view, const Pointer& pointer) = 0;
     /// The click that fixes.
     virtual void MouseDown(PlanView& view, const Pointer& pointer) = 0;
-    /// key and info: as WM_KEYUP has them.
-    virtual void KeyUp(PlanView& view, WPARAM key, LPARAM info) = 0;
+    virtual void Turn(PlanView& view, const TurnKey& key) = 0;
+    /// Fixes at typed coordinates, in units: in the plan, or from where it comes (relative).
+    virtual void MoveTo(PlanView& view, POINT to, bool isRelative) = 0;
     virtual void Draw(PlanView& view) = 0;
 
     virtual bool IsReady() const = 0;
     /// Brings what was placed into the plan, once it is ready.
     virtual void Finish(PlanDocument& document) = 0;
 
+    /// Where its insertion point is from the mouse, in units: that point is caught.
+    virtual POINT Anchor() const { return {}; }
+    /// Whether points of a placed symbol can be caught; not those of what is moved itself.
+    virtual bool CatchesSymbol(std::size_t) const { return true; }
     /// The direction of what is being placed, in degrees; nothing before it has a place.
     virtual std::optional<double> Direction() const = 0;
     /// What the user may do now.

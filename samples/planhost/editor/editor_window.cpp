@@ -5,19 +5,25 @@
 #include "editor_layout.h"
 #include "plan_files.h"
 #include "resource.h"
+#include "window_commands.h"
 
 #include <commctrl.h>
+#include <windowsx.h>
 
 #include <algorithm>
+#include <cmath>
+#include <cstring>
 
 namespace {
 
 constexpr wchar_t kClassName[] = L"PlanhostEditor";
 constexpr wchar_t kTitle[] = L"Planhost";
-// In pixels of a screen with 96 to the inch.
+constexpr wchar_t kPlaceSection[] = L"Fenster";
+constexpr UINT_PTR kKeepTimer = 1;
+constexpr long kKeepSeconds = 60;
+// In pixels of a screen of 100 %.
 constexpr SIZE kFirstSize{1120, 840};
-constexpr int kPositionWidth = 220; // of the status bar's parts
-constexpr int kCountWidth = 170;
+constexpr int kPartWidths[] = {220, 150, 80}; // of the status bar's parts behind the first
 
 /// The first size of the window; no larger than there is room.
 SIZE FirstSize() {
@@ -33,60 +39,30 @@ void RegisterWindowClass(WNDPROC onMessage) {
     form.cbSize = sizeof form;
     form.lpfnWndProc = onMessage;
     form.hInstance = GetModuleHandleW(nullptr);
-    form.hIcon = LoadIconW(nullptr, IDI_APPLICATION);
+    form.hIcon = LoadIconW(form.hInstance, MAKEINTRESOURCEW(IDI_PLANHOST));
+    form.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    form.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_3DFACE + 1);
     form.lpszMenuName = MAKEINTRESOURCEW(IDR_EDITOR);
     form.lpszClassName = kClassName;
     RegisterClassExW(&form);
 }
 
-} // namespace
-
-/// A menu command, and when it can be chosen.
-struct EditorWindow::Command {
-    int id;
-    bool (*isPossible)(const EditorWindow& window);
-    void (*run)(EditorWindow& window);
-};
-
-bool EditorWindow::HasMarks(const EditorWindow& window) {
-    return !window.editor_.Document().Marks().IsEmpty();
+/// Whether a message is a key that a field of text has its own use for.
+bool IsForField(const MSG& message) {
+    wchar_t name[16] = L"";
+    GetClassNameW(message.hwnd, name, 16);
+    if (lstrcmpiW(name, L"Edit") != 0 || message.message != WM_KEYDOWN)
+        return false;
+    const bool isEditing = message.wParam == VK_DELETE ||
+                           (message.wParam < 128 && std::strchr("ACVXYZ", static_cast<int>(message.wParam)));
+    return isEditing || message.wParam == VK_PRIOR || message.wParam == VK_NEXT;
 }
 
-const EditorWindow::Command EditorWindow::kCommands[] = {
-    {IDM_NEW, Always,
-     [](EditorWindow& w) {
-         StartNewPlan(w.window_, w.editor_.Document());
-         w.editor_.Redraw();
-     }},
-    {IDM_OPEN, Always,
-     [](EditorWindow& w) {
-         OpenPlan(w.window_, w.editor_.Document());
-         w.editor_.Redraw();
-     }},
-    {IDM_SAVE, Always, [](EditorWindow& w) { SavePlan(w.window_, w.editor_.Document()); }},
-    {IDM_SAVE_AS, Always, [](EditorWindow& w) { SavePlanAs(w.window_, w.editor_.Document()); }},
-    {IDM_EXPORT, Always,
-     [](EditorWindow& w) {
-         ExportAsDxf(w.window_, w.editor_.Document());
-         w.editor_.Redraw(); // symbols are hit in the size of their last drawing, and that was the export's
-     }},
-    {IDM_QUIT, Always, [](EditorWindow& w) { PostMessageW(w.window_, WM_CLOSE, 0, 0); }},
-    {IDM_UNDO, [](const EditorWindow& w) { return w.editor_.Document().CanUndo(); },
-     [](EditorWindow& w) { w.editor_.Undo(); }},
-    {IDM_MOVE, HasMarks, [](EditorWindow& w) { w.editor_.MoveMarked(); }},
-    {IDM_MOVE_BY, HasMarks, [](EditorWindow& w) { w.MoveBy(); }},
-    {IDM_DUPLICATE, HasMarks, [](EditorWindow& w) { w.editor_.DuplicateMarked(); }},
-    {IDM_REMOVE, HasMarks, [](EditorWindow& w) { w.editor_.RemoveMarked(); }},
-    {IDM_MARK_ALL, Always, [](EditorWindow& w) { w.editor_.MarkAll(); }},
-    {IDM_CHOOSE, Always, [](EditorWindow& w) { w.editor_.Choose(); }},
-    {IDM_AGAIN, [](const EditorWindow& w) { return w.editor_.CanPlaceAgain(); },
-     [](EditorWindow& w) { w.editor_.PlaceAgain(); }},
-    {IDM_CANCEL, Always, [](EditorWindow& w) { w.Cancel(); }},
-};
+} // namespace
 
 EditorWindow::EditorWindow(const std::filesystem::path& catalogueFolder)
     : catalogueFolder_(std::filesystem::absolute(catalogueFolder)), editor_(OpenCatalogue(catalogueFolder)),
-      plan_(editor_) {
+      plan_(editor_), autosave_(settings_.Folder()) {
     const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_BAR_CLASSES};
     InitCommonControlsEx(&controls);
     RegisterWindowClass(OnMessage);
@@ -95,14 +71,24 @@ EditorWindow::EditorWindow(const std::filesystem::path& catalogueFolder)
                     CW_USEDEFAULT, width, height, nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (window_ == nullptr)
         throw Failure{L"Das Fenster lässt sich nicht öffnen."};
-    ShowWindow(window_, SW_SHOWDEFAULT);
+    editor_.SetSnaps(settings_.Flag(L"Ansicht", L"Fangen", true));
+    editor_.View().ShowGrid(settings_.Flag(L"Ansicht", L"Raster", false));
+    editor_.OnPlaced([this](const std::wstring& name) {
+        if (palette_)
+            palette_->SymbolPlaced(name);
+    });
+    RestorePlace();
+    FocusPlan();
     ShowState();
+    const long seconds = settings_.Number(L"Plan", L"Sicherung", kKeepSeconds);
+    SetTimer(window_, kKeepTimer, static_cast<UINT>(std::clamp(seconds, 1L, 3600L) * 1000), nullptr);
 }
 
 void EditorWindow::Open(const std::filesystem::path& plan) {
     Do([&] {
         editor_.Document().Open(plan);
-        editor_.Redraw();
+        PlanChanged();
+        OfferRecovery(editor_.Document().File());
     });
 }
 
@@ -110,7 +96,7 @@ void EditorWindow::Run() {
     const HACCEL keys = LoadAcceleratorsW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDR_EDITOR));
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (TranslateAcceleratorW(window_, keys, &message))
+        if (!IsForField(message) && TranslateAcceleratorW(window_, keys, &message))
             continue;
         TranslateMessage(&message);
         DispatchMessageW(&message);
@@ -129,28 +115,48 @@ LRESULT CALLBACK EditorWindow::OnMessage(HWND window, UINT message, WPARAM wPara
 }
 
 LRESULT EditorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
+    constexpr UINT kDotsChanged = 0x02E0; // WM_DPICHANGED, from Windows 8.1 on
     switch (message) {
     case WM_CREATE: CreateParts(); return status_ != nullptr ? 0 : -1;
     case WM_SIZE: Resize(); return 0;
+    case kDotsChanged: TakeDots(*reinterpret_cast<const RECT*>(lParam)); return 0;
     case WM_SETFOCUS: FocusPlan(); return 0;
+    case WM_MOUSEWHEEL: SendMessageW(plan_.Window(), message, wParam, lParam); return 0;
     case WM_COMMAND: Execute(LOWORD(wParam)); return 0;
-    case WM_INITMENUPOPUP: EnableCommands(reinterpret_cast<HMENU>(wParam)); return 0;
+    case WM_INITMENUPOPUP: PrepareMenu(reinterpret_cast<HMENU>(wParam)); return 0;
+    case WM_CONTEXTMENU:
+        if (reinterpret_cast<HWND>(wParam) != plan_.Window())
+            break;
+        ShowContextMenu(lParam == -1 ? plan_.Corner() : POINT{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+        return 0;
+    case WM_SETCURSOR: // the mouse is over one of the parts, which asks here first
+        if (reinterpret_cast<HWND>(wParam) != plan_.Window() && editor_.MouseLeave())
+            plan_.Refresh();
+        break;
+    case WM_TIMER: KeepUnsaved(); return 0;
     case WM_CLOSE:
         if (MayClose())
             DestroyWindow(window_);
         return 0;
     case WM_QUERYENDSESSION: return MayClose();
-    case WM_DESTROY: PostQuitMessage(0); return 0;
+    case WM_DESTROY:
+        RememberPlace();
+        autosave_.Discard();
+        PostQuitMessage(0);
+        return 0;
     default: break;
     }
     return DefWindowProcW(window_, message, wParam, lParam);
 }
 
-template <class Action>
-void EditorWindow::Do(const Action& action) {
+void EditorWindow::Do(const std::function<void()>& action) {
     const auto explain = [this](const std::wstring& message) {
         ReleaseCapture();
-        editor_.Abandon();
+        try {
+            editor_.Abandon();
+        } catch (const Failure&) {
+            // The plan is in memory still, and can be saved.
+        }
         MessageBoxW(window_, message.c_str(), kTitle, MB_ICONEXCLAMATION);
     };
     try {
@@ -166,6 +172,16 @@ void EditorWindow::Do(const Action& action) {
 void EditorWindow::CreateParts() {
     status_ = CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0,
                               window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+    statusTexts_.resize(std::size(kPartWidths) + 1);
+    properties_.Create(
+        window_,
+        [this](const std::vector<PlacedSymbol>& changed) {
+            Do([&] {
+                editor_.Change(
+                    [&](PlanDocument& document) { document.Replace(document.Marks().Places(), changed); });
+            });
+        },
+        [this] { FocusPlan(); });
     plan_.Create(window_, [this](const std::function<void()>& action) { Do(action); });
     palette_ = MakePalette(window_, *this);
 }
@@ -176,16 +192,61 @@ void EditorWindow::Resize() {
     GetClientRect(window_, &client);
     GetWindowRect(status_, &bar);
     const UINT dots = DotsOf(window_);
-    const int countStart = client.right - Scaled(kCountWidth, dots);
-    const int ends[] = {std::max(0, countStart - Scaled(kPositionWidth, dots)), std::max(0, countStart), -1};
+    int ends[std::size(kPartWidths) + 1];
+    int end = client.right;
+    for (std::size_t i = std::size(kPartWidths); i > 0; --i) {
+        ends[i] = i == std::size(kPartWidths) ? -1 : end;
+        end = std::max(0, end - Scaled(kPartWidths[i - 1], dots));
+    }
+    ends[0] = end;
     SendMessageW(status_, SB_SETPARTS, std::size(ends), reinterpret_cast<LPARAM>(ends));
-    const EditorLayout layout = LayOut({client.right, client.bottom},
-                                       {0, palette_ ? palette_->Width(dots) : 0, bar.bottom - bar.top});
+    statusTexts_.assign(std::size(ends), {});
+    const EditorLayout layout =
+        LayOut({client.right, client.bottom},
+               {properties_.Height(dots), palette_ ? palette_->Width(dots) : 0, bar.bottom - bar.top});
+    properties_.MoveTo(layout.properties, dots);
     plan_.MoveTo(layout.plan);
     if (palette_) {
         const auto [left, top, right, bottom] = layout.palette;
         MoveWindow(palette_->Window(), left, top, right - left, bottom - top, TRUE);
     }
+    ShowState();
+}
+
+/// The window has come to a screen with other dots; proposed: its place there.
+void EditorWindow::TakeDots(const RECT& proposed) {
+    SetWindowPos(window_, nullptr, proposed.left, proposed.top, proposed.right - proposed.left,
+                 proposed.bottom - proposed.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    Resize();
+}
+
+void EditorWindow::RestorePlace() {
+    WINDOWPLACEMENT place{};
+    place.length = sizeof place;
+    GetWindowPlacement(window_, &place);
+    RECT& area = place.rcNormalPosition;
+    area.left = settings_.Number(kPlaceSection, L"Links", area.left);
+    area.top = settings_.Number(kPlaceSection, L"Oben", area.top);
+    area.right = settings_.Number(kPlaceSection, L"Rechts", area.right);
+    area.bottom = settings_.Number(kPlaceSection, L"Unten", area.bottom);
+    place.showCmd = settings_.Flag(kPlaceSection, L"Maximiert", false) ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
+    // The screen that it was on may be gone.
+    const bool isSeen = MonitorFromRect(&area, MONITOR_DEFAULTTONULL) != nullptr && area.left < area.right;
+    if (isSeen)
+        SetWindowPlacement(window_, &place);
+    else
+        ShowWindow(window_, SW_SHOWDEFAULT);
+}
+
+void EditorWindow::RememberPlace() {
+    WINDOWPLACEMENT place{};
+    place.length = sizeof place;
+    GetWindowPlacement(window_, &place);
+    settings_.SetNumber(kPlaceSection, L"Links", place.rcNormalPosition.left);
+    settings_.SetNumber(kPlaceSection, L"Oben", place.rcNormalPosition.top);
+    settings_.SetNumber(kPlaceSection, L"Rechts", place.rcNormalPosition.right);
+    settings_.SetNumber(kPlaceSection, L"Unten", place.rcNormalPosition.bottom);
+    settings_.SetFlag(kPlaceSection, L"Maximiert", IsZoomed(window_) != FALSE);
 }
 
 void EditorWindow::FollowMouse() {
@@ -210,51 +271,43 @@ void EditorWindow::BeginDragging(const std::wstring& name) {
 void EditorWindow::ReloadCatalogue() {
     Do([&] {
         editor_.Cancel();
-        editor_.Document().UseCatalogue(OpenCatalogue(catalogueFolder_));
-        editor_.Redraw();
+        editor_.UseCatalogue(OpenCatalogue(catalogueFolder_));
     });
     if (palette_)
         palette_->CatalogueChanged();
 }
 
-void EditorWindow::Execute(int id) {
-    for (const Command& command : kCommands) {
-        if (command.id != id)
-            continue;
-        Do([&] {
-            if (id != IDM_CANCEL)
-                editor_.Cancel();
-            command.run(*this);
-            FollowMouse(); // the tool's image appears where the mouse is already
-        });
-    }
+void EditorWindow::SetStatus(std::size_t part, const std::wstring& text) {
+    if (statusTexts_[part] == text)
+        return;
+    statusTexts_[part] = text;
+    SendMessageW(status_, SB_SETTEXTW, part, reinterpret_cast<LPARAM>(text.c_str()));
 }
 
-void EditorWindow::EnableCommands(HMENU menu) const {
-    for (const Command& command : kCommands)
-        EnableMenuItem(menu, command.id, command.isPossible(*this) ? MF_ENABLED : MF_GRAYED);
+/// The scale at which the plan is seen on this screen.
+std::wstring EditorWindow::ZoomText() const {
+    const double dotsPerMillimetre = DotsOf(window_) / 25.4;
+    const double reduced = editor_.View().Map().Scale() / kUnitsPerMillimetre * dotsPerMillimetre;
+    return reduced >= 0.99 ? L"1:" + std::to_wstring(std::lround(reduced))
+                           : std::to_wstring(std::lround(1 / reduced)) + L":1";
 }
 
 void EditorWindow::ShowState() {
-    const std::wstring texts[] = {editor_.Hint(), editor_.PositionText(), editor_.CountText()};
-    for (std::size_t i = 0; i < std::size(texts); ++i)
-        SendMessageW(status_, SB_SETTEXTW, i, reinterpret_cast<LPARAM>(texts[i].c_str()));
-    const std::wstring title =
+    SetStatus(0, editor_.Hint());
+    SetStatus(1, editor_.PositionText());
+    SetStatus(2, editor_.CountText());
+    SetStatus(3, ZoomText());
+    properties_.Show(editor_.Document());
+    std::wstring title =
         PlanName(editor_.Document()) + (editor_.Document().IsModified() ? L"* – " : L" – ") + kTitle;
-    SetWindowTextW(window_, title.c_str());
+    if (title != title_)
+        SetWindowTextW(window_, title.c_str());
+    title_ = std::move(title);
     plan_.Refresh();
 }
 
-void EditorWindow::Cancel() {
-    if (editor_.IsBusy())
-        editor_.Cancel();
-    else
-        editor_.Unmark();
-}
-
-void EditorWindow::MoveBy() {
-    if (const std::optional<TypedMove> move = AskForMove(window_))
-        editor_.MoveMarked(*move);
+void EditorWindow::KeepUnsaved() {
+    autosave_.Keep(editor_.Document());
 }
 
 bool EditorWindow::MayClose() {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "autosave.h"
 #include "palette.h"
 #include "plan_window.h"
+#include "properties_bar.h"
 
-/// The window with menu, palette, plan and status bar. It runs the commands, shows what failed and goes on.
+/// The window with menu, properties, palette, plan and status bar. It runs the commands, shows what failed and goes on.
 class EditorWindow final : PaletteHost {
 public:
     /// Shows the window with a new plan.
@@ -19,12 +21,12 @@ private:
     static const Command kCommands[];
     static bool Always(const EditorWindow&) { return true; }
     static bool HasMarks(const EditorWindow& window);
+    static bool HasSeveral(const EditorWindow& window);
 
     static LRESULT CALLBACK OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
     /// Does something with the editor and shows the new state, or what failed.
-    template <class Action>
-    void Do(const Action& action);
+    void Do(const std::function<void()>& action);
 
     _CSymbolColl& Catalogue() override { return editor_.Document().Catalogue(); }
     const std::filesystem::path& CatalogueFolder() const override { return catalogueFolder_; }
@@ -36,20 +38,42 @@ private:
 
     void CreateParts();
     void Resize();
+    void TakeDots(const RECT& proposed);
+    void RestorePlace();
+    void RememberPlace();
     /// Moves what a tool shows to where the mouse is.
     void FollowMouse();
     void Execute(int command);
-    void EnableCommands(HMENU menu) const;
+    void PrepareMenu(HMENU menu);
+    void ShowContextMenu(POINT at);
     void ShowState();
+    void SetStatus(std::size_t part, const std::wstring& text);
+    std::wstring ZoomText() const;
+
+    // The commands that are more than a line.
     void Cancel();
+    void Copy();
+    void Paste();
     void MoveBy();
+    void Align(int number);
+    void Zoom(int command);
+    void Toggle(int command);
+    void OpenRecent(int number);
+    /// The document is another plan now, or has another file.
+    void PlanChanged();
+    void OfferRecovery(const std::filesystem::path& plan);
+    void KeepUnsaved();
     bool MayClose();
 
     std::filesystem::path catalogueFolder_;
     Settings settings_;
     Editor editor_;
     PlanWindow plan_;
+    PropertiesBar properties_;
+    Autosave autosave_;
     std::unique_ptr<PaletteStrip> palette_;
     HWND window_ = nullptr;
     HWND status_ = nullptr;
+    std::vector<std::wstring> statusTexts_;
+    std::wstring title_;
 };

@@ -1,14 +1,34 @@
 #include "moving_tool.h"
 
-#include "tool_keys.h"
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
 
-MovingTool::MovingTool(const PlanDocument& document, Outcome outcome)
-    : LibraryTool(Create<_CSymTool>(__uuidof(CSymTool))), outcome_(outcome) {
-    const SymbolGroup group = MakeGroup(document.Content().symbols, document.Marks().Places());
-    for (const GroupMember& member : group.members)
-        Check(tool_->AddSymref(static_cast<LONG>(member.place), member.delta.x, member.delta.y, member.angle,
-                               document.Symbols()[member.place].Get()));
+MovingTool::MovingTool(const PlanDocument& document, Outcome outcome, std::optional<POINT> base)
+    : LibraryTool(Create<_CSymTool>(__uuidof(CSymTool))), symbols_(document.MarkedSymbols()),
+      places_(document.Marks().Places()), outcome_(outcome) {
+    std::vector<_CSymbol*> found;
+    for (const std::size_t place : places_)
+        found.push_back(document.Symbols()[place].Get());
+    Add(base, found);
+}
+
+MovingTool::MovingTool(std::vector<PlacedSymbol> symbols, const std::vector<Ptr<_CSymbol>>& found)
+    : LibraryTool(Create<_CSymTool>(__uuidof(CSymTool))), symbols_(std::move(symbols)), outcome_(Copied) {
+    std::vector<_CSymbol*> objects;
+    for (const Ptr<_CSymbol>& symbol : found)
+        objects.push_back(symbol.Get());
+    Add(std::nullopt, objects);
+}
+
+void MovingTool::Add(std::optional<POINT> base, const std::vector<_CSymbol*>& found) {
+    const SymbolGroup group = MakeGroup(symbols_, base.value_or(symbols_.front().at));
+    for (std::size_t i = 0; i < symbols_.size(); ++i) {
+        const auto& [delta, angle] = group.members[i];
+        Check(tool_->AddSymref(static_cast<LONG>(i), delta.x, delta.y, angle, found[i]));
+    }
     Check(tool_->SetMoveStartPos(group.base.x, group.base.y));
+    anchor_ = group.members.front().delta;
 }
 
 void MovingTool::MouseDown(PlanView& view, const Pointer& pointer) {
@@ -20,48 +40,71 @@ void MovingTool::MouseDown(PlanView& view, const Pointer& pointer) {
 
 void MovingTool::MoveTo(PlanView& view, POINT to, bool isRelative) {
     VARIANT_BOOL relative = isRelative ? VARIANT_TRUE : VARIANT_FALSE;
+    if (!isRelative) { // the insertion point lands there, wherever the mouse has hold of it
+        const auto [x, y] = Anchor();
+        to = {to.x - x, to.y - y};
+    }
     Check(tool_->MouseDownReal(to.x, to.y, &view.Box(), &view.Transformation(), &relative));
 }
 
-void MovingTool::KeyUp(PlanView& view, WPARAM key, LPARAM info) {
-    Check(tool_->KeyUp(GroupToolKey(key, info), ShiftState(), &view.Box(), &view.Transformation()));
+/// The tool knows the numeric keypad's keys: a direction each, and four that turn by one and ten degrees.
+void MovingTool::Turn(PlanView& view, const TurnKey& key) {
+    constexpr short kDirections[] = {VK_NUMPAD8, VK_NUMPAD7, VK_NUMPAD4, VK_NUMPAD1,
+                                     VK_NUMPAD2, VK_NUMPAD3, VK_NUMPAD6, VK_NUMPAD9};
+    const auto press = [&](short code) { Check(tool_->KeyUp(code, 0, &view.Box(), &view.Transformation())); };
+    if (key.kind == TurnKey::To)
+        return press(kDirections[key.degrees / 45]);
+    const int left = std::abs(key.degrees);
+    for (int i = 0; i < left / 10; ++i)
+        press(key.degrees > 0 ? VK_DIVIDE : VK_MULTIPLY);
+    for (int i = 0; i < left % 10; ++i)
+        press(key.degrees > 0 ? VK_SUBTRACT : VK_ADD);
 }
 
 void MovingTool::Finish(PlanDocument& document) {
     LONG count = 0;
     Check(tool_->get_SymRefCount(&count));
-    std::vector<std::size_t> places;
-    std::vector<PlacedSymbol> changed;
+    std::vector<PlacedSymbol> changed = symbols_;
     for (LONG position = 1; position <= count; ++position) {
-        LONG place = 0;
+        LONG number = 0;
         POINT at{};
         double radians = 0;
-        Check(tool_->GetSymrefDataByPos(position, &place, &at.x, &at.y, &radians));
-        places.push_back(static_cast<std::size_t>(place));
-        changed.push_back(document.Content().symbols[places.back()]);
-        changed.back().at = at;
-        changed.back().angle = DegreesOf(radians);
+        Check(tool_->GetSymrefDataByPos(position, &number, &at.x, &at.y, &radians));
+        changed[number].at = at;
+        changed[number].angle = DegreesOf(radians);
     }
     if (outcome_ == Moved)
-        return document.Replace(places, changed);
-    const std::size_t first = document.Content().symbols.size();
+        return document.Replace(places_, changed);
     for (PlacedSymbol& copy : changed)
         copy.line = 0;
-    document.Add(changed);
-    document.Marks().SetRange(first, changed.size());
+    document.Add(changed, true);
+}
+
+POINT MovingTool::Anchor() const {
+    const double turned =
+        Radians({{}, {}, Direction().value_or(symbols_.front().angle) - symbols_.front().angle});
+    const double sine = std::sin(turned);
+    const double cosine = std::cos(turned);
+    return {std::lround(anchor_.x * cosine + anchor_.y * sine),
+            std::lround(anchor_.y * cosine - anchor_.x * sine)};
+}
+
+bool MovingTool::CatchesSymbol(std::size_t place) const {
+    return outcome_ == Copied || !std::ranges::binary_search(places_, place);
 }
 
 std::optional<double> MovingTool::Direction() const {
     constexpr double kNone = -1000;
-    LONG place = 0;
+    LONG number = 0;
     POINT at{};
     double radians = kNone;
-    Check(tool_->GetSymrefDataByPos(1, &place, &at.x, &at.y,
+    Check(tool_->GetSymrefDataByPos(1, &number, &at.x, &at.y,
                                     &radians)); // leaves all as it is before the first move
     return radians == kNone ? std::nullopt : std::optional(DegreesOf(radians));
 }
 
 std::wstring MovingTool::Hint() const {
-    return (outcome_ == Moved ? L"Verschieben" : L"Duplizieren") +
-           std::wstring(L": Klick setzt; Ziffernblock dreht; Umschalt fängt Punkte; Esc bricht ab");
+    const wchar_t* verb = outcome_ == Moved ? L"Verschieben" : places_.empty() ? L"Einfügen" : L"Duplizieren";
+    return verb + std::wstring(L": Klick setzt; Bild auf/ab, Pfeile, Pos1/Ende drehen; Zahlen für eine "
+                               L"Stelle; Esc bricht ab");
 }

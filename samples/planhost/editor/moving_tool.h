@@ -3,23 +3,31 @@
 #include "library_tool.h"
 #include "symbol_group.h"
 
-/// Moves and turns the marked symbols as one group, or places copies of them.
+/// Moves and turns placed symbols as one group, or places copies of them.
 class MovingTool final : public LibraryTool<_CSymTool> {
 public:
     enum Outcome { Moved, Copied };
 
-    /// At least one symbol is marked.
-    MovingTool(const PlanDocument& document, Outcome outcome);
+    /// The marked symbols, at least one. base: the point of the plan that the mouse has hold of, in units; otherwise it is
+    /// the insertion point of the first one.
+    MovingTool(const PlanDocument& document, Outcome outcome, std::optional<POINT> base = {});
+    /// Symbols that are not in the plan yet; at least one. found: the catalogue's, in the same order.
+    MovingTool(std::vector<PlacedSymbol> symbols, const std::vector<Ptr<_CSymbol>>& found);
 
     void MouseDown(PlanView& view, const Pointer& pointer) override;
-    void KeyUp(PlanView& view, WPARAM key, LPARAM info) override;
+    void Turn(PlanView& view, const TurnKey& key) override;
+    void MoveTo(PlanView& view, POINT to, bool isRelative) override;
     void Finish(PlanDocument& document) override;
+    POINT Anchor() const override;
+    bool CatchesSymbol(std::size_t place) const override;
     std::optional<double> Direction() const override;
     std::wstring Hint() const override;
 
-    /// Fixes the group at once. to: in units, from where it is (relative) or in the plan.
-    void MoveTo(PlanView& view, POINT to, bool isRelative);
-
 private:
+    void Add(std::optional<POINT> base, const std::vector<_CSymbol*>& found);
+
+    std::vector<PlacedSymbol> symbols_;
+    std::vector<std::size_t> places_; ///< in the plan; none of new ones
     Outcome outcome_;
+    POINT anchor_{}; ///< from the base to the first insertion point
 };

@@ -2,7 +2,6 @@
 
 #include "../text.h"
 #include "symbol_group.h"
-#include "tool_keys.h"
 
 namespace {
 
@@ -18,28 +17,47 @@ Ptr<_CSymInput> MakeTool(_CSymbolColl& catalogue, const std::wstring& name) {
 } // namespace
 
 PlacingTool::PlacingTool(_CSymbolColl& catalogue, const std::wstring& name, double degrees,
-                         std::optional<POINT> guideFrom)
-    : LibraryTool(MakeTool(catalogue, name)), name_(name) {
+                         std::optional<POINT> from)
+    : LibraryTool(MakeTool(catalogue, name)), name_(name), from_(from.value_or(POINT{})) {
     Check(tool_->put_Angle(Radians({name, {}, degrees})));
-    if (guideFrom)
-        Check(tool_->SetOldLogPos(guideFrom->x, guideFrom->y));
+    if (from)
+        Check(tool_->SetOldLogPos(from->x, from->y));
 }
 
 void PlacingTool::MouseDown(PlanView& view, const Pointer& pointer) {
     LibraryTool::MouseDown(view, pointer);
-    caught_ = pointer.caught;
+    exact_ = pointer.caught;
 }
 
-void PlacingTool::KeyUp(PlanView& view, WPARAM key, LPARAM) {
-    Check(tool_->KeyUp(static_cast<short>(key), ShiftState(), &view.Box(), &view.Transformation()));
+void PlacingTool::MoveTo(PlanView& view, POINT to, bool isRelative) {
+    if (isRelative)
+        to = {to.x + from_.x, to.y + from_.y};
+    MouseDown(view, {view.Map().ToPixel(to), to});
+}
+
+/// The tool knows six keys. For a direction its angle is set between two drawings: the first takes the image away.
+void PlacingTool::Turn(PlanView& view, const TurnKey& key) {
+    const auto press = [&](short code) { Check(tool_->KeyUp(code, 0, &view.Box(), &view.Transformation())); };
+    if (key.kind == TurnKey::To) {
+        Draw(view);
+        Check(tool_->put_Angle(Radians({name_, {}, static_cast<double>(key.degrees)})));
+        return Draw(view);
+    }
+    switch (key.degrees) {
+    case 90: return press(VK_HOME);
+    case -90: return press(VK_END);
+    case 10: return press(VK_PRIOR);
+    case -10: return press(VK_NEXT);
+    default: return press(key.degrees > 0 ? VK_UP : VK_DOWN);
+    }
 }
 
 void PlacingTool::Finish(PlanDocument& document) {
     PlacedSymbol placed{name_, {}, *Direction()};
     Check(tool_->get_PosX(&placed.at.x));
     Check(tool_->get_PosY(&placed.at.y));
-    if (caught_)
-        placed.at = *caught_; // the tool knows its pixel only
+    if (exact_)
+        placed.at = *exact_; // the tool knows its pixel only
     document.Add({placed});
 }
 
@@ -51,5 +69,5 @@ std::optional<double> PlacingTool::Direction() const {
 
 std::wstring PlacingTool::Hint() const {
     return name_ +
-           L": Klick setzt; Bild auf/ab, Pfeile, Pos1/Ende drehen; Umschalt fängt Punkte; Esc bricht ab";
+           L": Klick setzt; Bild auf/ab, Pfeile, Pos1/Ende drehen; Zahlen für eine Stelle; Esc bricht ab";
 }

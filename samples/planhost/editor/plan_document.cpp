@@ -2,7 +2,9 @@
 
 #include "../plan_symbols.h"
 #include "../text.h"
+#include "trial_drawing.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -24,6 +26,18 @@ void RequireOnSheet(const std::vector<PlacedSymbol>& symbols) {
     }
 }
 
+/// The lines in the file are taken in the order in which the symbols lie on each other now; the file keeps its other lines.
+void GiveLines(std::vector<PlacedSymbol>& symbols) {
+    std::vector<int> lines;
+    for (const PlacedSymbol& symbol : symbols) {
+        if (symbol.line != 0)
+            lines.push_back(symbol.line);
+    }
+    std::ranges::sort(lines);
+    for (std::size_t i = 0; i < symbols.size(); ++i)
+        symbols[i].line = i < lines.size() ? lines[i] : 0; // new ones come last in the file
+}
+
 } // namespace
 
 PlanDocument::PlanDocument(Ptr<_CSymbolColl> catalogue) : catalogue_(std::move(catalogue)) {
@@ -38,28 +52,45 @@ void PlanDocument::Open(const std::filesystem::path& file) {
     Begin(ReadPlan(file), std::filesystem::absolute(file));
 }
 
+void PlanDocument::Recover(const std::filesystem::path& saved, const std::filesystem::path& file) {
+    Begin(ReadPlan(saved), file);
+    saved_ = 0; // no state has this number
+}
+
 void PlanDocument::SaveAs(const std::filesystem::path& file) {
     WritePlan(plan_, file);
     file_ = file;
-    saved_ = plan_.symbols;
+    saved_ = history_.State();
 }
 
 void PlanDocument::UseCatalogue(Ptr<_CSymbolColl> catalogue) {
-    symbols_ = FindSymbols(plan_, *catalogue.Get());
+    std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan_, *catalogue.Get());
+    RequireDrawable(plan_.symbols, symbols);
+    symbols_.swap(symbols);
     catalogue_ = std::move(catalogue);
 }
 
-void PlanDocument::Add(const std::vector<PlacedSymbol>& added) {
-    std::vector<PlacedSymbol> symbols = plan_.symbols;
-    symbols.insert(symbols.end(), added.begin(), added.end());
-    Change(std::move(symbols));
+std::vector<PlacedSymbol> PlanDocument::MarkedSymbols() const {
+    std::vector<PlacedSymbol> marked;
+    for (const std::size_t place : marks_.Places())
+        marked.push_back(plan_.symbols[place]);
+    return marked;
 }
 
-void PlanDocument::Replace(const std::vector<std::size_t>& places, const std::vector<PlacedSymbol>& changed) {
+void PlanDocument::Add(const std::vector<PlacedSymbol>& added, bool marks) {
+    std::vector<PlacedSymbol> symbols = plan_.symbols;
+    symbols.insert(symbols.end(), added.begin(), added.end());
+    Change(symbols);
+    if (marks)
+        marks_.SetRange(symbols.size() - added.size(), added.size());
+}
+
+void PlanDocument::Replace(const std::vector<std::size_t>& places, const std::vector<PlacedSymbol>& changed,
+                           bool continues) {
     std::vector<PlacedSymbol> symbols = plan_.symbols;
     for (std::size_t i = 0; i < places.size(); ++i)
         symbols[places[i]] = changed[i];
-    Change(std::move(symbols));
+    Change(symbols, continues);
 }
 
 void PlanDocument::RemoveMarked() {
@@ -67,37 +98,62 @@ void PlanDocument::RemoveMarked() {
     const std::vector<std::size_t>& places = marks_.Places();
     for (auto place = places.rbegin(); place != places.rend(); ++place)
         symbols.erase(symbols.begin() + static_cast<std::ptrdiff_t>(*place));
-    Change(std::move(symbols));
+    Change(symbols);
     marks_.Clear();
 }
 
+void PlanDocument::BringMarkedTo(bool front) {
+    std::vector<PlacedSymbol> marked, others;
+    for (std::size_t i = 0; i < plan_.symbols.size(); ++i)
+        (marks_.Contains(i) ? marked : others).push_back(plan_.symbols[i]);
+    const std::size_t first = front ? others.size() : 0;
+    const std::size_t count = marked.size();
+    others.insert(others.begin() + static_cast<std::ptrdiff_t>(first), marked.begin(), marked.end());
+    GiveLines(others);
+    Change(others);
+    marks_.SetRange(first, count);
+}
+
 void PlanDocument::Undo() {
-    Plan plan = plan_;
-    plan.symbols = history_.back();
-    Show(std::move(plan));
-    history_.pop_back();
+    Apply(history_.ToUndo().Reversed());
+    history_.WentBack();
+    marks_.Clear();
+}
+
+void PlanDocument::Redo() {
+    Apply(history_.ToRedo());
+    history_.WentForth();
     marks_.Clear();
 }
 
 void PlanDocument::Begin(Plan plan, const std::filesystem::path& file) {
-    Show(std::move(plan));
+    std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, *catalogue_.Get());
+    RequireDrawable(plan.symbols, symbols);
+    symbols_.swap(symbols);
+    plan_ = std::move(plan);
     file_ = file;
-    saved_ = plan_.symbols;
-    history_.clear();
+    history_.Begin();
+    saved_ = history_.State();
+    ++planNumber_;
     marks_.Clear();
 }
 
-void PlanDocument::Change(std::vector<PlacedSymbol> symbols) {
-    RequireOnSheet(symbols);
-    if (symbols == plan_.symbols)
+void PlanDocument::Change(const std::vector<PlacedSymbol>& symbols, bool continues) {
+    PlanChange change = Difference(plan_.symbols, symbols);
+    if (change.IsNothing())
         return;
-    Plan plan = plan_;
-    plan.symbols.swap(symbols);
-    Show(std::move(plan));
-    history_.push_back(std::move(symbols)); // as they were
+    RequireOnSheet(change.after);
+    Apply(change);
+    history_.Add(std::move(change), continues);
 }
 
-void PlanDocument::Show(Plan plan) {
-    symbols_ = FindSymbols(plan, *catalogue_.Get());
-    plan_ = std::move(plan);
+void PlanDocument::Apply(const PlanChange& change) {
+    std::vector<Ptr<_CSymbol>> found = FindSymbols(change.after, *catalogue_.Get());
+    RequireDrawable(change.after, found);
+    const auto exchange = [&]<class Item>(std::vector<Item>& all, auto first, auto last) {
+        const auto begin = all.begin() + static_cast<std::ptrdiff_t>(change.first);
+        all.insert(all.erase(begin, begin + static_cast<std::ptrdiff_t>(change.before.size())), first, last);
+    };
+    exchange(plan_.symbols, change.after.begin(), change.after.end());
+    exchange(symbols_, std::make_move_iterator(found.begin()), std::make_move_iterator(found.end()));
 }

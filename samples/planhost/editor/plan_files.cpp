@@ -59,16 +59,15 @@ bool MayLeave(HWND owner, PlanDocument& document) {
     }
 }
 
-void StartNewPlan(HWND owner, PlanDocument& document) {
-    if (MayLeave(owner, document))
-        document.StartNew();
+bool StartNewPlan(HWND owner, PlanDocument& document) {
+    if (!MayLeave(owner, document))
+        return false;
+    document.StartNew();
+    return true;
 }
 
-void OpenPlan(HWND owner, PlanDocument& document) {
-    if (!MayLeave(owner, document))
-        return;
-    if (const fs::path file = Ask(kOpen, owner, {}); !file.empty())
-        document.Open(file);
+fs::path AskForPlan(HWND owner, PlanDocument& document) {
+    return MayLeave(owner, document) ? Ask(kOpen, owner, {}) : fs::path();
 }
 
 bool SavePlan(HWND owner, PlanDocument& document) {

@@ -1,36 +1,73 @@
 #pragma once
 
-#include "../bitmap.h"
 #include "../picture_box.h"
 #include "plan_document.h"
+#include "plan_scene.h"
+#include "smooth_tiles.h"
 
-#include <QMath.h>
-
+#include <memory>
 #include <optional>
 
-/// The picture of the plan, as large as its window. It is kept in a bitmap on which the tools draw as well,
-/// so painting is one copy and what a tool shows survives a covered window.
+/// The picture of the plan in its window. The plan comes from smooth tiles, which are drawn while nothing else is to be done;
+/// until then what was to be seen before stands there, in its new size. Upon it lie grid and marks, and then what the
+/// libraries' tools draw, pixel by pixel: painting is one copy, and what a tool shows survives a covered window.
 class PlanView {
 public:
-    /// Draws the plan anew, fitted into this many pixels.
-    void Show(const PlanDocument& document, SIZE pixels);
+    /// The plan has changed, or is another one.
+    void Show(const PlanDocument& document);
+    /// Takes symbols for new that have come from a file again.
+    void Forget();
+    void Resize(SIZE pixels);
     /// False while the window has no room for a picture.
-    bool HasPicture() const { return bitmap_.has_value(); }
+    bool HasPicture() const { return screen_.has_value(); }
 
-    /// What the libraries' tools draw on, and the map that they use; they change with every Show.
+    // What is to be seen. Each makes the picture anew, without what tools drew.
+    void FitSheet();
+    void FitMarked();
+    void ZoomAt(POINT pixel, double factor);
+    void SetScale(double unitsPerPixel);
+    void MoveBy(int right, int down);
+    void ShowGrid(bool isShown);
+    /// Puts the picture together again.
+    void Compose();
+
+    /// Draws one tile that is missing; false when there is none.
+    bool DrawNextTile();
+    std::optional<std::wstring> TakeFailure() { return scene_.TakeFailure(); }
+
+    const ViewMap& Map() const { return map_; }
+    const PlanScene& Scene() const { return scene_; }
+    bool HasGrid() const { return hasGrid_; }
+
+    /// What the libraries' tools draw on, and the map that they use; they change whenever the picture does.
     IDispatch& Box() const { return *box_.Get(); }
     _CTrans& Transformation() const { return *transformation_.Get(); }
 
     /// The place in the plan that a pixel shows, in units.
     POINT ToPlan(POINT pixel) const;
+    /// By their places in the plan, the topmost first.
+    std::vector<std::size_t> SymbolsAt(const PointedAt& place) const;
     /// Inverts a frame; a second time takes it away again.
     void InvertFrame(const RECT& frame);
     void Paint(HDC dc) const;
 
 private:
-    void MakePicture(SIZE pixels);
+    void UseMap(const ViewMap& map);
+    void DrawRough(HDC dc) const;
+    void DrawSheet(const Canvas& canvas) const;
+    RECT Sheet() const;
 
-    std::optional<Bitmap> bitmap_;
-    Ptr<PictureBox> box_; ///< on the bitmap
+    const PlanDocument* document_ = nullptr;
+    unsigned planShown_ = 0;
+    PlanScene scene_;
+    ViewMap map_;
+    SIZE pixels_{};
+    bool isFitted_ = true; ///< until the user zooms or pans
+    bool hasGrid_ = false;
+    SmoothTiles tiles_;
+    std::unique_ptr<Bitmap> before_; ///< the picture at the map that was used before
+    ViewMap mapBefore_;
+    std::optional<Bitmap> screen_;
+    Ptr<PictureBox> box_; ///< on the screen
     Ptr<_CTrans> transformation_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor.h"
+#include "place_entry.h"
 
 #include <functional>
 
@@ -17,18 +18,27 @@ public:
     void Create(HWND parent, Guard guard);
     HWND Window() const { return window_; }
     void MoveTo(const RECT& area);
-    /// Shows the picture as it is now.
-    void Refresh() { InvalidateRect(window_, nullptr, FALSE); }
+    /// Shows the picture as it is now, and goes on to draw what is missing in it.
+    void Refresh();
     /// Where the mouse is, in pixels of the picture.
     POINT Mouse() const;
+    /// Of the picture, on the screen.
+    POINT Corner() const;
 
 private:
     static LRESULT CALLBACK OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+    bool OnMouse(UINT message, WPARAM wParam, LPARAM lParam);
+    void OnKey(WPARAM key, LPARAM info);
+    void OnCharacter(wchar_t character);
     void Command(int id) const { SendMessageW(GetParent(window_), WM_COMMAND, static_cast<WPARAM>(id), 0); }
     void Paint();
+    void DrawOn();
 
     Editor& editor_;
     Guard guard_;
     HWND window_ = nullptr;
+    PlaceEntry entry_;
+    bool isKeypadDigit_ = false; ///< the last key
+    bool isDrawingOn_ = false;
 };

@@ -7,6 +7,7 @@
 /// Where the mouse points to.
 struct Pointer {
     POINT pixel;
-    /// The point of a placed symbol that it has caught, in units; the pixel is that point's then.
+    /// The point that has been caught, in units; the pixel is moved with it then.
     std::optional<POINT> caught;
+    const wchar_t* kind = L""; ///< of the caught point, for the user
 };

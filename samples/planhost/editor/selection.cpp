@@ -4,6 +4,10 @@
 #include <iterator>
 #include <numeric>
 
+bool Selection::Contains(std::size_t place) const {
+    return std::ranges::binary_search(places_, place);
+}
+
 void Selection::Set(std::vector<std::size_t> places) {
     places_ = std::move(places);
     std::ranges::sort(places_);

@@ -9,6 +9,8 @@ public:
     const std::vector<std::size_t>& Places() const { return places_; }
     bool IsEmpty() const { return places_.empty(); }
 
+    bool Contains(std::size_t place) const;
+
     void Set(std::vector<std::size_t> places);
     /// What is not marked gets marked, and the other way round.
     void Toggle(const std::vector<std::size_t>& places);

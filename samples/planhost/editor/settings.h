@@ -12,6 +12,9 @@ public:
     Settings();
     explicit Settings(std::filesystem::path file) : file_(std::move(file)) {}
 
+    /// Where files of the user's own may be kept beside it.
+    std::filesystem::path Folder() const { return file_.parent_path(); }
+
     std::wstring Text(const std::wstring& section, const std::wstring& key,
                       const std::wstring& otherwise = {}) const;
     void SetText(const std::wstring& section, const std::wstring& key, const std::wstring& text);

@@ -6,19 +6,20 @@
 
 /// A placed symbol as a member of a group that is moved and turned as one.
 struct GroupMember {
-    std::size_t place; ///< in the plan
-    POINT delta;       ///< from the group's base point, in units
-    double angle;      ///< its own, in radians
+    POINT delta;  ///< from the group's base point, in units
+    double angle; ///< its own, in radians
 };
 
-/// The base point is the insertion point of the first member.
 struct SymbolGroup {
     POINT base;
     std::vector<GroupMember> members;
 };
 
-/// places: of at least one symbol.
-SymbolGroup MakeGroup(const std::vector<PlacedSymbol>& symbols, const std::vector<std::size_t>& places);
+/// base: in units.
+SymbolGroup MakeGroup(const std::vector<PlacedSymbol>& symbols, POINT base);
+
+/// The symbols turned as one about a point, in degrees.
+std::vector<PlacedSymbol> TurnedAbout(std::vector<PlacedSymbol> symbols, POINT about, int degrees);
 
 /// The library's radians as the plan's degrees: from 0 to below 360, to the millionth.
 double DegreesOf(double radians);

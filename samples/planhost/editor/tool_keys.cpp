@@ -5,31 +5,46 @@
 
 namespace {
 
-struct KeyPair {
+struct KeyTurn {
     WPARAM key;
-    short forTool;
+    TurnKey turn;
 };
 
-constexpr KeyPair kWithoutNumLock[] = {{VK_END, VK_NUMPAD1},   {VK_DOWN, VK_NUMPAD2},  {VK_NEXT, VK_NUMPAD3},
-                                       {VK_LEFT, VK_NUMPAD4},  {VK_CLEAR, VK_NUMPAD5}, {VK_RIGHT, VK_NUMPAD6},
-                                       {VK_HOME, VK_NUMPAD7},  {VK_UP, VK_NUMPAD8},    {VK_PRIOR, VK_NUMPAD9},
-                                       {VK_INSERT, VK_NUMPAD0}};
+constexpr KeyTurn kKeys[] = {{VK_PRIOR, {TurnKey::By, 10}}, {VK_NEXT, {TurnKey::By, -10}},
+                             {VK_UP, {TurnKey::By, 1}},     {VK_DOWN, {TurnKey::By, -1}},
+                             {VK_LEFT, {TurnKey::By, 1}},   {VK_RIGHT, {TurnKey::By, -1}},
+                             {VK_HOME, {TurnKey::By, 90}},  {VK_END, {TurnKey::By, -90}}};
+
+struct KeypadDigit {
+    WPARAM withNumLock, without;
+    int degrees;
+};
+
+constexpr KeypadDigit kDigits[] = {{VK_NUMPAD8, VK_UP, 0},      {VK_NUMPAD7, VK_HOME, 45},
+                                   {VK_NUMPAD4, VK_LEFT, 90},   {VK_NUMPAD1, VK_END, 135},
+                                   {VK_NUMPAD2, VK_DOWN, 180},  {VK_NUMPAD3, VK_NEXT, 225},
+                                   {VK_NUMPAD6, VK_RIGHT, 270}, {VK_NUMPAD9, VK_PRIOR, 315}};
 
 } // namespace
 
-short GroupToolKey(WPARAM key, LPARAM info) {
+std::optional<TurnKey> TurnKeyOf(WPARAM key, LPARAM info, bool withCtrl) {
     const bool isExtended = (HIWORD(info) & KF_EXTENDED) != 0;
-    const auto* found = std::ranges::find(kWithoutNumLock, key, &KeyPair::key);
-    if (!isExtended && found != std::end(kWithoutNumLock))
-        return found->forTool;
-    switch (key) {
-    case VK_OEM_PLUS: return VK_ADD;
-    case VK_OEM_MINUS: return VK_SUBTRACT;
-    default: return static_cast<short>(key);
+    for (const KeypadDigit& digit : kDigits) {
+        if (key == digit.withNumLock || (key == digit.without && !isExtended))
+            return TurnKey{TurnKey::To, digit.degrees};
     }
+    if (key == VK_HOME && withCtrl)
+        return TurnKey{TurnKey::To, 0};
+    const auto* found = std::ranges::find(kKeys, key, &KeyTurn::key);
+    return found != std::end(kKeys) ? std::optional(found->turn) : std::nullopt;
 }
 
-short ShiftState() {
-    const auto bit = [](int key, int value) { return GetKeyState(key) < 0 ? value : 0; };
-    return static_cast<short>(bit(VK_SHIFT, 1) | bit(VK_CONTROL, 2) | bit(VK_MENU, 4));
+std::optional<TurnKey> TurnKeyOf(wchar_t character) {
+    switch (character) {
+    case L'+': return TurnKey{TurnKey::By, -1};
+    case L'-': return TurnKey{TurnKey::By, 1};
+    case L'*': return TurnKey{TurnKey::By, -10};
+    case L'/': return TurnKey{TurnKey::By, 10};
+    default: return std::nullopt;
+    }
 }

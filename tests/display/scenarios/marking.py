@@ -7,7 +7,15 @@ from editor import MARK, ROOM, Editor, copy_of
 def run():
     with Editor(copy_of(ROOM)) as editor:
         inside = {"Kommode": editor.pixel(2000, 1600), "Sessel": editor.pixel(4350, 4050), "Hocker": editor.pixel(6500, 2300)}
-        marked = lambda picture, name: picture.at(*inside[name]) == MARK
+
+        def marked(picture, name):
+            """Its frame is drawn, and its own colours are to be seen in it."""
+            x, y = inside[name]
+            row = [picture.at(x + i, y) for i in range(-90, 91)]
+            return MARK in row[:90] and MARK in row[90:] and row[90] == opened.at(x, y)
+
+        editor.park()
+        opened = editor.picture()
         editor.click_at(inside["Kommode"])
         editor.wait_for_count("4 Symbole, 1 markiert")
         editor.park()
@@ -25,7 +33,7 @@ def run():
         editor.wait_for_picture("the other mark", lambda now: marked(now, "Hocker") and not marked(now, "Kommode"))
 
         # From the lower right to the upper left, over the chest and the armchair.
-        editor.point_at(editor.pixel(4800, 4200))
+        editor.point_at(editor.pixel(5450, 4400))
         editor.desktop.press()
         editor.point_at(editor.pixel(3000, 2800))
         editor.point_at(editor.pixel(1000, 1500))

@@ -8,7 +8,7 @@ def run():
     with Editor(copy_of(ROOM)) as editor:
         before = symbols_of(editor.plan)
         # Chest and armchair: the chest, standing at 0°, is the first.
-        editor.drag(editor.pixel(1000, 1500), editor.pixel(4800, 4200))
+        editor.drag(editor.pixel(1000, 1500), editor.pixel(5450, 4400))
         editor.wait_for_count("4 Symbole, 2 markiert")
         editor.key("ctrl+m")
         editor.wait_for_hint("Verschieben: Klick setzt")
@@ -18,7 +18,8 @@ def run():
         # With Num Lock, without it, the signs of the keypad and those beside the letters.
         for key, degrees in (("KP_4", 90), ("KP_Page_Up", 315), ("KP_Up", 0), ("KP_9", 315), ("KP_Add", 314),
                              ("KP_Multiply", 304), ("KP_Divide", 314), ("KP_Subtract", 315), ("minus", 316),
-                             ("KP_8", 0), ("KP_Begin", 0), ("Up", 0), ("KP_7", 45), ("KP_Subtract", 46)):  # fmt: skip
+                             ("KP_8", 0), ("KP_Begin", 0), ("Up", 1), ("Right", 0), ("Prior", 10), ("Next", 0), ("Home", 90),
+                             ("End", 0), ("plus", 359), ("slash", 9), ("ctrl+Home", 0), ("KP_7", 45), ("KP_Subtract", 46)):  # fmt: skip
             editor.key(key)
             editor.wait_for_direction(degrees)
         editor.save_picture("turned")
@@ -56,13 +57,13 @@ def run():
 
         # What is no number is said, and the dialog stays.
         editor.key("ctrl+u")
-        editor.desktop.window("#32770", "um eine Strecke")
+        editor.desktop.window("#32770", "Um eine Strecke")
         editor.desktop.type("zwei")
         editor.key("Return")
         editor.desktop.window("#32770", "\"zwei\" ist keine Länge in Millimetern.")
         editor.save_picture("no-number")
         editor.key("Return")
-        editor.desktop.window("#32770", "um eine Strecke")
+        editor.desktop.window("#32770", "Um eine Strecke")
         editor.key("Escape")
         editor.wait_for_window("zimmer.plan – Planhost")
 

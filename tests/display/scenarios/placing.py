@@ -20,7 +20,8 @@ def run():
         editor.point_at(target)
         editor.wait_for_direction(30)
         for key, degrees in (("Prior", 40), ("Up", 41), ("Down", 40), ("Next", 30), ("End", 300), ("Home", 30),
-                             ("0", 30), ("Left", 30)):  # fmt: skip
+                             ("Left", 31), ("Right", 30), ("plus", 29), ("minus", 30), ("asterisk", 20), ("slash", 30),
+                             ("KP_Add", 29), ("KP_4", 90), ("KP_Down", 180), ("KP_7", 45)):  # fmt: skip
             editor.key(key)
             editor.wait_for_direction(degrees)
         editor.desktop.hold("ctrl")

@@ -23,7 +23,7 @@ def run():
             editor.wait_for_count("107 Symbole, 1 markiert")
             editor.key("F3")
             editor.wait_for_hint(name + ": Klick setzt")
-            wander(editor, ["Prior", "Home", "0", "Up", "End", "Next", "Down", "Prior", "ctrl+Home"])
+            wander(editor, ["Prior", "Home", "Left", "Up", "End", "Next", "Down", "Prior", "ctrl+Home"])
             editor.save_picture("placing-" + picture)
             editor.key("Escape")
             editor.wait_for_hint("markiert Symbole")

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+// What all dialogs of the editor have in common.
+
+/// Shows a dialog of the resources over its owner, in the message font of the system. start: given to WM_INITDIALOG.
+INT_PTR ShowDialog(HWND owner, int dialog, DLGPROC onMessage, void* start);
+
+/// The message font for a screen of so many dots to the inch; the caller deletes it.
+HFONT MakeMessageFont(UINT dots);
+
+std::wstring WindowText(HWND window);
