@@ -4,6 +4,10 @@
 #include "support/picture_box.h"
 #include "support/shapes.h"
 
+#include <atomic>
+#include <thread>
+#include <vector>
+
 namespace {
 
 using support::Dispatch;
@@ -117,6 +121,99 @@ TEST_F(OtherApartments, ErrorsComeWithTheirNumber) {
     EXPECT_EQ(symbol->ReadFromFile(), support::Numbered(3501));
     EXPECT_EQ(Dispatch(symbol).Call(L"ReadFromFile").failure,
               support::LibraryError(3501, L"CSymbol.ReadFromFile"));
+}
+
+/// A catalogue with the symbol, and a plan with it placed once, made where it is called.
+Ref<_CPlan> MakePlan() {
+    const auto catalogue = support::Create<CSymbolColl, _CSymbolColl>();
+    Ref<_CSymbol> given = MakeSymbol();
+    EXPECT_OK(catalogue->AppendRef(given.InOut()));
+    auto plan = support::Create<CPlan, _CPlan>();
+    Ref<_CPlacement> placed;
+    EXPECT_OK(plan->putref_Symbols(catalogue.Get()));
+    EXPECT_OK(plan->Add(support::Bstr(L"WC"), 50, 60, 0, placed.Put()));
+    return plan;
+}
+
+/// Adds, finds, moves, snaps and draws.
+void ExpectToWork(const Ref<_CPlan>& plan, support::Canvas& canvas, IDispatch* box) {
+    const Ref<_CTrans> trans = support::NewTrans();
+    const Dispatch late(plan);
+    EXPECT_EQ(late.Get(L"Count").value.Long(), 1);
+    Ref<_CPlacement> second;
+    ASSERT_OK(plan->Add(support::Bstr(L"wc"), 150, 60, 0, second.Put()));
+    EXPECT_OK(plan->HitTest(trans.Get(), 160, 50, second.Put()));
+    ASSERT_TRUE(second);
+    EXPECT_EQ(Dispatch(second).Get(L"Id").value.Long(), 2);
+    EXPECT_OK(Dispatch(second).Put(L"LogX", 1150).status);
+    EXPECT_EQ(late.Call(L"HitTest", {trans, 160, 50}).value.Object(), nullptr);
+    EXPECT_EQ(support::RestOf(support::EnumeratorOf(plan.Get()).Get()).size(), 2U);
+    const auto rect = support::Create<CRect, _CRect>();
+    EXPECT_OK(rect->put_Right(200));
+    EXPECT_OK(rect->put_Bottom(200));
+    EXPECT_EQ(Dispatch(late.Call(L"HitRect", {trans, rect}).value.Object()).Get(L"Count").value.Long(), 1);
+    Value x = 41.0f, y = 42.0f, worldX = 0, worldY = 0;
+    EXPECT_TRUE(late.Call(L"CatchPt", {Value::Variable(x), Value::Variable(y), Value::Variable(worldX),
+                                       Value::Variable(worldY), trans, static_cast<SHORT>(4)})
+                    .value.Bool());
+    EXPECT_EQ(worldX.Long(), 40);
+    EXPECT_OK(plan->Draw(box, trans.Get()));
+    EXPECT_TRUE(support::IsDrawnOn(canvas));
+    EXPECT_EQ(late.Call(L"Add", {L"Bad", 0, 0, 0.0}).failure, support::RunTimeError(5, L"QPlan"));
+}
+
+TEST_F(OtherApartments, TheirPlansWork) {
+    ExpectToWork(other.Make<_CPlan>(MakePlan), canvas, box.Get());
+}
+
+TEST_F(OtherApartments, OurPlansTakeTheirCatalogues) {
+    const auto catalogue = other.Make<_CSymbolColl>([&] {
+        auto made = support::Create<CSymbolColl, _CSymbolColl>();
+        Ref<_CSymbol> given = MakeSymbol();
+        EXPECT_OK(made->AppendRef(given.InOut()));
+        return made;
+    });
+    const Ref<_CPlan> plan = MakePlan();
+    ASSERT_OK(plan->putref_Symbols(catalogue.Get()));
+    ExpectToWork(plan, canvas, box.Get());
+}
+
+TEST_F(OtherApartments, PicturesAreDrawnOnFromHere) {
+    const auto picture = other.Make<_CPicture>([] { return support::Create<CPicture, _CPicture>(); });
+    EXPECT_EQ(Dispatch(picture).Get(L"hDC").failure, support::RunTimeError(91, L"QPlan"));
+    ASSERT_OK(Dispatch(picture).Call(L"Create", {200, 150}).status);
+    LONG noMark = -1;
+    EXPECT_OK(symbol->Draw(50, 60, 0, picture.Get(), trans.Get(), 1, 1, &noMark));
+    LONG colour = 0;
+    EXPECT_OK(picture->get_Pixel(120, 45, &colour));
+    EXPECT_EQ(colour, 0x00AA00);
+}
+
+/// Each with a catalogue, a plan and a surface of its own, at the same time.
+TEST_F(OtherApartments, PlansOfSeveralThreadsDoNotMeet) {
+    std::vector<std::thread> threads;
+    std::atomic<int> strays = 0;
+    for (int i = 0; i < 4; ++i)
+        threads.emplace_back([&strays, i] {
+            if (FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)))
+                return;
+            {
+                const Ref<_CPlan> plan = MakePlan();
+                const Ref<_CTrans> own = support::NewTrans();
+                const auto picture = support::Create<CPicture, _CPicture>();
+                EXPECT_OK(picture->Create(300, 200, i));
+                for (LONG x = 0; x < 200; ++x) {
+                    Ref<_CPlacement> hit;
+                    EXPECT_OK(plan->Draw(picture.Get(), own.Get()));
+                    EXPECT_OK(plan->HitTest(own.Get(), x, 50, hit.Put()));
+                    strays += static_cast<bool>(hit) != (x >= 40 && x <= 130);
+                }
+            }
+            CoUninitialize();
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(strays, 0);
 }
 
 } // namespace
