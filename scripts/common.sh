@@ -48,6 +48,8 @@ declare -A PACKAGES=(
     [wine]="wine wine64 fonts-liberation"
     [display]="xvfb xdotool python3"
     [german]="locales"
+    [docs]="python3-sphinx python3-myst-parser furo"
+    [packages]="wixl faketime dpkg-dev python3"
     [x86]=""
     [lint]="$COMPILING clang-format clang-tidy g++ googletest python3 shellcheck"
 )
