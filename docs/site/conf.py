@@ -19,9 +19,12 @@ root_doc = "docs/README"
 CONTENTS = {
     "Start": ["README", "docs/installation", "docs/troubleshooting", "docs/cookbook", "samples/clients/README"],
     "Reference": ["docs/classes/README", "docs/automation", "docs/file-formats", "docs/plan-files", "docs/import-format", "docs/dxf"],
-    "Tools": ["samples/README", "docs/command-line", "docs/pictures"],
+    "Tools": ["docs/editor", "samples/README", "docs/command-line", "docs/pictures"],
     "Inside": ["docs/architecture", "src/README", "CONTRIBUTING", "CHANGELOG"],
 }
+# A new page stands there as soon as it is written.
+known = {root_doc, *sum(CONTENTS.values(), [])}
+CONTENTS["Tools"] += sorted({f"docs/{page.stem}" for page in ROOT.glob("docs/*.md")} - known)
 CLASSES = sorted(f"docs/classes/{page.stem}" for page in ROOT.glob("docs/classes/*.md") if page.stem != "README")
 include_patterns = [f"{page}.md" for page in [root_doc, *sum(CONTENTS.values(), []), *CLASSES]]
 # Never walked through: there are links to whole disks in it.
