@@ -38,6 +38,9 @@ ROWS = [
     ("CatchPt of far symbols beside ObjIdentByPt", "calls_bench", "SnapsFarAway", "HitsFarAway", "real_time", "<= 2"),
     ("ReadKatalog of 10,000 files", "catalogue_bench", "ReadKatalogBesideBareReading", "", "s", "<= 1.3"),
     ("DXF of 10,000 placed symbols", "catalogue_bench", "DxfExportSymBesideBareWriting", "", "s", "<= 1.2"),
+    ("palette over 10,000 symbols: a filter step", "palette_bench", "FilterStep", 0.05, "real_time", "<= 1"),
+    ("the same: a step of the wheel", "palette_bench", "ScrollStep", 0.016, "real_time", "<= 1"),
+    ("the same: from one end to the other", "palette_bench", "JumpStep", 0.05, "real_time", "<= 1"),
     ("DXF, 100,000 entities beside dxflib, entities/s", "dxf_bench", "WriteWithQSymbol", "WriteWithDxflib", "items_per_second", ">= 10"),
     ("text symbols beside dime, bytes/s", "text_parse_bench", "ParseTextSymbol", "DimeReadsDxf", "bytes_per_second", ">= 4"),
 ]

@@ -150,7 +150,9 @@ def selecting():
         dialog.desktop.key("Down", "Down")
         wait_for("the second next entry", lambda: int(dialog.control("ListBox")[0]) == int(first) + 2)
         wait_for("another drawing", lambda: screen.take().part(*dialog.preview()) != before)
-        dialog.desktop.key("Return")
+        dialog.desktop.type("sofa z")
+        wait_for("Sofa zweisitzig", lambda: int(dialog.control("ListBox")[0]) == int(first) - 1)
+        dialog.desktop.key("Down", "Down", "Down", "Return")
         require(dialog.chosen() == "Spüle", dialog.chosen())
 
 
@@ -215,7 +217,10 @@ def exporting():
         dialog.save("running")
         pictures = dialog.folder / "bilder"
         wait_for("all pictures", lambda: len(list(pictures.glob("*.JPG"))) == 95)
-        dialog.look("Als &JPEG speichern")
+        dialog.look("Alle als &JPEG speichern")
+        dialog.look("95 Bilder in " + windows_path(pictures) + " gespeichert")
+        dialog.settled_picture()
+        dialog.save("saved")
         dialog.desktop.key("Escape")
         require(dialog.chosen() == "")
         for picture in pictures.iterdir():

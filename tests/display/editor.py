@@ -58,7 +58,7 @@ def symbols_of(plan):
 class Editor:
     """A running editor with a plan; the map from plan to pixels is worked out here once more, from the sizes alone."""
 
-    def __init__(self, plan=None, settings="[Ansicht]\nFangen=0\n"):
+    def __init__(self, plan=None, settings="[Ansicht]\nFangen=0\nWeitersetzen=0\n"):
         """Without a plan: with the new one that the editor makes. settings: what it remembers; None: as it left them."""
         catalogue = make_catalogue()
         self.plan = plan

@@ -152,7 +152,7 @@ void Editor::StartTurning(POINT pixel) {
 }
 
 void Editor::MouseUp(POINT pixel) {
-    if (std::exchange(fixesWhereLetGo_, false) && tool_) {
+    if (fixesWhereLetGo_ && tool_) {
         const RECT picture{0, 0, pixels_.cx, pixels_.cy};
         return PtInRect(&picture, pixel) ? MouseDown(pixel) : Cancel();
     }
@@ -251,11 +251,18 @@ void Editor::FinishIfReady() {
 void Editor::Finish(EditorTool& tool) {
     caught_.reset();
     tool.Finish(document_);
-    if (std::exchange(isPlacing_, false)) {
+    const bool hasPlaced = std::exchange(isPlacing_, false);
+    const bool wasDropped = std::exchange(fixesWhereLetGo_, false);
+    if (hasPlaced) {
         placed_ = document_.Content().symbols.back();
         degrees_ = placed_->angle;
         if (placedTold_)
             placedTold_(name_);
     }
     Redraw();
+    // Who drags wants one; who clicks may want another beside it.
+    if (hasPlaced && goesOnPlacing_ && !wasDropped) {
+        Place();
+        MouseMove(mouse_);
+    }
 }

@@ -56,6 +56,9 @@ public:
     bool IsBusy() const { return HasTool() || band_.has_value() || press_.has_value(); }
     bool Snaps() const { return snaps_; }
     void SetSnaps(bool snaps) { snaps_ = snaps; }
+    /// Whether the same symbol is placed again and again, until Esc.
+    bool GoesOnPlacing() const { return goesOnPlacing_; }
+    void SetGoesOnPlacing(bool goesOn) { goesOnPlacing_ = goesOn; }
     /// Takes away the tool or the rubber band, without a trace.
     void Cancel();
     /// Does the same after a failure, when the picture may be anything.
@@ -120,6 +123,7 @@ private:
     std::optional<std::size_t> hovered_; ///< symbol that the mouse points to
     std::optional<Pointer> caught_;      ///< as the user sees it
     bool snaps_ = true;
+    bool goesOnPlacing_ = true;
     std::wstring name_;  ///< of the symbol that was placed last, or is being placed
     double degrees_ = 0; ///< its direction
     bool isPlacing_ = false;

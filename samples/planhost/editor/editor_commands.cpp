@@ -3,6 +3,7 @@
 #include "../plan_symbols.h"
 #include "../text.h"
 #include "moving_tool.h"
+#include "picture_folder.h"
 #include "placing_tool.h"
 
 #include <algorithm>
@@ -11,12 +12,6 @@
 // The commands of the editor, and what its status bar says.
 
 namespace {
-
-/// Where the library's dialog puts pictures of the symbols when the user asks for them.
-std::wstring PictureFolder(const PlanDocument& document) {
-    return document.File().empty() ? std::filesystem::current_path().wstring()
-                                   : document.File().parent_path().wstring();
-}
 
 std::wstring CountOf(std::size_t count) {
     return std::to_wstring(count) + (count == 1 ? L" Symbol" : L" Symbole");
@@ -58,8 +53,8 @@ void Editor::Align(Alignment alignment) {
 
 void Editor::Choose() {
     Bstr chosen;
-    Check(document_.Catalogue().SelectSymNameDlg(Bstr(name_ + L"+" + PictureFolder(document_)).Get(),
-                                                 chosen.Put()));
+    const std::wstring request = DialogRequest(name_, PictureFolder(document_.File()));
+    Check(document_.Catalogue().SelectSymNameDlg(Bstr(request).Get(), chosen.Put()));
     if (chosen.Text().empty())
         return;
     Place(chosen.Text());

@@ -58,6 +58,12 @@ bool IsForField(const MSG& message) {
     return isEditing || message.wParam == VK_PRIOR || message.wParam == VK_NEXT;
 }
 
+/// The wheel turns what the mouse points to, whatever has the keyboard; only newer systems see to that themselves.
+HWND UnderMouse(const MSG& message) {
+    const HWND under = WindowFromPoint(message.pt);
+    return GetWindowThreadProcessId(under, nullptr) == GetCurrentThreadId() ? under : message.hwnd;
+}
+
 } // namespace
 
 EditorWindow::EditorWindow(const std::filesystem::path& catalogueFolder)
@@ -72,6 +78,7 @@ EditorWindow::EditorWindow(const std::filesystem::path& catalogueFolder)
     if (window_ == nullptr)
         throw Failure{L"Das Fenster lässt sich nicht öffnen."};
     editor_.SetSnaps(settings_.Flag(L"Ansicht", L"Fangen", true));
+    editor_.SetGoesOnPlacing(settings_.Flag(L"Ansicht", L"Weitersetzen", true));
     editor_.View().ShowGrid(settings_.Flag(L"Ansicht", L"Raster", false));
     editor_.OnPlaced([this](const std::wstring& name) {
         if (palette_)
@@ -98,6 +105,8 @@ void EditorWindow::Run() {
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
         if (!IsForField(message) && TranslateAcceleratorW(window_, keys, &message))
             continue;
+        if (message.message == WM_MOUSEWHEEL)
+            message.hwnd = UnderMouse(message);
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }

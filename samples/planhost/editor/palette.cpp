@@ -1,5 +1,7 @@
 #include "palette.h"
 
-std::unique_ptr<PaletteStrip> MakePalette(HWND, PaletteHost&) {
-    return nullptr;
+#include "palette_window.h"
+
+std::unique_ptr<PaletteStrip> MakePalette(HWND parent, PaletteHost& host) {
+    return std::make_unique<PaletteWindow>(parent, host);
 }

@@ -4,5 +4,5 @@
 
 #include <memory>
 
-/// The palette of an editor window; none where there is no palette. host: lives longer.
+/// The palette of an editor window: symbols to choose from, with a filter and categories. host: lives longer.
 std::unique_ptr<PaletteStrip> MakePalette(HWND parent, PaletteHost& host);

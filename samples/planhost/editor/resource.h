@@ -40,6 +40,7 @@
 #define IDM_ZOOM_OUT 244
 #define IDM_GRID 245
 #define IDM_SNAP 246
+#define IDM_GO_ON 247
 #define IDM_KEYS 250
 #define IDM_RECENT 260 // and seven more
 

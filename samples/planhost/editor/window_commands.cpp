@@ -4,6 +4,7 @@
 #include "clipboard.h"
 #include "dpi.h"
 #include "key_page.h"
+#include "picture_folder.h"
 #include "plan_files.h"
 #include "resource.h"
 
@@ -85,7 +86,11 @@ const EditorWindow::Command EditorWindow::kCommands[] = {
     {IDM_ALIGN, HasSeveral,
      [](EditorWindow& w, int id) { w.editor_.Align(static_cast<Alignment>(id - IDM_ALIGN)); }, kAlignments},
     {IDM_MARK_ALL, Always, [](EditorWindow& w, int) { w.editor_.MarkAll(); }},
-    {IDM_CHOOSE, Always, [](EditorWindow& w, int) { w.editor_.Choose(); }},
+    {IDM_CHOOSE, Always,
+     [](EditorWindow& w, int) {
+         w.SetStatus(0, L"Bilder aller Symbole kommen nach " + PictureFolder(w.editor_.Document().File()));
+         w.editor_.Choose();
+     }},
     {IDM_AGAIN, [](const EditorWindow& w) { return w.editor_.CanPlaceAgain(); },
      [](EditorWindow& w, int) { w.editor_.PlaceAgain(); }},
     {IDM_FILTER, [](const EditorWindow& w) { return w.palette_ != nullptr; },
@@ -98,6 +103,7 @@ const EditorWindow::Command EditorWindow::kCommands[] = {
     {IDM_ZOOM_OUT, Always, [](EditorWindow& w, int id) { w.Zoom(id); }},
     {IDM_GRID, Always, [](EditorWindow& w, int id) { w.Toggle(id); }},
     {IDM_SNAP, Always, [](EditorWindow& w, int id) { w.Toggle(id); }},
+    {IDM_GO_ON, Always, [](EditorWindow& w, int id) { w.Toggle(id); }},
     {IDM_KEYS, Always, [](EditorWindow& w, int) { ShowKeys(w.window_); }},
 };
 
@@ -107,7 +113,7 @@ void EditorWindow::Execute(int id) {
             continue;
         Do([&] {
             // What only changes the view leaves a tool alone.
-            if (id != IDM_CANCEL && (id < IDM_ZOOM_ALL || id > IDM_SNAP))
+            if (id != IDM_CANCEL && (id < IDM_ZOOM_ALL || id > IDM_GO_ON))
                 editor_.Cancel();
             command.run(*this, id);
             FollowMouse(); // the tool's image appears where the mouse is already
@@ -122,6 +128,7 @@ void EditorWindow::PrepareMenu(HMENU menu) {
     }
     CheckMenuItem(menu, IDM_GRID, editor_.View().HasGrid() ? MF_CHECKED : MF_UNCHECKED);
     CheckMenuItem(menu, IDM_SNAP, editor_.Snaps() ? MF_CHECKED : MF_UNCHECKED);
+    CheckMenuItem(menu, IDM_GO_ON, editor_.GoesOnPlacing() ? MF_CHECKED : MF_UNCHECKED);
     if (GetMenuState(menu, IDM_RECENT, MF_BYCOMMAND) == static_cast<UINT>(-1))
         return;
     // The menu of recent plans: always one entry at least, so that it can be found.
@@ -184,10 +191,13 @@ void EditorWindow::Zoom(int command) {
 void EditorWindow::Toggle(int command) {
     if (command == IDM_GRID)
         editor_.ChangeView([](PlanView& view) { view.ShowGrid(!view.HasGrid()); });
-    else
+    else if (command == IDM_SNAP)
         editor_.SetSnaps(!editor_.Snaps());
+    else
+        editor_.SetGoesOnPlacing(!editor_.GoesOnPlacing());
     settings_.SetFlag(kViewSection, L"Raster", editor_.View().HasGrid());
     settings_.SetFlag(kViewSection, L"Fangen", editor_.Snaps());
+    settings_.SetFlag(kViewSection, L"Weitersetzen", editor_.GoesOnPlacing());
 }
 
 void EditorWindow::OpenRecent(int number) {

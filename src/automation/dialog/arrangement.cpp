@@ -29,6 +29,7 @@ constexpr Place kPlaces[] = {
     {IDC_pbJPG, &DialogPlaces::exportButton},
     {IDC_Progress, &DialogPlaces::progress},
     {IDC_txProgress, &DialogPlaces::progressText},
+    {IDC_txSaved, &DialogPlaces::saved},
     {IDC_pbOk, &DialogPlaces::ok},
     {IDC_pbCancel, &DialogPlaces::cancel},
 };

@@ -14,5 +14,6 @@
 #define IDC_pbJPG 1009
 #define IDC_Progress 1010
 #define IDC_txProgress 1011
+#define IDC_txSaved 1012
 #define IDC_pbOk IDOK
 #define IDC_pbCancel IDCANCEL

@@ -10,9 +10,12 @@
 #include "com/error_info.h"
 #include "com/object_call.h"
 #include "platform/win32/jpeg_file.h"
+#include "qsymbol/dialog/access_keys.h"
 #include "qsymbol/dialog/dialog_texts.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace dialog {
 
@@ -31,6 +34,7 @@ struct ReplaceableCaption {
 };
 constexpr ReplaceableCaption kCaptions[] = {
     {0, 11001}, {IDC_Frame, 11002}, {IDC_Label, 11008}, {IDC_pbJPG, 11009}};
+constexpr std::u16string_view kStopCaption = u"&Anhalten";
 
 } // namespace
 
@@ -113,9 +117,7 @@ void frmSymSelect::OnCommand(int control, int notification) {
 void frmSymSelect::Form_Load() {
     Handle(u"frmSymSelect.Form_Load", [&] {
         FollowResolutionItself(window_);
-        for (const ReplaceableCaption& caption : kCaptions)
-            if (const std::u16string text = services_.strings.LoadResString(caption.string); !text.empty())
-                SetWindowText(caption.control == 0 ? window_ : Control(caption.control), text);
+        SetCaptions();
         list_.Attach(Control(IDC_lbSymbole));
         view_.Attach(window_);
         Measure();
@@ -124,8 +126,37 @@ void frmSymSelect::Form_Load() {
     });
 }
 
+/// What the resource library says comes first, also in its access keys; those of the designed captions give way.
+void frmSymSelect::SetCaptions() {
+    std::vector<int> controls;
+    std::vector<std::u16string> captions;
+    for (const auto& [control, string] : kCaptions) {
+        const std::u16string text = services_.strings.LoadResString(string);
+        if (control == 0 && !text.empty()) {
+            SetWindowText(window_, text);
+        } else if (!text.empty()) {
+            controls.push_back(control);
+            captions.push_back(text);
+        }
+    }
+    constexpr int kStop = -1; // the export button, while an export runs
+    for (const int control : {IDC_Frame, IDC_Label, IDC_pbJPG, kStop, IDC_pbCancel}) {
+        if (std::find(controls.begin(), controls.end(), control) != controls.end())
+            continue;
+        controls.push_back(control);
+        captions.push_back(control == kStop ? std::u16string(kStopCaption) : WindowText(Control(control)));
+    }
+    qsymbol::MakeAccessKeysUnique(captions);
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        if (controls[i] == kStop)
+            stopCaption_ = captions[i];
+        else
+            SetWindowText(Control(controls[i]), captions[i]);
+    }
+}
+
 void frmSymSelect::Measure() {
-    arrangement_.Prepare(window_, {WindowText(Control(IDC_pbJPG)), kStopCaption},
+    arrangement_.Prepare(window_, {WindowText(Control(IDC_pbJPG)), stopCaption_},
                          qsymbol::ProgressText(kManyEntries, kManyEntries));
 }
 
@@ -154,6 +185,7 @@ void frmSymSelect::SetSymColl(std::u16string_view oldName) {
         list_.Select(old < 0 ? 0 : old);
         lbSymbole_Click();
     });
+    EnableWindow(Control(IDC_pbJPG), list_.Names().empty() ? FALSE : TRUE);
 }
 
 void frmSymSelect::lbSymbole_Click() {
@@ -218,22 +250,26 @@ void frmSymSelect::pbJPG_Click() {
     stop_ = false;
     constexpr std::u16string_view kSource = u"CSymbolColl.SelectSymDlg";
     Handle(kSource, [&] {
-        const ExportDisplay display(window_, list_.Names().size());
+        const ExportDisplay display(window_, list_.Names().size(), stopCaption_);
+        std::size_t saved = 0;
         // An error is shown while the display still tells the entry.
-        Handle(kSource, [&] { ExportAll(display); });
+        Handle(kSource, [&] { ExportAll(display, saved); });
+        if (!ended_ && window_ != nullptr)
+            display.Close(qsymbol::SavedText(saved, folder_));
     });
     exporting_ = false;
     if (!ended_ && window_ != nullptr)
         lbSymbole_Click(); // what is shown is again what is selected
 }
 
-void frmSymSelect::ExportAll(const ExportDisplay& display) {
+void frmSymSelect::ExportAll(const ExportDisplay& display, std::size_t& saved) {
     const std::size_t count = list_.Names().size();
     for (std::size_t i = 0; i < count; ++i) {
         display.Tell(i + 1);
         if (!ShowForExport(static_cast<int>(i)))
             return;
         SavePicture(list_.Names()[i]);
+        ++saved;
         if (!ProcessPendingMessages(window_) || !ExportGoesOn())
             return;
     }

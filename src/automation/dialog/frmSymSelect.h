@@ -29,6 +29,7 @@ private:
     void OnCommand(int control, int notification);
 
     void Form_Load();
+    void SetCaptions();
     void Form_Unload();
     void SetSymColl(std::u16string_view oldName);
     void lbSymbole_Click();
@@ -42,7 +43,8 @@ private:
     void Arrange();
     void Measure();
     void SetResolution(const RECT& place);
-    void ExportAll(const ExportDisplay& display);
+    /// saved: how many pictures are, at any time.
+    void ExportAll(const ExportDisplay& display, std::size_t& saved);
     /// False when the export is to end.
     bool ShowForExport(int entry);
     void SavePicture(const std::u16string& name) const;
@@ -58,6 +60,7 @@ private:
     com::ComPtr<_CSymbolColl> catalogue_;
     std::u16string_view oldName_;
     std::u16string result_;
+    std::u16string stopCaption_; ///< of the export button, while an export runs and it stops it
 
     HWND window_ = nullptr;
     Arrangement arrangement_;

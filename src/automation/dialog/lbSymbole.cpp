@@ -1,6 +1,7 @@
 #include "automation/dialog/lbSymbole.h"
 
 #include "automation/dialog/dialog_font.h"
+#include "automation/dialog/painting_pause.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
 #include "com/object_call.h"
@@ -12,21 +13,6 @@
 namespace dialog {
 
 namespace {
-
-/// Keeps a window from painting while it is filled.
-class PaintingPause {
-public:
-    explicit PaintingPause(HWND window) : window_(window) { SendMessageW(window_, WM_SETREDRAW, FALSE, 0); }
-    PaintingPause(const PaintingPause&) = delete;
-    PaintingPause& operator=(const PaintingPause&) = delete;
-    ~PaintingPause() {
-        SendMessageW(window_, WM_SETREDRAW, TRUE, 0);
-        InvalidateRect(window_, nullptr, TRUE);
-    }
-
-private:
-    HWND window_;
-};
 
 com::ComPtr<IEnumVARIANT> Enumerator(_CSymbolColl& catalogue) {
     const auto unknown = com::Get(catalogue, &_CSymbolColl::get_NewEnum);
@@ -44,6 +30,32 @@ std::u16string NameOf(const VARIANT& item) {
 }
 
 } // namespace
+
+void lbSymbole::Attach(HWND list) {
+    list_ = list;
+    SetWindowLongPtrW(list_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    ownProcedure_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(list_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+}
+
+/// The list box itself goes by the last letter alone.
+LRESULT CALLBACK lbSymbole::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* const self = reinterpret_cast<lbSymbole*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == WM_CHAR && wParam >= L' ') {
+        self->Type(static_cast<char16_t>(wParam));
+        return 0;
+    }
+    return CallWindowProcW(self->ownProcedure_, window, message, wParam, lParam);
+}
+
+void lbSymbole::Type(char16_t letter) {
+    const int entry = typed_.Add(letter, GetTickCount64(), names_, Selected());
+    if (entry < 0 || entry == Selected())
+        return;
+    SendMessageW(list_, LB_SETCURSEL, static_cast<WPARAM>(entry), 0);
+    SendMessageW(GetParent(list_), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list_), LBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(list_));
+}
 
 void lbSymbole::Clear() {
     SendMessageW(list_, LB_RESETCONTENT, 0, 0);

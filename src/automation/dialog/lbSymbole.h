@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qsymbol/dialog/type_ahead.h"
+
 #include <QSymbol.h>
 
 #include <string>
@@ -11,7 +13,8 @@ namespace dialog {
 /// The list box with the names of a catalogue, in its order.
 class lbSymbole {
 public:
-    void Attach(HWND list) { list_ = list; }
+    /// Takes the typed letters of the list box, whose user data it keeps.
+    void Attach(HWND list);
 
     /// Replaces the entries by the names of all symbols. What a failing symbol leaves undone is left out.
     void Fill(_CSymbolColl& catalogue);
@@ -24,11 +27,15 @@ public:
     int Selected() const;
 
 private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void Type(char16_t letter);
     void Add(std::u16string name);
     void Clear();
     void FitScrolling() const;
 
     HWND list_ = nullptr;
+    WNDPROC ownProcedure_ = nullptr;
+    qsymbol::TypeAhead typed_;
     std::vector<std::u16string> names_;
 };
 

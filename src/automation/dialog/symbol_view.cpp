@@ -1,6 +1,7 @@
 #include "automation/dialog/symbol_view.h"
 
 #include "automation/dialog/control_ids.h"
+#include "automation/dialog/painting_pause.h"
 #include "automation/dialog/window_text.h"
 #include "com/object_call.h"
 #include "qsymbol/dialog/dialog_layout.h"
@@ -24,6 +25,9 @@ void SymbolView::Attach(HWND dialog) {
 
 bool SymbolView::Show(const com::ComPtr<_CSymbol>& symbol) {
     const unsigned show = ++shows_;
+    // Emptied and filled again without a glimpse of the emptiness.
+    const PaintingPause width(width_);
+    const PaintingPause height(height_);
     pict_->Clear();
     InvalidateRect(preview_, nullptr, FALSE);
     SetWindowText(width_, {});

@@ -115,6 +115,7 @@ void PlaceRow(const Grid& grid, const DialogMeasures& measures, std::int32_t rig
     const std::int32_t textHeight = grid.Y(kTextHeight);
     places.progressText =
         At(barLeft + bar + grid.X(kRelatedGap), inMiddle(textHeight), measures.progressText, textHeight);
+    places.saved = At(barLeft, inMiddle(textHeight), places.ok.left - grid.X(kRowGap) - barLeft, textHeight);
 }
 
 std::int32_t Fitted(std::int32_t wanted, std::int32_t size, std::int32_t from, std::int32_t to) {

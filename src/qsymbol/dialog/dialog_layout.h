@@ -43,6 +43,7 @@ struct DialogPlaces {
     qmath::Rect exportButton;
     qmath::Rect progress;
     qmath::Rect progressText;
+    qmath::Rect saved; ///< what came of an export, in place of bar and text
     qmath::Rect ok;
     qmath::Rect cancel;
 };

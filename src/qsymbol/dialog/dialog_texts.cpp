@@ -5,6 +5,15 @@
 
 namespace qsymbol {
 
+namespace {
+
+std::u16string Decimal(std::size_t number) {
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
+}
+
+} // namespace
+
 SelectionRequest ParseSelectionRequest(std::u16string_view text) {
     constexpr std::u16string_view kSeparator = u"+";
     return {.name = std::u16string(qmath::GetToken(text, kSeparator, 1)),
@@ -25,9 +34,15 @@ std::u16string SizeText(std::int32_t length, double unitFactor, std::u16string_v
 }
 
 std::u16string ProgressText(std::size_t current, std::size_t count) {
-    const std::string from = std::to_string(current);
-    const std::string to = std::to_string(count);
-    return std::u16string(from.begin(), from.end()) + u" von " + std::u16string(to.begin(), to.end());
+    return Decimal(current) + u" von " + Decimal(count);
+}
+
+std::u16string SavedText(std::size_t count, std::u16string_view folder) {
+    if (count == 0)
+        return u"Kein Bild gespeichert";
+    std::u16string text = Decimal(count) + (count == 1 ? u" Bild in " : u" Bilder in ");
+    text += folder.empty() ? u"\\" : folder;
+    return text + u" gespeichert";
 }
 
 std::u16string PicturePath(std::u16string_view folder, std::u16string_view name) {

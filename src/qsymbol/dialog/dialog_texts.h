@@ -24,6 +24,9 @@ std::u16string SizeText(std::int32_t length, double unitFactor, std::u16string_v
 /// How far a run over many entries is, as in "12 von 95".
 std::u16string ProgressText(std::size_t current, std::size_t count);
 
+/// What came of an export, as in "95 Bilder in C:\\Bilder gespeichert".
+std::u16string SavedText(std::size_t count, std::u16string_view folder);
+
 /// The file that the picture of an entry is written to. An empty folder is the root of the current drive.
 std::u16string PicturePath(std::u16string_view folder, std::u16string_view name);
 

@@ -15,7 +15,7 @@ class Captions : public support::AutomationTest {};
 
 TEST_F(Captions, AreBuiltInWithoutAResourceLibrary) {
     EXPECT_THAT(HostProgram(L"Planer.exe").Run(L"captions"),
-                ElementsAre("Symbol auswählen", "Vorschau", "&Symbole:", "Als &JPEG speichern",
+                ElementsAre("Symbol auswählen", "Vorschau", "&Symbole:", "Alle als &JPEG speichern",
                             "Breite:", "Höhe:", "OK", "Ab&brechen", "fits"));
 }
 
@@ -25,14 +25,14 @@ TEST_F(Captions, ComeFromTheResourceLibraryFirst) {
     EXPECT_THAT(host.Run(L"captions"),
                 ElementsAre("Zeichen wählen", "Ansicht des Zeichens",
                             "&Zeichen im Katalog:", "Alle Zeichen als &Bilder in den Ordner schreiben",
-                            "Breite:", "Höhe:", "OK", "Ab&brechen", "fits"));
+                            "Breite:", "Höhe:", "OK", "Abb&rechen", "fits"));
 }
 
 TEST_F(Captions, AnEmptyOrMissingStringLeavesTheDesignedOne) {
     const HostProgram host(L"Planer.exe");
     host.AddResources(L"partial");
     EXPECT_THAT(host.Run(L"captions"),
-                ElementsAre("Symbol auswählen", "Vorschau", "Nur die Liste", "Als &JPEG speichern",
+                ElementsAre("Symbol auswählen", "Vorschau", "Nur die Liste", "Alle als &JPEG speichern",
                             "Breite:", "Höhe:", "OK", "Ab&brechen", "fits"));
 }
 

@@ -108,10 +108,12 @@ TEST_F(Exporting, WritesOverOldPictures) {
     EXPECT_TRUE(ReadJpeg(folder / L"Bett.JPG").isJpeg);
 }
 
-TEST_F(Exporting, AnEmptyListWritesNothing) {
+TEST_F(Exporting, AnEmptyListHasNothingToWrite) {
     const MessageBoxes none;
-    user.Press(kExport);
-    user.Do([](const SelectionDialog& dialog) { EXPECT_FALSE(Runs(dialog)); });
+    user.Do([](const SelectionDialog& dialog) {
+        EXPECT_FALSE(dialog.IsEnabled(kExport));
+        EXPECT_FALSE(dialog.IsShown(kSaved));
+    });
     user.Press(IDCANCEL);
     EXPECT_EQ(ChooseWithFolder(), L"");
     EXPECT_THAT(folder.Files(), IsEmpty());
@@ -127,11 +129,53 @@ TEST_F(Exporting, LeavesTheSelectionAndShowsItAgain) {
         EXPECT_EQ(dialog.SelectedEntry(), L"Symbol 3");
         EXPECT_EQ(dialog.Text(kWidth).substr(0, 2), L"20");
         EXPECT_TRUE(dialog.IsEnabled(IDOK));
-        EXPECT_EQ(dialog.Text(kExport), L"Als &JPEG speichern");
+        EXPECT_EQ(dialog.Text(kExport), L"Alle als &JPEG speichern");
     });
     user.Press(IDOK);
     EXPECT_EQ(ChooseWithFolder(L"Symbol 3"), L"Symbol 3");
     EXPECT_EQ(folder.Files().size(), 6U);
+}
+
+/// Stands before a dialog and counts how often its width is painted while it is empty.
+class PaintingsOfNothing {
+public:
+    static void WatchOver(HWND dialog) {
+        count = 0;
+        procedure = reinterpret_cast<WNDPROC>(
+            SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(OnMessage)));
+    }
+    static inline int count = 0;
+
+private:
+    static LRESULT CALLBACK OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+        const auto control = reinterpret_cast<HWND>(lParam);
+        if (message == WM_CTLCOLORSTATIC && GetDlgCtrlID(control) == kWidth &&
+            GetWindowTextLengthW(control) == 0)
+            ++count;
+        return CallWindowProcW(procedure, window, message, wParam, lParam);
+    }
+    static inline WNDPROC procedure = nullptr;
+};
+
+TEST_F(Exporting, DoesNotBlinkAndTellsAtItsEndWhatItDid) {
+    const MessageBoxes none;
+    AddMany(20);
+    user.Do([](const SelectionDialog& dialog) {
+        EXPECT_TRUE(dialog.IsEnabled(kExport));
+        PaintingsOfNothing::WatchOver(dialog.Window());
+    });
+    user.Press(kExport);
+    Finish();
+    user.Do([&](const SelectionDialog& dialog) {
+        EXPECT_TRUE(dialog.IsShown(kSaved));
+        EXPECT_FALSE(dialog.IsShown(kProgressText));
+        EXPECT_EQ(dialog.Text(kSaved), L"20 Bilder in " + folder.Path() + L" gespeichert");
+        EXPECT_GT(dialog.Place(kSaved).left, dialog.Place(kExport).right);
+        EXPECT_LT(dialog.Place(kSaved).right, dialog.Place(IDOK).left);
+    });
+    user.Press(IDCANCEL);
+    EXPECT_EQ(ChooseWithFolder(), L"");
+    EXPECT_EQ(PaintingsOfNothing::count, 0);
 }
 
 TEST_F(Exporting, TellsHowFarItIs) {
@@ -183,7 +227,7 @@ TEST_F(EndingAnExport, TheStopButtonLeavesTheDialogOpen) {
     std::size_t stopped = 0;
     user.Do([&](const SelectionDialog& dialog) {
         stopped = folder.Files().size();
-        EXPECT_EQ(dialog.Text(kExport), L"Als &JPEG speichern");
+        EXPECT_EQ(dialog.Text(kExport), L"Alle als &JPEG speichern");
         EXPECT_EQ(dialog.SelectedEntry(), L"Symbol 2");
     });
     user.Press(IDOK);
@@ -276,7 +320,8 @@ TEST_F(Exporting, AFolderThatIsMissingStopsAtTheFirstEntry) {
     Finish();
     user.Do([](const SelectionDialog& dialog) {
         EXPECT_TRUE(dialog.IsEnabled(IDOK));
-        EXPECT_EQ(dialog.Text(kExport), L"Als &JPEG speichern");
+        EXPECT_EQ(dialog.Text(kExport), L"Alle als &JPEG speichern");
+        EXPECT_EQ(dialog.Text(kSaved), L"Kein Bild gespeichert");
     });
     user.Press(IDOK);
     EXPECT_EQ(Choose(L"Tisch+" + missing), L"Tisch");

@@ -108,7 +108,7 @@ TEST_F(Layout, GermanCaptions) {
         EXPECT_EQ(dialog.Text(kFrame), L"Vorschau");
         EXPECT_EQ(dialog.Text(kWidthLabel), L"Breite:");
         EXPECT_EQ(dialog.Text(kHeightLabel), L"Höhe:");
-        EXPECT_EQ(dialog.Text(kExport), L"Als &JPEG speichern");
+        EXPECT_EQ(dialog.Text(kExport), L"Alle als &JPEG speichern");
         EXPECT_EQ(dialog.Text(IDOK), L"OK");
         EXPECT_EQ(dialog.Text(IDCANCEL), L"Ab&brechen");
     });

@@ -93,6 +93,17 @@ TEST_F(Selecting, TheKeyboardMovesThroughTheList) {
     EXPECT_EQ(Choose(), L"Tisch");
 }
 
+TEST_F(Selecting, SeveralLettersLeadToAnEntry) {
+    Add({L"Bett", L"Tisch", L"Tür", L"Tür rechts"});
+    user.Do([](const SelectionDialog& dialog) { dialog.Type(L"tÜR r"); });
+    user.Do([](const SelectionDialog& dialog) {
+        EXPECT_EQ(dialog.SelectedEntry(), L"Tür rechts");
+        EXPECT_EQ(dialog.Text(support::kWidth).substr(0, 2), L"20") << "and it is shown";
+    });
+    user.Press(IDOK);
+    EXPECT_EQ(Choose(), L"Tür rechts");
+}
+
 TEST_F(Selecting, AClickSelectsAndOkAccepts) {
     Add({L"Bett", L"Tisch", L"Tür"});
     user.Do([](const SelectionDialog& dialog) { dialog.ClickEntry(2); });

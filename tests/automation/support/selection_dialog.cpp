@@ -97,6 +97,11 @@ void SelectionDialog::AccessKey(wchar_t letter) const {
     PostMessageW(GetFocus(), WM_SYSCHAR, letter, 0x20000001);
 }
 
+void SelectionDialog::Type(const std::wstring& letters) const {
+    for (const wchar_t letter : letters)
+        PostMessageW(GetFocus(), WM_CHAR, letter, 1);
+}
+
 LPARAM SelectionDialog::PlaceOfEntry(int entry) const {
     RECT item{};
     SendMessageW(Control(kList), LB_SETTOPINDEX, static_cast<WPARAM>(entry), 0);

@@ -19,6 +19,7 @@ inline constexpr int kHeight = 1008;
 inline constexpr int kExport = 1009;
 inline constexpr int kProgress = 1010;
 inline constexpr int kProgressText = 1011;
+inline constexpr int kSaved = 1012;
 
 /// The open selection dialog, reached as a program for the blind or for tests reaches it: by window messages.
 class SelectionDialog {
@@ -50,6 +51,7 @@ public:
     void Press(int id) const;
     void Key(WORD key) const;
     void AccessKey(wchar_t letter) const;
+    void Type(const std::wstring& letters) const;
     void ClickEntry(int entry) const;
     void DoubleClickEntry(int entry) const;
     void Close() const { PostMessageW(window_, WM_CLOSE, 0, 0); }

@@ -66,6 +66,8 @@ void ExpectInOrder(const DialogMeasures& measures, DialogSize client) {
     const Rect whole{0, 0, std::max(client.width, minimum.width), std::max(client.height, minimum.height)};
     const auto controls = Controls(places);
     EXPECT_TRUE(Inside(places.frame, whole));
+    EXPECT_TRUE(Inside(places.progressText, places.saved)) << "the line that stays has room of both";
+    EXPECT_FALSE(Overlap(places.saved, places.exportButton) || Overlap(places.saved, places.ok));
     for (const auto& [name, rect] : controls) {
         EXPECT_LT(rect.left, rect.right) << name;
         EXPECT_LT(rect.top, rect.bottom) << name;

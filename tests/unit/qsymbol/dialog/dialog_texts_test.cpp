@@ -36,6 +36,12 @@ TEST(ProgressText, CountsFromOne) {
     EXPECT_EQ(qsymbol::ProgressText(12, 95), u"12 von 95");
 }
 
+TEST(SavedText, NamesNumberAndFolder) {
+    EXPECT_EQ(qsymbol::SavedText(95, u"C:\\Bilder"), u"95 Bilder in C:\\Bilder gespeichert");
+    EXPECT_EQ(qsymbol::SavedText(1, u""), u"1 Bild in \\ gespeichert");
+    EXPECT_EQ(qsymbol::SavedText(0, u"C:"), u"Kein Bild gespeichert");
+}
+
 TEST(SizeText, HasTwoDecimals) {
     EXPECT_EQ(SizeText(220000, 100, u","), u"2200,00");
     EXPECT_EQ(SizeText(5, 100, u"."), u"0.05");

@@ -1,0 +1,96 @@
+"""Symbols come from the palette into the plan: found, clicked, dragged, by keys alone; favourites and recent ones on top."""
+
+from checks import require, require_symbol
+from editor import ROOM, Editor, copy_of, symbols_of
+
+FILTER = (100, 18)  # from the palette's left top
+FIRST = (58, 138)  # the middle of the first tile; the next one is beside it
+SECOND = (170, 138)
+
+
+def run():
+    with Editor(copy_of(ROOM)) as editor:
+
+        def point_at(place):
+            editor.desktop.move(editor.window[0] + place[0], editor.area[1] + place[1])
+
+        def click(place):
+            point_at(place)
+            editor.desktop.click()
+
+        def expect(name):
+            """A symbol is being placed; it is given up again."""
+            editor.wait_for_hint(f"{name}: Klick setzt")
+            editor.key("Escape")
+            editor.wait_for_hint("markiert Symbole")
+
+        # Typed, taken with Enter, placed with a click.
+        editor.save_picture("opened")
+        click(FILTER)
+        editor.desktop.type("zeile kuche")
+        editor.save_picture("found")
+        editor.key("Return")
+        editor.wait_for_hint("Küchenzeile: Klick setzt")
+        target = editor.pixel(2000, 1500)
+        editor.click_at(target)
+        editor.wait_for_count("5 Symbole")
+        editor.key("Escape")
+
+        # The filter stays until Esc; then the recent symbol stands first.
+        click(FILTER)
+        editor.key("BackSpace")
+        editor.desktop.type("qqq")
+        editor.save_picture("nothing")
+        editor.key("Escape")
+        click(FIRST)
+        expect("Küchenzeile")
+
+        # By keys: to the list, a favourite, then the favourites stand first.
+        click(FILTER)
+        editor.desktop.type("stuhl")
+        editor.key("Down", "Right", "space", "Escape", "Home", "Return")
+        expect("Liegestuhl")
+        editor.save_picture("favourite")
+        click(FILTER)
+        editor.key("Down", "Menu", "Down", "Down", "Return")
+        editor.key("Home", "Return")
+        expect("Küchenzeile")
+
+        # A category, and a letter typed in the list goes to the filter.
+        click(FILTER)
+        editor.key("Tab", "z", "Tab", "Down", "Right", "Return")
+        expect("Maßstab")
+        click(SECOND)
+        expect("Maßstab")
+        click(FILTER)
+        editor.key("Tab", "a", "Tab", "Down")
+        editor.desktop.type("grill")
+        editor.key("Return")
+        expect("Grill")
+
+        # Dragged: placed where it is let go, and nowhere when that is not in the plan.
+        point_at(FIRST)
+        editor.desktop.press()
+        point_at((FIRST[0] + 20, FIRST[1] + 30))
+        editor.desktop.move(editor.area[0] + 300, editor.area[1] + 300)
+        editor.wait_for_hint("Grill")
+        end = editor.pixel(1500, 3000)
+        editor.point_at(end)
+        editor.save_picture("dragging")
+        editor.desktop.release()
+        editor.wait_for_count("6 Symbole")
+        editor.key("Escape")
+        point_at(FIRST)
+        editor.desktop.press()
+        point_at((FIRST[0] + 20, FIRST[1] + 30))
+        editor.wait_for_hint("Grill")
+        editor.desktop.release()
+        editor.wait_for_hint("markiert Symbole")
+        editor.wait_for_count("6 Symbole")
+
+        editor.save()
+        placed = symbols_of(editor.plan)[4:]
+        require(len(placed) == 2, "placed", placed)
+        require_symbol(placed[0], "Küchenzeile", editor.place(target), 0)
+        require_symbol(placed[1], "Grill", editor.place(end), 0)
+        editor.quit()
