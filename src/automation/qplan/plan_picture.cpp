@@ -9,6 +9,8 @@
 #include "qplan/draw/sheet_drawing.h"
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace {
 
@@ -87,7 +89,9 @@ void WritePlanPicture(const qplan::Plan& plan, std::int32_t width, const std::u1
         base::Raise(base::RunTimeError::InvalidCall);
     const Frame frame = FrameOf(plan);
     const double scale = frame.width / width;
-    const std::int32_t height = std::max(base::RoundToLong(frame.height / scale), 1);
+    // What is too high for any memory is told so by the picture.
+    const double fits = std::min<double>(frame.height / scale, std::numeric_limits<std::int32_t>::max());
+    const std::int32_t height = std::max(base::RoundToLong(fits), 1);
     const com::ComPtr<_CTrans> trans = math_objects::NewTrans(scale);
     com::Call(*trans, &_CTrans::SetOffsetX, base::RoundToLong(frame.left));
     com::Call(*trans, &_CTrans::SetOffsetY, base::RoundToLong(frame.top));

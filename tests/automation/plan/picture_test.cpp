@@ -164,6 +164,28 @@ TEST_F(Picture, ShowsWhatAPictureBoxShows) {
     }
 }
 
+TEST_F(Picture, ServesPreviewsAndPlacingTools) {
+    const Ref<_CPicture> picture = NewPicture();
+    const auto symbol = support::NewSymbol(0, 0, 1210, 970, kElements);
+    EXPECT_OK(symbol->Draw2PBox(picture.Get()));
+    LONG colour = 0;
+    EXPECT_OK(picture->get_Pixel(5, 3, &colour));
+    EXPECT_EQ(colour, 0x00AAFF);
+    EXPECT_OK(picture->Clear());
+    const auto blank = PixelsOf(picture);
+    const auto catalogue = support::Create<CSymbolColl, _CSymbolColl>();
+    EXPECT_OK(symbol->put_FilePath(Bstr(L"Vorschau.syb")));
+    EXPECT_OK(catalogue->Append(symbol.Get()));
+    Ref<_CSymInput> input;
+    ASSERT_OK(catalogue->GetSymInput(Bstr(L"Vorschau"), input.Put()));
+    const auto trans = support::NewTrans(2);
+    EXPECT_OK(input->SetOldLogPos(0, 0));
+    EXPECT_OK(input->MouseMove(30, 40, picture.Get(), trans.Get()));
+    EXPECT_NE(PixelsOf(picture), blank);
+    EXPECT_OK(input->Draw(picture.Get(), trans.Get()));
+    EXPECT_EQ(PixelsOf(picture), blank) << "the image is taken away whole, the guide line too";
+}
+
 TEST_F(Picture, IsAPictureObject) {
     const Ref<_CPicture> picture = NewPicture();
     DrawOn(picture.Get());

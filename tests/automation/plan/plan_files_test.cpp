@@ -218,6 +218,9 @@ TEST_F(PlanFiles, APictureNeedsAWidthAFormatAndSomethingToShow) {
     EXPECT_EQ(write(L"a.png", 0), Error(5));
     EXPECT_EQ(write(L"a.tif", 100), Error(5));
     EXPECT_EQ(write(L"a.bmp", 0x7FFFFFFF), Error(7));
+    support::WriteBytes(folder / L"ein.plan", "PLAN;Turm;1;9000000\n");
+    ASSERT_OK(plan->ReadFromFile(Bstr(folder / L"ein.plan")));
+    EXPECT_EQ(write(L"a.bmp", 100000), Error(7));
     EXPECT_EQ(folder.Files().size(), 1U) << "the plan alone";
     ASSERT_OK(plan->Clear());
     Add(L"C", 0, 0); // flat
