@@ -90,6 +90,7 @@ function(add_floor folder)
   add_library(${name} STATIC ${sources})
   set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX POSITION_INDEPENDENT_CODE ON)
   stand_on_floors(${name} ${folder})
+  join_floor(${name})
 endfunction()
 
 # use_floors(TARGET PUBLIC|PRIVATE folder…): links floors into a target outside of the list, with the headers of what

@@ -18,7 +18,7 @@ if(MSVC AND (QSYMBOL_SANITIZE OR QSYMBOL_TSAN OR QSYMBOL_FUZZ))
 endif()
 if(QSYMBOL_SANITIZE)
   target_compile_options(qsymbol_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-                         -fno-omit-frame-pointer -O1)
+                         -fno-omit-frame-pointer)
   target_link_options(qsymbol_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(QSYMBOL_TSAN)

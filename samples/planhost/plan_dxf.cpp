@@ -13,9 +13,9 @@ namespace {
 
 constexpr double kMillimetresPerUnit = 10;
 // Millimetres in the plan; letters of a DXF text are as tall as its height.
-constexpr double kLabelHeight = 160;
-constexpr double kTitleHeight = 240;
-constexpr double kTitleMargin = 700;
+constexpr double kRoomNameHeight = 160;
+constexpr double kSheetTitleHeight = 240;
+constexpr double kSheetTitleMargin = 700;
 
 /// The library writes lengths / 100000, which makes hundredths of a millimetre metres, and the size of a font
 /// in points / 30. Thirty points are about a centimetre: with everything a hundred times as large, lengths
@@ -60,11 +60,11 @@ void WriteWalls(const Plan& plan, DxfFile& file) {
 
 void WriteTitleAndLabels(const Plan& plan, DxfFile& file) {
     const auto at = [&](double x, double y) { return InFile(plan, {x, y}); };
-    file.Text("RAEUME", at(kTitleMargin, kTitleMargin - kTitleHeight / 2), kTitleHeight / kMillimetresPerUnit,
-              plan.title, false);
+    file.Text("RAEUME", at(kSheetTitleMargin, kSheetTitleMargin - kSheetTitleHeight / 2),
+              kSheetTitleHeight / kMillimetresPerUnit, plan.title, false);
     for (const Room& room : plan.rooms)
-        file.Text("RAEUME", at(room.middle.x, room.middle.y + kLabelHeight / 2),
-                  kLabelHeight / kMillimetresPerUnit, room.name, true);
+        file.Text("RAEUME", at(room.middle.x, room.middle.y + kRoomNameHeight / 2),
+                  kRoomNameHeight / kMillimetresPerUnit, room.name, true);
 }
 
 } // namespace

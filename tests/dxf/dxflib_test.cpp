@@ -4,6 +4,7 @@
 #include "dxf/dxflib_collector.h"
 #include "qsymbol/export/dxf_export.h"
 #include "qsymbol/files/symbol_file.h"
+#include "support/in_sources.h"
 #include "support/sample_symbols.h"
 #include "support/temp_folder.h"
 #include "support/test_environment.h"
@@ -124,7 +125,7 @@ TEST_F(Dxflib, ReadsEverySymbolOfTheCatalogue) {
     const Placed placed{.at = {700000, 1200000}, .angle = 0.7, .factor = 1.3, .mirror = 2000000};
     std::vector<Symbol> symbols;
     for (const auto& entry :
-         std::filesystem::recursive_directory_iterator(QSYMBOL_SOURCE_DIR "/samples/katalog")) {
+         std::filesystem::recursive_directory_iterator(support::InSources("samples/katalog"))) {
         if (entry.path().extension() != ".syt")
             continue;
         Symbol& symbol = symbols.emplace_back();

@@ -18,14 +18,14 @@ constexpr int kTypeMismatch = 13;
 constexpr int kOverflow = 6;
 
 /// A value or the number of an error.
-struct Outcome {
+struct NumberOrError {
     double value = 0;
     int error = 0;
 
-    friend bool operator==(const Outcome&, const Outcome&) = default;
+    friend bool operator==(const NumberOrError&, const NumberOrError&) = default;
 };
 
-Outcome OutcomeOf(const std::function<double()>& read) {
+NumberOrError NumberOf(const std::function<double()>& read) {
     try {
         return {read(), 0};
     } catch (const base::Error& error) {
@@ -72,39 +72,39 @@ std::optional<std::string> Normalised(std::string text, const base::RegionalSett
     return plain + exponent;
 }
 
-Outcome SlowDecimal(std::string_view text, const base::RegionalSettings& settings) {
+NumberOrError SlowDecimal(std::string_view text, const base::RegionalSettings& settings) {
     const std::optional<std::string> plain = Normalised(std::string(text), settings);
     if (!plain)
         return {0, kTypeMismatch};
     const double value = std::strtod(plain->c_str(), nullptr);
-    return std::isfinite(value) ? Outcome{value, 0} : Outcome{0, kOverflow};
+    return std::isfinite(value) ? NumberOrError{value, 0} : NumberOrError{0, kOverflow};
 }
 
-Outcome Rounded(Outcome number, double factor, double lowest, double highest) {
+NumberOrError Rounded(NumberOrError number, double factor, double lowest, double highest) {
     if (number.error != 0)
         return number;
     const double whole = std::nearbyint(number.value * factor);
-    return whole >= lowest && whole <= highest ? Outcome{whole + 0.0, 0} : Outcome{0, kOverflow};
+    return whole >= lowest && whole <= highest ? NumberOrError{whole + 0.0, 0} : NumberOrError{0, kOverflow};
 }
 
 std::string Disagreement(std::string_view text, const base::RegionalSettings& settings) {
     const base::NumberReader reader(settings);
-    const Outcome decimal = SlowDecimal(text, settings);
-    const Outcome read = OutcomeOf([&] { return reader.Decimal(text); });
+    const NumberOrError decimal = SlowDecimal(text, settings);
+    const NumberOrError read = NumberOf([&] { return reader.Decimal(text); });
     if (read != decimal || std::signbit(read.value) != std::signbit(decimal.value))
         return "Decimal";
     const std::optional<double> maybe = reader.TryDecimal(text);
     if (maybe.has_value() != (decimal.error == 0) || maybe.value_or(0) != decimal.value)
         return "TryDecimal";
-    const Outcome length = Rounded(decimal, 100.0, INT32_MIN, INT32_MAX);
-    if (OutcomeOf([&] { return reader.Hundredths(text); }) != length)
+    const NumberOrError length = Rounded(decimal, 100.0, INT32_MIN, INT32_MAX);
+    if (NumberOf([&] { return reader.Hundredths(text); }) != length)
         return "Hundredths";
-    const Outcome zero = decimal.error != 0 ? Outcome() : length;
-    if (OutcomeOf([&] { return reader.HundredthsOrZero(text); }) != zero)
+    const NumberOrError zero = decimal.error != 0 ? NumberOrError() : length;
+    if (NumberOf([&] { return reader.HundredthsOrZero(text); }) != zero)
         return "HundredthsOrZero";
-    if (OutcomeOf([&] { return reader.Long(text); }) != Rounded(decimal, 1.0, INT32_MIN, INT32_MAX))
+    if (NumberOf([&] { return reader.Long(text); }) != Rounded(decimal, 1.0, INT32_MIN, INT32_MAX))
         return "Long";
-    if (OutcomeOf([&] { return reader.Integer(text); }) != Rounded(decimal, 1.0, INT16_MIN, INT16_MAX))
+    if (NumberOf([&] { return reader.Integer(text); }) != Rounded(decimal, 1.0, INT16_MIN, INT16_MAX))
         return "Integer";
     return "";
 }

@@ -19,7 +19,7 @@ bool IsReference(std::string_view name) {
 }
 
 /// A fault of text between tags or of an attribute's value.
-std::string TextFault(std::string_view text) {
+std::string CharactersFault(std::string_view text) {
     for (std::size_t at = text.find('&'); at != std::string_view::npos; at = text.find('&', at + 1)) {
         const std::size_t end = text.find(';', at);
         if (end == std::string_view::npos || !IsReference(text.substr(at + 1, end - at - 1)))
@@ -43,7 +43,8 @@ std::string AttributesFault(std::string_view rest) {
         if (names.back().find_first_of(kBlanks) != std::string_view::npos ||
             std::count(names.begin(), names.end(), names.back()) > 1)
             return "a name of an attribute";
-        if (const std::string fault = TextFault(rest.substr(equals + 2, end - equals - 2)); !fault.empty())
+        if (const std::string fault = CharactersFault(rest.substr(equals + 2, end - equals - 2));
+            !fault.empty())
             return fault;
         rest.remove_prefix(end + 1);
     }
@@ -75,7 +76,7 @@ std::string XmlFault(std::string_view text) {
     std::vector<std::string_view> open;
     while (true) {
         const std::size_t begin = std::min(text.find('<'), text.size());
-        if (const std::string fault = TextFault(text.substr(0, begin)); !fault.empty())
+        if (const std::string fault = CharactersFault(text.substr(0, begin)); !fault.empty())
             return fault;
         if (begin == text.size())
             return open.empty() ? "" : "an element without an end";

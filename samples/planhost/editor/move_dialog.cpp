@@ -46,7 +46,7 @@ void Begin(HWND dialog, const Question& question) {
     SendMessageW(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog, IDC_X)), TRUE);
 }
 
-INT_PTR CALLBACK OnMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR CALLBACK OnMoveMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrW(dialog, DWLP_USER, lParam);
         Begin(dialog, *reinterpret_cast<Question*>(lParam));
@@ -72,7 +72,7 @@ INT_PTR CALLBACK OnMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lPar
 
 std::optional<TypedMove> AskForMove(HWND owner, const std::wstring& name, POINT at) {
     Question question{name, at, {}};
-    if (ShowDialog(owner, IDD_MOVE, OnMessage, &question) != IDOK)
+    if (ShowDialog(owner, IDD_MOVE, OnMoveMessage, &question) != IDOK)
         return std::nullopt;
     return question.move;
 }

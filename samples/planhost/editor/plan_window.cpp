@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr wchar_t kClassName[] = L"PlanhostPlan";
+constexpr wchar_t kPlanClass[] = L"PlanhostPlan";
 constexpr UINT_PTR kDrawOnTimer = 1;
 constexpr ULONGLONG kDrawOnTime = 25; // milliseconds before the user is looked after again
 
@@ -16,12 +16,12 @@ POINT PointOf(LPARAM lParam) {
     return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
 
-void RegisterWindowClass(WNDPROC onMessage) {
+void RegisterPlanClass(WNDPROC onMessage) {
     WNDCLASSEXW form{};
     form.cbSize = sizeof form;
     form.lpfnWndProc = onMessage;
     form.hInstance = GetModuleHandleW(nullptr);
-    form.lpszClassName = kClassName;
+    form.lpszClassName = kPlanClass;
     RegisterClassExW(&form);
 }
 
@@ -29,8 +29,8 @@ void RegisterWindowClass(WNDPROC onMessage) {
 
 void PlanWindow::Create(HWND parent, Guard guard) {
     guard_ = std::move(guard);
-    RegisterWindowClass(OnMessage);
-    CreateWindowExW(0, kClassName, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 0, 0, parent, nullptr,
+    RegisterPlanClass(OnMessage);
+    CreateWindowExW(0, kPlanClass, L"", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 0, 0, parent, nullptr,
                     GetModuleHandleW(nullptr), this);
 }
 

@@ -13,7 +13,7 @@
 namespace {
 
 // Pixels of a screen of 100 %.
-constexpr int kHeight = 30;
+constexpr int kBarHeight = 30;
 constexpr int kFieldHeight = 20;
 constexpr int kGap = 6;
 
@@ -79,13 +79,13 @@ void PropertiesBar::Create(HWND parent, Apply apply, std::function<void()> leave
 }
 
 int PropertiesBar::Height(UINT dots) const {
-    return Scaled(kHeight, dots);
+    return Scaled(kBarHeight, dots);
 }
 
 void PropertiesBar::MoveTo(const RECT& area, UINT dots) {
     MoveWindow(window_, area.left, area.top, area.right - area.left, area.bottom - area.top, TRUE);
     const HFONT before = std::exchange(font_, MakeMessageFont(dots));
-    const int top = Scaled((kHeight - kFieldHeight) / 2, dots);
+    const int top = Scaled((kBarHeight - kFieldHeight) / 2, dots);
     int x = 0;
     for (std::size_t i = 0; i < Count; ++i) {
         for (const auto& [window, width] :

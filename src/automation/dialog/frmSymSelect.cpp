@@ -23,7 +23,6 @@ namespace {
 
 constexpr LONG kJpegQuality = 100;
 constexpr int kAttempts = 5;                // to show an entry while a symbol of the host shows others
-constexpr int kBorder = 1;                  // round the picture, as round the list
 constexpr std::size_t kManyEntries = 88888; // as wide as any number of entries that a list can hold well
 constexpr UINT kDpiChanged = 0x02E0;        // WM_DPICHANGED, from Windows 8.1 on
 

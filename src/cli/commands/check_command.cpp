@@ -36,7 +36,7 @@ const char* Word(Severity severity) {
     return severity == Severity::Error ? "error" : "warning";
 }
 
-Json AsJson(const std::u16string& path, const std::vector<Finding>& findings) {
+Json FindingsAsJson(const std::u16string& path, const std::vector<Finding>& findings) {
     const char* status = "ok";
     Json list = Json::array();
     for (const Finding& finding : findings) {
@@ -52,7 +52,7 @@ Json AsJson(const std::u16string& path, const std::vector<Finding>& findings) {
 }
 
 /// The file's name, and under it a line for each finding.
-std::string AsText(const std::u16string& path, const std::vector<Finding>& findings) {
+std::string FindingsAsText(const std::u16string& path, const std::vector<Finding>& findings) {
     std::string text = Shown(path);
     text += '\n';
     for (const Finding& finding : findings) {
@@ -123,9 +123,9 @@ private:
             run_.Found();
         }
         if (array_)
-            array_->Add(AsJson(path, findings));
+            array_->Add(FindingsAsJson(path, findings));
         else if (!findings.empty())
-            run_.Print(AsText(path, findings));
+            run_.Print(FindingsAsText(path, findings));
     }
 
     Run& run_;

@@ -20,27 +20,27 @@ const char* Word(qsymbol::ElementType type) {
     return kWords[index < kWords.size() ? index : 0];
 }
 
-using Kind = FieldValue::Kind;
+using ValueKind = FieldValue::Kind;
 
 Json JsonOf(const FieldValue& value) {
     switch (value.kind) {
-    case Kind::Flag: return value.flag;
-    case Kind::Number: return value.number;
-    case Kind::Decimal: return value.decimal;
-    case Kind::Text: return base::ToUtf8(value.text);
-    case Kind::Point: return {value.point.x, value.point.y};
-    case Kind::None: break;
+    case ValueKind::Flag: return value.flag;
+    case ValueKind::Number: return value.number;
+    case ValueKind::Decimal: return value.decimal;
+    case ValueKind::Text: return base::ToUtf8(value.text);
+    case ValueKind::Point: return {value.point.x, value.point.y};
+    case ValueKind::None: break;
     }
     return nullptr;
 }
 
 /// A length in millimetres, a colour as its number, a point as both coordinates in millimetres.
 std::string TextOf(const FieldValue& value, std::string_view field) {
-    if (value.kind == Kind::Number) {
+    if (value.kind == ValueKind::Number) {
         const bool isPlain = field.ends_with("Color") || field == "textAlign" || field == "textBkMode";
         return isPlain ? std::to_string(value.number) : qsymbol::Millimetres(value.number);
     }
-    if (value.kind == Kind::Point) {
+    if (value.kind == ValueKind::Point) {
         std::string text = "(";
         text.append(qsymbol::Millimetres(value.point.x))
             .append(", ")
@@ -55,9 +55,9 @@ std::string TextOf(const Change& change) {
     std::string text = change.point == 0 ? std::string(change.field) : std::string("point ");
     if (change.point != 0)
         text += std::to_string(change.point);
-    if (change.from.kind == Kind::None)
+    if (change.from.kind == ValueKind::None)
         return text.append(" added: ").append(TextOf(change.to, change.field));
-    if (change.to.kind == Kind::None)
+    if (change.to.kind == ValueKind::None)
         return text.append(" removed: ").append(TextOf(change.from, change.field));
     text.append(": ").append(TextOf(change.from, change.field));
     return text.append(" -> ").append(TextOf(change.to, change.field));

@@ -22,7 +22,7 @@ struct InfoArguments {
     bool json = false;
 };
 
-Json AsJson(const qsymbol::Symbol& symbol) {
+Json SymbolAsJson(const qsymbol::Symbol& symbol) {
     const qsymbol::SymbolSummary summary = Summarise(symbol);
     return {{"path", base::ToUtf8(symbol.filePath)},
             {"name", base::ToUtf8(Name(symbol))},
@@ -60,7 +60,8 @@ void Info(const InfoArguments& arguments, Run& run) {
     const std::vector<SourceFile> files = SymbolFiles(arguments.paths, run.options.recursive);
     if (arguments.json) {
         JsonArray array(run);
-        ForEach(files, run, [&](const SourceFile& file) { array.Add(AsJson(ReadSymbol(file.path, run))); });
+        ForEach(files, run,
+                [&](const SourceFile& file) { array.Add(SymbolAsJson(ReadSymbol(file.path, run))); });
         return;
     }
     Table table;

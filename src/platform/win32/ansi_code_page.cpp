@@ -1,6 +1,7 @@
 #include "platform/win32/ansi_code_page.h"
 
 #include "base/checked.h"
+#include "platform/wide/wide_text.h"
 
 #include <windows.h>
 
@@ -35,7 +36,7 @@ std::u16string WithoutPairs(std::u16string_view text) {
 
 /// "≤" must not become "=", nor "√" "v": without best fit. UTF-8 has every character and allows no such wish.
 std::string Encoded(std::u16string_view text, DWORD flags, const char* replacement) {
-    const auto* const source = reinterpret_cast<const wchar_t*>(text.data());
+    const wchar_t* const source = Wide(text.data());
     const int length = base::Narrow<int>(text.size());
     const int needed = WideCharToMultiByte(CP_ACP, flags, source, length, nullptr, 0, replacement, nullptr);
     std::string bytes(static_cast<std::size_t>(needed), '\0');
@@ -58,7 +59,7 @@ std::u16string AnsiCodePage::Decode(std::string_view bytes) const {
     const int length = base::Narrow<int>(bytes.size());
     const int needed = MultiByteToWideChar(CP_ACP, 0, bytes.data(), length, nullptr, 0);
     std::u16string text(static_cast<std::size_t>(needed), u'\0');
-    MultiByteToWideChar(CP_ACP, 0, bytes.data(), length, reinterpret_cast<wchar_t*>(text.data()), needed);
+    MultiByteToWideChar(CP_ACP, 0, bytes.data(), length, Wide(text.data()), needed);
     return text;
 }
 

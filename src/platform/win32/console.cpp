@@ -1,6 +1,7 @@
 #include "platform/win32/console.h"
 
 #include "base/utf8.h"
+#include "platform/wide/wide_text.h"
 
 #include <windows.h>
 
@@ -29,7 +30,7 @@ std::vector<std::string> CommandLine() {
                                                               &LocalFree);
     std::vector<std::string> arguments;
     for (int i = 1; words != nullptr && i < count; ++i)
-        arguments.push_back(base::ToUtf8(reinterpret_cast<const char16_t*>(words.get()[i])));
+        arguments.push_back(base::ToUtf8(Utf16(words.get()[i])));
     return arguments;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/win32/user_settings.h"
 
+#include "platform/wide/wide_text.h"
 #include "platform/win32/ansi_code_page.h"
 
 #include <windows.h>
@@ -18,8 +19,7 @@ std::string Separator(LCTYPE type) {
     const int length = GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, 8);
     if (length <= 1)
         return {};
-    const std::u16string_view separator(reinterpret_cast<const char16_t*>(text),
-                                        static_cast<std::size_t>(length - 1));
+    const std::u16string_view separator = Utf16({text, static_cast<std::size_t>(length - 1)});
     std::string bytes = AnsiCodePage().Encode(separator);
     return AnsiCodePage().Decode(bytes) == separator ? bytes : std::string();
 }
@@ -34,8 +34,7 @@ std::string DecimalSeparator() {
 std::optional<double> ParseAsAutomation(std::string_view text) {
     std::u16string wide = AnsiCodePage().Decode(text);
     double value = 0;
-    const HRESULT status =
-        VarR8FromStr(reinterpret_cast<wchar_t*>(wide.data()), LOCALE_USER_DEFAULT, 0, &value);
+    const HRESULT status = VarR8FromStr(Wide(wide.data()), LOCALE_USER_DEFAULT, 0, &value);
     if (status == DISP_E_OVERFLOW)
         return std::numeric_limits<double>::infinity();
     return SUCCEEDED(status) ? std::optional<double>(value) : std::nullopt;

@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "base/letter_case.h"
+#include "platform/wide/wide_text.h"
 #include "platform/win32/win32_file.h"
 
 namespace platform {
@@ -9,10 +10,6 @@ namespace platform {
 using base::RunTimeError;
 
 namespace {
-
-const wchar_t* Wide(const std::u16string& text) {
-    return reinterpret_cast<const wchar_t*>(text.c_str());
-}
 
 DWORD Attributes(const std::u16string& path) {
     return path.empty() || path.find(u'\0') != std::u16string::npos ? INVALID_FILE_ATTRIBUTES
@@ -29,8 +26,7 @@ std::u16string FullPathOf(const std::u16string& path) {
     std::u16string full(MAX_PATH, u'\0');
     for (;;) {
         const auto room = static_cast<DWORD>(full.size());
-        const DWORD length =
-            GetFullPathNameW(Wide(path), room, reinterpret_cast<wchar_t*>(full.data()), nullptr);
+        const DWORD length = GetFullPathNameW(Wide(path), room, Wide(full.data()), nullptr);
         full.resize(length);
         if (length == 0)
             return path;
@@ -150,7 +146,7 @@ std::vector<base::FolderEntry> Win32FileSystem::ListFiles(const std::u16string& 
     do {
         if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
             continue;
-        const std::u16string name(reinterpret_cast<const char16_t*>(found.cFileName));
+        const std::u16string name(Utf16(found.cFileName));
         entries.push_back({name, prefix + name});
     } while (FindNextFileW(search, &found) != FALSE);
     return entries;

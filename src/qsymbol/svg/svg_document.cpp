@@ -11,9 +11,7 @@ namespace qsymbol {
 
 namespace {
 
-constexpr double kUnitsPerMillimetre = 100;
 constexpr double kSmallestSide = 1;
-constexpr int kDecimals = 3;
 
 /// Brings a side to its least length, to both sides alike.
 void Widen(double& from, double& length) {
@@ -24,7 +22,7 @@ void Widen(double& from, double& length) {
 
 std::string Number(double value) {
     std::string text;
-    AppendShort(text, value, kDecimals);
+    AppendShort(text, value, SvgSurface::kDecimals);
     return text;
 }
 
@@ -41,7 +39,7 @@ SvgView ViewOf(const SvgSurface& surface, double emptyWidth, double emptyHeight)
     if (!bounds.IsEmpty())
         view = {bounds.Left(), bounds.Top(), bounds.Width(), bounds.Height()};
     for (double* value : {&view.left, &view.top, &view.width, &view.height})
-        *value /= kUnitsPerMillimetre;
+        *value /= SvgSurface::kUnitsPerMillimetre;
     Widen(view.left, view.width);
     Widen(view.top, view.height);
     return view;

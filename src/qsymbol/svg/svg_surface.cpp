@@ -12,10 +12,6 @@ namespace qsymbol {
 
 namespace {
 
-constexpr double kUnitsPerMillimetre = 100;
-/// Whole units have two decimals in millimetres; points on circles get one more.
-constexpr int kDecimals = 3;
-
 void AppendColour(std::string& out, std::int32_t colour) {
     constexpr std::string_view kDigits = "0123456789abcdef";
     out += '#';

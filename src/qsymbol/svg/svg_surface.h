@@ -13,6 +13,10 @@ namespace qsymbol {
 /// nothing is filled.
 class SvgSurface final : public VectorSurface {
 public:
+    static constexpr double kUnitsPerMillimetre = 100;
+    /// Whole units have two decimals in millimetres; points on circles get one more.
+    static constexpr int kDecimals = 3;
+
     /// The elements so far. They want an SvgDocument's group, or one like it, around them.
     std::string_view Elements();
     /// True when a text with an opaque background was drawn, which needs kOpaqueTextFilter.

@@ -16,14 +16,14 @@ enum class Turn {
     Direction ///< to where the first reference looks in this direction
 };
 
-struct TurningKey {
+struct PadKey {
     std::int16_t code;
     Turn turn;
     double degrees;
 };
 
 /// The numeric pad. Plus turns clockwise and minus counter-clockwise: hosts rely on it.
-constexpr std::array<TurningKey, 12> kTurningKeys{{
+constexpr std::array<PadKey, 12> kPadKeys{{
     {107, Turn::Step, -1},       // +
     {109, Turn::Step, 1},        // -
     {106, Turn::Step, -10},      // *
@@ -63,9 +63,9 @@ void SymbolTool::KeyUp(std::int16_t keyCode, DrawingTarget& target) {
 }
 
 std::optional<double> SymbolTool::AngleAfter(std::int16_t keyCode) const {
-    const auto* const key = std::find_if(kTurningKeys.begin(), kTurningKeys.end(),
-                                         [&](const TurningKey& entry) { return entry.code == keyCode; });
-    if (key == kTurningKeys.end())
+    const auto* const key = std::find_if(kPadKeys.begin(), kPadKeys.end(),
+                                         [&](const PadKey& entry) { return entry.code == keyCode; });
+    if (key == kPadKeys.end())
         return {};
     const double turn = qmath::DegToRad(key->degrees);
     return key->turn == Turn::Step ? Angle() + turn : turn - Found(references_.ItemByPos(1)).Angle();

@@ -32,7 +32,7 @@ struct Objects {
     Ref<HostTrans> trans;
 };
 
-struct Road {
+struct ObjectRoad {
     const char* name;
     bool usesBox;
     bool usesTrans;
@@ -40,7 +40,7 @@ struct Road {
 };
 
 /// Each on its object alone; what the arguments are is told, as the host's own variables are empty by then.
-const Road kRoads[] = {
+const ObjectRoad kObjectRoads[] = {
     {"CSymbol.Draw", true, true,
      [](const Objects& o, IDispatch* box, _CTrans* trans) {
          return o.symbol.Get()->Draw(0, 0, 0, box, trans, 1, 1, nullptr);
@@ -87,7 +87,7 @@ const Road kRoads[] = {
 
 class DuringACall : public drawing::DrawingTest {
 protected:
-    void Prepare(const Road& road) {
+    void Prepare(const ObjectRoad& road) {
         StartAgain();
         const std::string_view name = road.name;
         const auto is = [&](const char* beginning) { return name.starts_with(beginning); };
@@ -125,7 +125,7 @@ protected:
         return *std::find_if(std::begin(all), std::end(all), [](IUnknown* one) { return one != nullptr; });
     }
     /// The picture after the call on the first canvas, and whether the host was asked at all.
-    void Run(const Road& road, const std::function<void(const std::string& from)>& onUse) {
+    void Run(const ObjectRoad& road, const std::function<void(const std::string& from)>& onUse) {
         Prepare(road);
         box->OnAccess([&](const std::string&) { onUse("box"); });
         objects.trans->OnCall([&] { onUse("trans"); });
@@ -139,7 +139,7 @@ protected:
 };
 
 TEST_F(DuringACall, TheHostMayLetGoOfEverything) {
-    for (const Road& road : kRoads) {
+    for (const ObjectRoad& road : kObjectRoads) {
         for (const char* const place : {"box", "trans"}) {
             if (!(*place == 'b' ? road.usesBox : road.usesTrans))
                 continue;
@@ -173,7 +173,7 @@ TEST_F(DuringACall, TheHostMayLetGoOfEverything) {
 
 /// Variables that a script passes may be emptied as well.
 TEST_F(DuringACall, VariablesMayBeEmptied) {
-    Prepare(kRoads[0]);
+    Prepare(kObjectRoads[0]);
     support::Value surface(objects.box);
     support::Value trans(objects.trans);
     bool emptied = false;

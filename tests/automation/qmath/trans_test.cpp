@@ -11,8 +11,8 @@ using support::Outcome;
 using support::Ref;
 using support::RunTimeError;
 
-constexpr LONG kHighest = std::numeric_limits<LONG>::max();
-constexpr LONG kLowest = std::numeric_limits<LONG>::min();
+constexpr LONG kMost = std::numeric_limits<LONG>::max();
+constexpr LONG kLeast = std::numeric_limits<LONG>::min();
 
 class Trans : public support::AutomationTest {
 protected:
@@ -106,23 +106,23 @@ TEST_F(Trans, OverflowIsAnErrorAndLeavesThePointAlone) {
     EXPECT_EQ(y, 1073741824);
     y = -1073741824;
     EXPECT_OK(enlarging->WorldToScreen(&x, &y));
-    EXPECT_EQ(y, kLowest) << "the last one that fits";
-    LONG length = kHighest;
+    EXPECT_EQ(y, kLeast) << "the last one that fits";
+    LONG length = kMost;
     EXPECT_EQ(Outcome(enlarging->LengthToScreen(&length)), RunTimeError(6, L"QMath"));
-    EXPECT_EQ(length, kHighest);
+    EXPECT_EQ(length, kMost);
 }
 
 TEST_F(Trans, AllCoordinatesAreAllowed) {
     const Ref<_CTrans> trans = NewTrans();
-    EXPECT_EQ(ToScreen(trans, kHighest, kLowest), (POINT{kHighest, kLowest}));
+    EXPECT_EQ(ToScreen(trans, kMost, kLeast), (POINT{kMost, kLeast}));
     const Ref<_CTrans> moved = NewTrans(1, 1, 0);
-    LONG x = kLowest;
+    LONG x = kLeast;
     LONG y = 0;
     EXPECT_EQ(Outcome(moved->WorldToScreen(&x, &y)), RunTimeError(6, L"QMath"));
     // 4294967295 / 2 lies exactly between the largest number and the first that does not fit, which is even.
-    x = kHighest;
-    EXPECT_EQ(Outcome(NewTrans(2, kLowest, 0)->WorldToScreen(&x, &y)), RunTimeError(6, L"QMath"));
-    EXPECT_EQ(ToScreen(NewTrans(2, kLowest, 0), kHighest - 1, 0).x, kHighest);
+    x = kMost;
+    EXPECT_EQ(Outcome(NewTrans(2, kLeast, 0)->WorldToScreen(&x, &y)), RunTimeError(6, L"QMath"));
+    EXPECT_EQ(ToScreen(NewTrans(2, kLeast, 0), kMost - 1, 0).x, kMost);
 }
 
 TEST_F(Trans, FontSizesOverflowToo) {

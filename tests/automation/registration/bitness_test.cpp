@@ -15,8 +15,8 @@ const std::wstring kClasses = L"Software\\Classes\\";
 const std::wstring kClass = kClasses + L"CLSID\\{B71F0260-8646-41BD-808D-53C653890CA0}";
 const std::wstring kProgId = kClasses + L"QSymbol.CSymbol";
 const std::wstring kInterface = kClasses + L"Interface\\{85CB3679-2135-48E9-BC23-74F466223F78}";
-const std::wstring kLibrary = kClasses + L"TypeLib\\{4DBEBC97-50A7-4D1C-8E5B-53D64F24067B}";
-const std::wstring kVersion = kLibrary + L"\\4.1";
+const std::wstring kLibraryKey = kClasses + L"TypeLib\\{4DBEBC97-50A7-4D1C-8E5B-53D64F24067B}";
+const std::wstring kVersion = kLibraryKey + L"\\4.1";
 
 /// What the DLL of the other bitness enters and takes away, as far as the two meet.
 struct OtherBitness {
@@ -51,7 +51,7 @@ struct OtherBitness {
             if (support::HasKey(root, kClass, view) || support::HasKey(root, kInterface, view))
                 return false;
         }
-        return !support::HasKey(root, kProgId) && !support::HasKey(root, kLibrary);
+        return !support::HasKey(root, kProgId) && !support::HasKey(root, kLibraryKey);
     }
 };
 

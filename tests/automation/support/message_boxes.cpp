@@ -1,6 +1,7 @@
 #include "support/message_boxes.h"
 
 #include "support/text.h"
+#include "support/window_text.h"
 
 #include <gtest/gtest.h>
 
@@ -10,13 +11,7 @@ namespace support {
 
 namespace {
 
-MessageBoxes* g_current = nullptr;
-
-std::wstring WindowText(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
+MessageBoxes* g_answering = nullptr;
 
 std::wstring ClassOf(HWND window) {
     wchar_t name[64] = {};
@@ -36,7 +31,7 @@ BoxIcon IconOf(HWND control) {
     return BoxIcon::None;
 }
 
-BOOL CALLBACK Collect(HWND control, LPARAM box) {
+BOOL CALLBACK TakeControlOf(HWND control, LPARAM box) {
     Box& seen = *reinterpret_cast<Box*>(box);
     const auto style = static_cast<DWORD>(GetWindowLongPtrW(control, GWL_STYLE));
     if ((style & WS_VISIBLE) == 0)
@@ -66,18 +61,18 @@ MessageBoxes::MessageBoxes(std::initializer_list<int> answers) : MessageBoxes(st
 MessageBoxes::MessageBoxes(const std::vector<int>& answers)
     : hook_(SetWindowsHookExW(WH_CBT, Hook, nullptr, GetCurrentThreadId())),
       answers_(answers.begin(), answers.end()) {
-    g_current = this;
+    g_answering = this;
 }
 
 MessageBoxes::~MessageBoxes() {
     UnhookWindowsHookEx(hook_);
-    g_current = nullptr;
+    g_answering = nullptr;
     EXPECT_TRUE(answers_.empty()) << answers_.size() << " answers were not asked for";
 }
 
 LRESULT CALLBACK MessageBoxes::Hook(int code, WPARAM window, LPARAM details) {
-    if (code == HCBT_ACTIVATE && g_current != nullptr)
-        g_current->Answer(reinterpret_cast<HWND>(window));
+    if (code == HCBT_ACTIVATE && g_answering != nullptr)
+        g_answering->Answer(reinterpret_cast<HWND>(window));
     return CallNextHookEx(nullptr, code, window, details);
 }
 
@@ -89,7 +84,7 @@ void MessageBoxes::Answer(HWND window) {
     answered_.push_back(window);
     Box box;
     box.title = WindowText(window);
-    EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&box));
+    EnumChildWindows(window, TakeControlOf, reinterpret_cast<LPARAM>(&box));
     std::sort(box.buttons.begin(), box.buttons.end());
     seen_.push_back(box);
     if (whileOpen)

@@ -1,16 +1,12 @@
 #include "support/selection_dialog.h"
 
+#include "support/window_text.h"
+
 namespace support {
 
 namespace {
 
-std::wstring WindowText(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
-BOOL CALLBACK Collect(HWND control, LPARAM controls) {
+BOOL CALLBACK TakeControl(HWND control, LPARAM controls) {
     reinterpret_cast<std::vector<HWND>*>(controls)->push_back(control);
     return TRUE;
 }
@@ -25,7 +21,7 @@ bool SelectionDialog::Is(HWND window) {
 
 std::vector<HWND> SelectionDialog::Controls() const {
     std::vector<HWND> controls;
-    EnumChildWindows(window_, Collect, reinterpret_cast<LPARAM>(&controls));
+    EnumChildWindows(window_, TakeControl, reinterpret_cast<LPARAM>(&controls));
     return controls;
 }
 

@@ -1,3 +1,4 @@
+#include "support/in_sources.h"
 #include "unit/golden/native_host.h"
 
 #include <gtest/gtest.h>
@@ -5,7 +6,7 @@
 namespace {
 
 std::vector<golden::Case> Cases() {
-    return golden::CasesIn(std::filesystem::path(QSYMBOL_SOURCE_DIR) / "tests/data/golden");
+    return golden::CasesIn(support::InSources("tests/data/golden"));
 }
 
 class Golden : public testing::TestWithParam<golden::Case> {};

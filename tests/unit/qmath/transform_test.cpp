@@ -15,8 +15,8 @@ using qmath::Point;
 using qmath::Transform;
 using support::ErrorNumberOf;
 
-constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
 
 Transform Make(double scale, std::int32_t offsetX = 0, std::int32_t offsetY = 0) {
     Transform transform;
@@ -31,8 +31,8 @@ TEST(Transform, StartsAsTheIdentity) {
     EXPECT_EQ(transform.Scale(), 1);
     EXPECT_EQ(transform.OffsetX(), 0);
     EXPECT_EQ(transform.OffsetY(), 0);
-    EXPECT_EQ(transform.WorldToScreen({kLowest, kHighest}), (Point{kLowest, kHighest}));
-    EXPECT_EQ(transform.ScreenToWorld({kLowest, kHighest}), (Point{kLowest, kHighest}));
+    EXPECT_EQ(transform.WorldToScreen({kLeast, kMost}), (Point{kLeast, kMost}));
+    EXPECT_EQ(transform.ScreenToWorld({kLeast, kMost}), (Point{kLeast, kMost}));
 }
 
 TEST(Transform, WorldLessOffsetThroughScale) {
@@ -56,17 +56,17 @@ TEST(Transform, ScaleMustBePositiveAndFinite) {
 }
 
 TEST(Transform, DifferencesBeyond32BitsAreExact) {
-    const Transform transform = Make(4, kLowest, kHighest);
-    EXPECT_EQ(transform.WorldToScreen({kHighest, kLowest}), (Point{1073741824, -1073741824}));
+    const Transform transform = Make(4, kLeast, kMost);
+    EXPECT_EQ(transform.WorldToScreen({kMost, kLeast}), (Point{1073741824, -1073741824}));
 }
 
 TEST(Transform, ResultsOutsideTheRangeAreError6) {
-    EXPECT_EQ(ErrorNumberOf([] { Make(1, -1).WorldToScreen({kHighest, 0}); }), 6);
-    EXPECT_EQ(ErrorNumberOf([] { Make(1, 0, 1).WorldToScreen({0, kLowest}); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { Make(1, -1).WorldToScreen({kMost, 0}); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { Make(1, 0, 1).WorldToScreen({0, kLeast}); }), 6);
     EXPECT_EQ(ErrorNumberOf([] { Make(2).ScreenToWorld({1073741824, 0}); }), 6);
     EXPECT_EQ(ErrorNumberOf([] { Make(0.5).LengthToScreen(1073741824); }), 6);
     EXPECT_EQ(ErrorNumberOf([] { Make(1e-300).FontSizeToScreen(100, 10); }), 6);
-    std::array<Point, 2> points{{{0, 0}, {0, kHighest}}};
+    std::array<Point, 2> points{{{0, 0}, {0, kMost}}};
     EXPECT_EQ(ErrorNumberOf([&] { Make(0.5).WorldToScreen(points); }), 6);
 }
 

@@ -1,10 +1,11 @@
+#include "support/in_sources.h"
 #include "unit/tools/native_tool_host.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-const std::filesystem::path kFolder = std::filesystem::path(QSYMBOL_SOURCE_DIR) / "tests/data/interactions";
+const std::filesystem::path kFolder = support::InSources("tests/data/interactions");
 
 class Interaction : public testing::TestWithParam<std::filesystem::path> {};
 

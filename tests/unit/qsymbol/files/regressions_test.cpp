@@ -1,5 +1,6 @@
 #include "support/command_oracle.h"
 #include "support/file_oracles.h"
+#include "support/in_sources.h"
 #include "support/number_oracle.h"
 #include "support/temp_folder.h"
 
@@ -13,8 +14,8 @@ namespace {
 template <class Oracle>
 void Replay(const std::string& folder, Oracle oracle, std::size_t least) {
     std::size_t count = 0;
-    ASSERT_TRUE(std::filesystem::exists(QSYMBOL_SOURCE_DIR "/" + folder)) << folder;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(QSYMBOL_SOURCE_DIR "/" + folder)) {
+    ASSERT_TRUE(std::filesystem::exists(support::InSources(folder))) << folder;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(support::InSources(folder))) {
         if (!entry.is_regular_file())
             continue;
         EXPECT_EQ(oracle(support::BytesOf(entry.path())), "") << entry.path();

@@ -1,5 +1,6 @@
 #include "qsymbol/files/symbol_file.h"
 #include "support/file_oracles.h"
+#include "support/in_sources.h"
 #include "support/temp_folder.h"
 #include "support/test_environment.h"
 
@@ -15,7 +16,7 @@ using qsymbol::Symbol;
 
 std::vector<std::filesystem::path> Samples() {
     std::vector<std::filesystem::path> paths;
-    for (const auto& entry : std::filesystem::directory_iterator(QSYMBOL_SOURCE_DIR "/samples/wsc"))
+    for (const auto& entry : std::filesystem::directory_iterator(support::InSources("samples/wsc")))
         if (entry.path().extension() == ".wsc")
             paths.push_back(entry.path());
     return paths;
@@ -63,7 +64,7 @@ TEST(WscSamples, TogetherTheyUseEveryKeywordAndBothFormsOfAnEllipse) {
 TEST(WscSamples, ASocketAsItWasDrawn) {
     support::TestEnvironment world;
     Symbol symbol;
-    symbol.filePath = std::filesystem::path(QSYMBOL_SOURCE_DIR "/samples/wsc/Steckdose.wsc").u16string();
+    symbol.filePath = support::InSources("samples/wsc/Steckdose.wsc").u16string();
     ReadFromFile(symbol, world.OnDisk());
     ASSERT_EQ(symbol.elements.size(), 4U);
     EXPECT_EQ(symbol.width, 10000);
