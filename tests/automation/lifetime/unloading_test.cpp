@@ -81,6 +81,28 @@ TEST_F(Unloading, AClassObjectIsAskedForOnceAndGivenUp) {
     EXPECT_EQ(factory.created, 3) << "asked for anew";
 }
 
+TEST_F(Unloading, APlanKeepsTheLibraryOfItsSymbols) {
+    auto plan = support::Create<CPlan, _CPlan>();
+    {
+        const auto catalogue = support::Create<CSymbolColl, _CSymbolColl>();
+        Ref<_CSymbol> symbol = support::NewSymbolAt(L"A.syb");
+        EXPECT_OK(catalogue->AppendRef(symbol.InOut()));
+        EXPECT_OK(plan->putref_Symbols(catalogue.Get()));
+        Ref<_CPlacement> placed;
+        EXPECT_OK(plan->Add(support::Bstr(L"A"), 1, 2, 0, placed.Put()));
+        EXPECT_OK(plan->putref_Symbols(nullptr));
+    }
+    EXPECT_EQ(QSymbolServer().CanUnloadNow(), S_FALSE);
+    Ref<_CRect> extent;
+    VARIANT_BOOL has = VARIANT_FALSE;
+    EXPECT_OK(plan->Extent(extent.InOut(), &has));
+    EXPECT_EQ(has, VARIANT_TRUE);
+    extent.Reset();
+    plan.Reset();
+    for (const support::Server* server : {&support::QPlanServer(), &QSymbolServer(), &QMathServer()})
+        EXPECT_EQ(server->CanUnloadNow(), S_OK);
+}
+
 /// QMath stands beside QSymbol in a folder, and neither is registered.
 class UnloadingUnregistered : public Unloading {
 protected:

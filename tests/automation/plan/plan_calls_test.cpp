@@ -184,6 +184,26 @@ TEST_F(PlanSurfaces, ACatalogueMayChangeThePlanWhileItIsAsked) {
     host->onFind = nullptr;
 }
 
+TEST_F(PlanSurfaces, SymbolsThatGiveThemselvesForOneOfOursAnswerThemselves) {
+    const auto easy = HostSymbol::Create(symbols[0]);
+    easy->ClaimToBeAnything();
+    const auto hull = HostSymbol::Create(symbols[0]);
+    hull->HandQuestionsOnTo(symbols[1].Get());
+    const auto host = HostCatalogue::Create();
+    host->symbols = {{L"E", Ref<_CSymbol>(easy.Get())}, {L"H", Ref<_CSymbol>(hull.Get())}};
+    EXPECT_OK(plan->putref_Symbols(host.Get()));
+    Add(L"E", 300, 300);
+    Add(L"H", 300, 300);
+    support::Canvas canvas;
+    const auto box = support::PictureBox::Create(canvas);
+    EXPECT_OK(plan->Draw(box.Get(), support::NewTrans(10).Get()));
+    EXPECT_EQ(easy->Draws(), 1);
+    EXPECT_EQ(hull->Draws(), 1);
+    EXPECT_OK(plan->Clear());
+    host->symbols.clear();
+    hull->HandQuestionsOnTo(nullptr);
+}
+
 /// Another copy of the symbol library has factors of its own: its symbols are objects like a host's.
 TEST_F(PlanSurfaces, SymbolsOfTwoCopiesOfTheLibraryAnswerAsAlone) {
     const support::TempFolder folder;
