@@ -6,10 +6,16 @@
 #include "automation/qplan/picture_file.h"
 #include "automation/qplan/plan_transformation.h"
 #include "base/checked.h"
+#include "platform/win32/gdi_text_measure.h"
 #include "qplan/draw/sheet_drawing.h"
+#include "qsymbol/draw/symbol_extent.h"
+#include "qsymbol/geometry/turn.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
+#include <memory>
+#include <unordered_map>
 #include <utility>
 
 namespace {
@@ -22,18 +28,49 @@ struct Frame {
     double height = 0;
 };
 
+/// Around what the placed symbols draw, whatever their boxes are.
+qsymbol::Box DrawnBox(const qplan::Plan& plan) {
+    struct Known {
+        std::shared_ptr<const qplan::PlacedSymbol> held;
+        qmath::Rect extent; ///< from the reference point
+    };
+    std::unordered_map<const qplan::PlacedSymbol*, Known> known;
+    const platform::GdiTextMeasure texts;
+    qsymbol::Box box;
+    for (const qplan::Placement* next = plan.NextAfter(0); next != nullptr;) {
+        const qplan::Placement placed = *next; // asking a symbol of the host may change the plan
+        Known& symbol = known[plan.SymbolOf(placed).get()];
+        if (symbol.held == nullptr) {
+            symbol.held = plan.SymbolOf(placed);
+            const auto value = symbol.held->Value();
+            const qmath::Rect own = SymbolExtent(*value, &texts);
+            symbol.extent = {base::CheckedSub(own.left, value->refX), base::CheckedSub(own.top, value->refY),
+                             base::CheckedSub(own.right, value->refX),
+                             base::CheckedSub(own.bottom, value->refY)};
+        }
+        const qsymbol::Turn& turn = qsymbol::TurnBy(placed.position.angle);
+        for (const double x : {symbol.extent.left, symbol.extent.right})
+            for (const double y : {symbol.extent.top, symbol.extent.bottom})
+                box.Include(placed.position.at.x + turn.cosine * x + turn.sine * y,
+                            placed.position.at.y + turn.cosine * y - turn.sine * x);
+        next = plan.NextAfter(placed.id);
+    }
+    return box;
+}
+
 Frame FrameOf(const qplan::Plan& plan) {
     const qplan::Sheet& sheet = plan.Sheet();
     if (sheet.width > 0)
         return {0, 0, static_cast<double>(sheet.width) * qplan::kUnitsPerMillimetre,
                 static_cast<double>(sheet.height) * qplan::kUnitsPerMillimetre};
-    const std::optional<qmath::Rect> extent = plan.Extent(qsymbol::kUnscaled.screen);
-    if (!extent)
+    const qsymbol::Box box = DrawnBox(plan);
+    if (box.IsEmpty())
         base::Raise(base::RunTimeError::InvalidCall);
+    const double left = std::floor(box.left);
+    const double top = std::floor(box.top);
     // One unit at least: symbols may be flat.
-    return {static_cast<double>(extent->left), static_cast<double>(extent->top),
-            std::max(static_cast<double>(extent->right) - extent->left, 1.0),
-            std::max(static_cast<double>(extent->bottom) - extent->top, 1.0)};
+    return {left, top, std::max(std::ceil(box.right) - left, 1.0),
+            std::max(std::ceil(box.bottom) - top, 1.0)};
 }
 
 void DrawOn(CPicture& picture, const qplan::Plan& plan, _CTrans& trans) {

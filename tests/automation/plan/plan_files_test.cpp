@@ -132,6 +132,7 @@ TEST_F(PlanFiles, AHostsOwnSymbolsAreWrittenByTheirElements) {
     const std::string dxf = Dxf();
     const std::string svg = Svg();
     const support::JpegPicture picture = Picture(L"p.png", 150);
+    EXPECT_OK(symbols[0]->Draw(0, 0, 0, nullptr, nullptr, 1, 2.5, nullptr)); // whatever was drawn last
     EXPECT_EQ(Occurrences(svg, "<use"), 4U);
     ASSERT_OK(plan->putref_Symbols(host.Get()));
     EXPECT_EQ(Dxf(), dxf);
@@ -159,20 +160,18 @@ TEST_F(PlanFiles, APictureShowsTheWholeSheet) {
         << "a symbol's fill";
 }
 
-TEST_F(PlanFiles, WithoutASheetAPictureShowsWhatIsPlaced) {
-    Add(L"A", 5000, -3000);
-    Add(L"B", 5300, -2800, 1);
-    const support::JpegPicture picture = Picture(L"p.bmp", 200);
-    Ref<_CRect> rect;
-    VARIANT_BOOL has = VARIANT_FALSE;
-    EXPECT_OK(plan->Extent(rect.InOut(), &has));
-    const RECT extent = *Edges(rect.Get());
-    const double scale = (extent.right - extent.left) / 200.0;
-    EXPECT_EQ(picture.height, std::lround((extent.bottom - extent.top) / scale));
+TEST_F(PlanFiles, WithoutASheetAPictureShowsWhatIsDrawn) {
+    Add(L"B", 5000, -3000); // a line and a thick arc, both out of its box
+    const support::JpegPicture picture = Picture(L"p.bmp", 325);
+    EXPECT_EQ(picture.height, 265) << "650 by 530 units";
     const auto drawn = Blank(picture.width, picture.height);
-    EXPECT_OK(plan->Draw(drawn.Get(), support::NewTrans(scale, extent.left, extent.top).Get()));
+    EXPECT_OK(plan->Draw(drawn.Get(), support::NewTrans(2, 5000 - 310, -3000 - 245).Get()));
     EXPECT_OK(drawn->Write2File(Bstr(folder / L"d.bmp")));
     EXPECT_EQ(ReadBytes(folder / L"d.bmp"), ReadBytes(folder / L"p.bmp"));
+    // Whatever the factor of the last drawing was, and turned.
+    EXPECT_OK(ById(1)->put_Angle(1.5707963267948966));
+    EXPECT_OK(symbols[0]->Draw(0, 0, 0, nullptr, nullptr, 1, 3, nullptr));
+    EXPECT_EQ(Picture(L"p.bmp", 265).height, 325);
 }
 
 int CALLBACK CountFigures(HDC, HANDLETABLE*, const ENHMETARECORD* record, int, LPARAM counts) {

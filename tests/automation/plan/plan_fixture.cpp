@@ -40,6 +40,8 @@ PlanTest::PlanTest()
         EXPECT_OK(catalogue->AppendRef(given.InOut()));
     }
     EXPECT_OK(plan->putref_Symbols(catalogue.Get()));
+    // Hits and extents follow the last drawing, that of another test too.
+    EXPECT_OK(symbols[0]->Draw(0, 0, 0, nullptr, nullptr, 1, 1, nullptr));
 }
 
 LONG PlanTest::Add(const wchar_t* name, LONG x, LONG y, double angle) const {
