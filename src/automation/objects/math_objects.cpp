@@ -35,10 +35,7 @@ com::ComPtr<_CPtList> NewPointList(std::span<const qmath::Point> points) {
 
 com::ComPtr<_CRect> NewRect(const qmath::Rect& rect) {
     auto object = New<_CRect>(Class::Rect);
-    com::Call(*object, &_CRect::put_Left, rect.left);
-    com::Call(*object, &_CRect::put_Top, rect.top);
-    com::Call(*object, &_CRect::put_Right, rect.right);
-    com::Call(*object, &_CRect::put_Bottom, rect.bottom);
+    SetRect(*object, rect);
     return object;
 }
 

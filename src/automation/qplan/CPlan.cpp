@@ -14,7 +14,6 @@
 #include "qplan/export/plan_svg.h"
 #include "qplan/files/plan_file.h"
 
-#include <utility>
 
 namespace {
 
@@ -106,8 +105,11 @@ STDMETHODIMP CPlan::Extent(_CRect** r, VARIANT_BOOL* value) {
         const std::optional<qmath::Rect> extent = plan_.Extent(library_->ScreenFactor());
         if (!extent)
             return VARIANT_FALSE;
-        com::ComPtr<_CRect> rect = math_objects::NewRect(*extent);
-        const com::ComPtr<_CRect> old = com::ComPtr<_CRect>::Attach(std::exchange(place, rect.Detach()));
+        // A rectangle that is there already is filled: a caller that passes values only sees it as well.
+        if (const com::ComPtr<_CRect> held(place); held)
+            SetRect(*held, *extent);
+        else
+            place = math_objects::NewRect(*extent).Detach();
         return VARIANT_TRUE;
     });
 }

@@ -34,3 +34,10 @@ qmath::Rect GetRect(_CRect* rect) {
     const LONG right = com::Get(source, &_CRect::get_Right);
     return {left, top, right, com::Get(source, &_CRect::get_Bottom)};
 }
+
+void SetRect(_CRect& rect, const qmath::Rect& value) {
+    com::Call(rect, &_CRect::put_Left, value.left);
+    com::Call(rect, &_CRect::put_Top, value.top);
+    com::Call(rect, &_CRect::put_Right, value.right);
+    com::Call(rect, &_CRect::put_Bottom, value.bottom);
+}

@@ -20,3 +20,5 @@ std::vector<qmath::Point> GetPoints(_CPtList* list);
 
 /// The edges of any CRect. Error 91 for Nothing.
 qmath::Rect GetRect(_CRect* rect);
+
+void SetRect(_CRect& rect, const qmath::Rect& value);

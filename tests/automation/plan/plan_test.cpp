@@ -198,6 +198,7 @@ TEST_F(Plan, TellsHowFarItReaches) {
     Add(L"A", 0, 0);
     Add(L"C", 10000, -50);
     Ref<_CRect> extent = NewRect({1, 2, 3, 4});
+    const Ref<_CRect> given = extent;
     VARIANT_BOOL has = VARIANT_FALSE;
     EXPECT_OK(plan->Extent(extent.InOut(), &has));
     EXPECT_EQ(has, VARIANT_TRUE);
@@ -206,6 +207,10 @@ TEST_F(Plan, TellsHowFarItReaches) {
     EXPECT_EQ(edges.top, -150);
     EXPECT_EQ(edges.right, 10500);
     EXPECT_EQ(edges.bottom, 150);
+    EXPECT_TRUE(support::SameObject(extent.Get(), given.Get())) << "for callers that pass values only";
+    Ref<_CRect> made;
+    EXPECT_OK(plan->Extent(made.InOut(), &has));
+    EXPECT_EQ(Edges(made.Get())->right, 10500);
     EXPECT_OK(plan->Clear());
     EXPECT_OK(plan->Extent(extent.InOut(), &has));
     EXPECT_EQ(has, VARIANT_FALSE);
