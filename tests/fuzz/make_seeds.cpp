@@ -78,6 +78,27 @@ void MakeCommands(const fs::path& seeds) {
     }
 }
 
+/// Stretches of the sample plan behind its first record, and some odd ones.
+void MakePlans(const fs::path& samples, const fs::path& folder) {
+    fs::create_directories(folder);
+    std::ifstream plan(samples / "planhost/wohnung.plan");
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(plan, line);)
+        if (!line.starts_with("PLAN;"))
+            lines.push_back(line);
+    const std::size_t stretch = lines.size() / kSeeds;
+    for (std::size_t i = 0; i < kSeeds; ++i) {
+        std::string bytes = i % 3 == 0 ? "\xEF\xBB\xBF" : "";
+        const std::string end = i % 2 == 0 ? "\n" : "\r\n";
+        bytes += "PLAN;Haus;16700;13800" + end;
+        for (std::size_t line = i * stretch; line < (i + 1) * stretch; ++line)
+            bytes += lines[line] + end;
+        bytes += "SYMBOL;Ofen;-0.5;21474836.47;" + std::to_string(0.1 * static_cast<double>(i)) +
+                 (i % 4 == 0 ? "" : end);
+        Write(folder / ("plan-" + std::to_string(i)), bytes);
+    }
+}
+
 } // namespace
 
 /// make_seeds SAMPLES SEEDS: what the fuzzers start from, out of the sample symbols.
@@ -113,5 +134,6 @@ int main(int count, char** arguments) {
     MakeNumbers(seeds / "number_reader");
     MakeSymbols(seeds / "symbol_writer");
     MakeCommands(seeds);
+    MakePlans(samples, seeds / "plan_reader");
     return 0;
 }

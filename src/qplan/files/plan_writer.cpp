@@ -16,7 +16,7 @@ namespace {
 /// A name or title as a field. Error 5 when it would not read back.
 std::string Field(const std::u16string& text) {
     std::string bytes = base::ToUtf8(text);
-    if (text.find_first_of(u";\r\n") != std::u16string::npos || base::FromUtf8(bytes) != text)
+    if (text.find_first_of(u";\n") != std::u16string::npos || base::FromUtf8(bytes) != text)
         throw base::Error(static_cast<std::int32_t>(base::RunTimeError::InvalidCall), u"",
                           u"Der Name \"" + text + u"\" lässt sich nicht in eine Plandatei schreiben.");
     return bytes;
@@ -52,7 +52,7 @@ private:
     void PutLines(const std::string& lines) {
         out_ += lines;
         if (!lines.ends_with('\n')) // the last line that was read
-            out_ += lineEnd_;
+            out_ += lines.ends_with('\r') ? "\n" : lineEnd_;
     }
     void PutRecord(std::string_view kind, std::string_view text,
                    std::initializer_list<std::int32_t> numbers) {

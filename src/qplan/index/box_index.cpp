@@ -1,9 +1,11 @@
 #include "qplan/index/box_index.h"
 
+#include <utility>
+
 namespace qplan {
 
 void BoxIndex::Clear() {
-    trees_.clear();
+    trees_ = std::make_shared<Trees>();
     recent_ = {};
     inTrees_ = 0;
 }
@@ -11,37 +13,30 @@ void BoxIndex::Clear() {
 void BoxIndex::Settle() {
     if (recent_.size() <= kFew)
         return;
-    std::size_t smaller = trees_.size();
+    Trees trees = *trees_;
+    std::size_t smaller = trees.size();
     std::size_t together = recent_.size();
-    while (smaller > 0 && trees_[smaller - 1]->Size() <= 2 * together)
-        together += trees_[--smaller]->Size();
+    while (smaller > 0 && trees[smaller - 1]->Size() <= 2 * together)
+        together += trees[--smaller]->Size();
     recent_.reserve(together);
-    for (std::size_t i = smaller; i < trees_.size(); ++i)
-        trees_[i]->AppendEntriesTo(recent_);
-    auto tree = std::make_shared<const PackedTree>(recent_);
-    trees_.resize(smaller);
-    trees_.push_back(std::move(tree));
+    for (std::size_t i = smaller; i < trees.size(); ++i)
+        trees[i]->AppendEntriesTo(recent_);
+    trees.resize(smaller);
+    trees.push_back(std::make_shared<const PackedTree>(recent_));
     inTrees_ = 0;
-    for (const auto& each : trees_)
+    for (const auto& each : trees)
         inTrees_ += each->Size();
+    trees_ = std::make_shared<const Trees>(std::move(trees));
     recent_ = {};
-}
-
-void BoxIndex::Propose(const WorldBox& window, std::vector<std::uint32_t>& slots) {
-    Settle();
-    const auto found = [&](std::uint32_t slot) { slots.push_back(slot); };
-    for (const auto& tree : trees_)
-        tree->Visit(window, found);
-    for (const BoxEntry& entry : recent_)
-        if (entry.box.Meets(window))
-            found(entry.slot);
 }
 
 BoxIndex::Descent::Descent(BoxIndex& index, const WorldBox& window) : window_(window) {
     index.Settle();
     trees_ = index.trees_;
-    for (std::uint32_t i = 0; i < trees_.size(); ++i)
-        Push({trees_[i]->Root(), i});
+    constexpr std::size_t kUsual = 64;
+    heap_.reserve(kUsual);
+    for (std::uint32_t i = 0; i < trees_->size(); ++i)
+        Push({(*trees_)[i]->Root(), i});
     for (const BoxEntry& entry : index.recent_)
         if (entry.box.Meets(window))
             Push({{entry.slot, 0, 0}, 0});
@@ -56,7 +51,7 @@ bool BoxIndex::Descent::Next(std::uint32_t& slot) {
             slot = step.node.highest;
             return true;
         }
-        trees_[step.tree]->VisitNode(step.node, window_, [&](const PackedTree::Node& child) {
+        (*trees_)[step.tree]->VisitNode(step.node, window_, [&](const PackedTree::Node& child) {
             Push({child, step.tree});
         });
     }

@@ -14,14 +14,24 @@ namespace qplan {
 /// them for a tree, or go together with smaller ones. So an entry is sorted a logarithmic number of times, and
 /// all at once when nothing was asked meanwhile. Copies share the trees.
 class BoxIndex {
+    using Trees = std::vector<std::shared_ptr<const PackedTree>>;
+
 public:
     void Add(const WorldBox& box, std::uint32_t slot) { recent_.push_back({box, slot}); }
     void Clear();
     void Reserve(std::size_t entries) { recent_.reserve(entries); }
     std::size_t Size() const { return inTrees_ + recent_.size(); }
 
-    /// Appends the slots in no order; one with several entries may stand there again.
-    void Propose(const WorldBox& window, std::vector<std::uint32_t>& slots);
+    /// Calls found(slot, box) for every entry, in no order; a slot may have several.
+    template <class Found>
+    void Propose(const WorldBox& window, const Found& found) {
+        Settle();
+        for (const auto& tree : *trees_)
+            tree->Visit(window, found);
+        for (const BoxEntry& entry : recent_)
+            if (entry.box.Meets(window))
+                found(entry.slot, entry.box);
+    }
 
     /// The slots from the highest down, found as far as they are asked for. Changes of the index do not matter to it.
     class Descent {
@@ -39,7 +49,7 @@ public:
         void Push(const Step& step);
 
         WorldBox window_;
-        std::vector<std::shared_ptr<const PackedTree>> trees_;
+        std::shared_ptr<const Trees> trees_;
         std::vector<Step> heap_; ///< level 0 of a tree, or an entry without a tree
     };
 
@@ -49,7 +59,7 @@ private:
 
     void Settle();
 
-    std::vector<std::shared_ptr<const PackedTree>> trees_; ///< the largest first
+    std::shared_ptr<const Trees> trees_ = std::make_shared<Trees>(); ///< the largest first
     std::vector<BoxEntry> recent_;
     std::size_t inTrees_ = 0;
 };

@@ -26,7 +26,7 @@ public:
     std::size_t Size() const { return slots_.size(); }
     void AppendEntriesTo(std::vector<BoxEntry>& entries) const;
 
-    /// Calls found(slot) for every entry whose box meets the window, in no order.
+    /// Calls found(slot, box) for every entry whose box meets the window, in no order.
     template <class Found>
     void Visit(const WorldBox& window, const Found& found) const {
         VisitChildren(levels_.size() - 1, 0, window, found);
@@ -70,7 +70,7 @@ private:
             if (!boxes_[below.first + child].Meets(window))
                 continue;
             if (level == 1)
-                found(slots_[child]);
+                found(slots_[child], boxes_[child]);
             else
                 VisitChildren(level - 1, child, window, found);
         }

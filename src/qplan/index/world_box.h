@@ -28,6 +28,9 @@ struct WorldBox {
         // Without branches: where boxes lie is anyone's guess.
         return (left <= other.right) & (other.left <= right) & (top <= other.bottom) & (other.top <= bottom);
     }
+    bool Holds(const WorldBox& other) const {
+        return (left <= other.left) & (other.right <= right) & (top <= other.top) & (other.bottom <= bottom);
+    }
     void Include(const WorldBox& other) {
         left = std::min(left, other.left);
         top = std::min(top, other.top);

@@ -31,7 +31,16 @@ WorldBox Placed(const qsymbol::Box& reach, const qsymbol::SymbolPosition& positi
 void PlacementIndex::Forget() {
     tree_.Clear();
     moved_ = {};
+    strayed_ = {};
     known_ = 0;
+}
+
+void PlacementIndex::Moved(std::size_t slot) {
+    if (slot >= known_)
+        return;
+    moved_.push_back(static_cast<std::uint32_t>(slot));
+    if (moved_.size() > known_) // with no question in between
+        Forget();
 }
 
 void PlacementIndex::Update(const PlacementList& placements, const SymbolTable& symbols, double factor) {
@@ -48,9 +57,11 @@ void PlacementIndex::Update(const PlacementList& placements, const SymbolTable& 
         if (const Placement* const placement = placements.AtSlot(slot))
             Add(slot, *placement, symbols[placement->symbol].reach);
     };
-    for (const std::uint32_t slot : moved_)
-        if (slot < known_)
-            add(slot);
+    strayed_.resize(moved_.empty() ? strayed_.size() : known_);
+    for (const std::uint32_t slot : moved_) {
+        add(slot);
+        strayed_[slot] = true;
+    }
     moved_.clear();
     tree_.Reserve(placements.SlotCount() - known_);
     for (; known_ < placements.SlotCount(); ++known_)
@@ -71,24 +82,51 @@ void PlacementIndex::Add(std::size_t slot, const Placement& placement, const Sym
               static_cast<std::uint32_t>(slot));
 }
 
-std::vector<std::uint32_t> PlacementIndex::SlotsIn(const WorldBox& window) {
-    std::vector<std::uint32_t> slots;
-    tree_.Propose(window, slots);
-    // Many of all slots are sorted faster by going through all.
-    constexpr std::size_t kMany = 64;
-    if (slots.size() * kMany < known_) {
-        std::sort(slots.begin(), slots.end());
-        slots.erase(std::unique(slots.begin(), slots.end()), slots.end());
-        return slots;
-    }
-    std::vector<bool> proposed(known_);
-    for (const std::uint32_t slot : slots)
-        proposed[slot] = true;
-    slots.clear();
-    for (std::size_t slot = 0; slot < known_; ++slot)
-        if (proposed[slot])
-            slots.push_back(static_cast<std::uint32_t>(slot));
+std::vector<PlacementIndex::Proposal> PlacementIndex::SlotsIn(const WorldBox& window, const WorldBox& inner) {
+    proposed_.Grow(known_);
+    within_.Grow(known_);
+    std::size_t count = 0;
+    tree_.Propose(window, [&](std::uint32_t slot, const WorldBox& box) {
+        ++count;
+        proposed_.Insert(slot);
+        if (inner.Holds(box))
+            within_.Insert(slot);
+    });
+    std::vector<Proposal> slots;
+    slots.reserve(count);
+    proposed_.Drain([&](std::uint32_t slot) {
+        const bool hasStrayed = slot < strayed_.size() && strayed_[slot];
+        slots.push_back({slot, within_.Remove(slot) && !hasStrayed});
+    });
     return slots;
+}
+
+bool PlacementIndex::Shows(const Placement& placement, const SymbolReach& reach, double factor, double around,
+                           const WorldBox& window) {
+    if (reach.IsUnlimited())
+        return true;
+    // Two boxes are apart when an axis of one of them parts them.
+    const double slack = 2 + around;
+    const qsymbol::Turn& turn = qsymbol::TurnBy(placement.position.angle);
+    const double sine = std::abs(turn.sine);
+    const double cosine = std::abs(turn.cosine);
+    const double halfX = (static_cast<double>(window.right) - window.left) / 2 + slack;
+    const double halfY = (static_cast<double>(window.bottom) - window.top) / 2 + slack;
+    const double wide = std::abs(reach.drawn.right - reach.drawn.left) / 2 * std::abs(factor);
+    const double high = std::abs(reach.drawn.bottom - reach.drawn.top) / 2 * std::abs(factor);
+    // The way from the middle of what is drawn to that of the window, and the same along the symbol's axes.
+    const double middleX = (reach.drawn.left + reach.drawn.right) / 2 * factor;
+    const double middleY = (reach.drawn.top + reach.drawn.bottom) / 2 * factor;
+    const double x = (static_cast<double>(window.left) + window.right) / 2 - placement.position.at.x -
+                     (turn.cosine * middleX + turn.sine * middleY);
+    const double y = (static_cast<double>(window.top) + window.bottom) / 2 - placement.position.at.y -
+                     (turn.cosine * middleY - turn.sine * middleX);
+    const double ownX = turn.cosine * x - turn.sine * y;
+    const double ownY = turn.sine * x + turn.cosine * y;
+    return std::abs(x) <= halfX + cosine * wide + sine * high &&
+           std::abs(y) <= halfY + sine * wide + cosine * high &&
+           std::abs(ownX) <= wide + cosine * halfX + sine * halfY &&
+           std::abs(ownY) <= high + sine * halfX + cosine * halfY;
 }
 
 } // namespace qplan

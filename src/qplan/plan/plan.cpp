@@ -103,9 +103,9 @@ WorldBox Plan::Near(const PixelWindow& pixels, const qsymbol::Transformation& tr
 
 std::vector<Plan::Asked> Plan::Candidates(const WorldBox& window) const {
     std::vector<Asked> candidates;
-    for (const std::uint32_t slot : index_.SlotsIn(window))
-        if (const Placement* const placement = placements_.AtSlot(slot))
-            candidates.push_back({slot, placement->id});
+    for (const PlacementIndex::Proposal& proposal : index_.SlotsIn(window))
+        if (const Placement* const placement = placements_.AtSlot(proposal.slot))
+            candidates.push_back({proposal.slot, placement->id});
     return candidates;
 }
 
@@ -149,16 +149,26 @@ std::optional<std::int32_t> Plan::HitTest(const View& view, qmath::Point screen)
 
 std::vector<std::int32_t> Plan::HitRect(const View& view, const qmath::Rect& screen) const {
     Refresh();
+    const PixelWindow pixels = PixelWindow::Around(screen);
+    const WorldBox window = Near(pixels, view.transformation, view.screenFactor);
+    // What need not be asked has no slot here.
+    constexpr std::size_t kCertain = std::numeric_limits<std::size_t>::max();
+    std::vector<Asked> candidates;
+    for (const auto& [slot, isWithin] : index_.SlotsIn(window, InnerWindow(pixels, view.transformation)))
+        if (const Placement* const placement = placements_.AtSlot(slot)) {
+            const bool isCertain = isWithin && symbols_[placement->symbol].reach.isHitWithin;
+            candidates.push_back({isCertain ? kCertain : slot, placement->id});
+        }
     std::vector<std::int32_t> hits;
-    for (const Asked& asked :
-         Candidates(Near(PixelWindow::Around(screen), view.transformation, view.screenFactor))) {
-        const Placement* const placement = Still(asked);
-        if (placement == nullptr)
-            continue;
-        const std::shared_ptr<const PlacedSymbol> symbol = SymbolOf(*placement);
-        if (symbol->IsHitBy(SymbolPosition(placement->position), view, screen))
+    hits.reserve(candidates.size());
+    for (const Asked& asked : candidates)
+        if (asked.slot == kCertain) {
             hits.push_back(asked.id);
-    }
+        } else if (const Placement* const placement = Still(asked)) {
+            const std::shared_ptr<const PlacedSymbol> symbol = SymbolOf(*placement);
+            if (symbol->IsHitBy(SymbolPosition(placement->position), view, screen))
+                hits.push_back(asked.id);
+        }
     return hits;
 }
 
@@ -207,16 +217,14 @@ std::optional<qmath::Rect> Plan::Extent(double screenFactor) const {
     return extent;
 }
 
-/// How far from its points, in pixels, drawing can leave a mark.
-double Plan::MarginOfDrawing(const qsymbol::Transformation& transformation, double factor) const {
+/// How far from its points, in pixels, drawing can leave a mark, texts aside.
+double Plan::MarginOfDrawing(const qsymbol::Transformation& transformation, double scale) const {
     // The thinnest pen, a rounded box and the pixel that a line leaves out.
-    constexpr double kMargin = 3;
-    const double scale = std::max(1.0, std::abs(factor));
-    const double margin = kMargin + symbols_.MostPixels() * scale;
+    constexpr double kMargin = 2;
     if (transformation.Plain() != nullptr)
-        return margin;
+        return kMargin;
     try {
-        return margin + transformation.LengthToScreen(base::RoundToLong(symbols_.MostLength() * scale));
+        return kMargin + transformation.LengthToScreen(base::RoundToLong(symbols_.MostLength() * scale));
     } catch (const base::Error&) {
         return std::numeric_limits<double>::infinity();
     }
@@ -225,16 +233,34 @@ double Plan::MarginOfDrawing(const qsymbol::Transformation& transformation, doub
 std::vector<std::int32_t> Plan::Visible(const qsymbol::Transformation& transformation,
                                         const std::optional<qmath::Rect>& pixels,
                                         double geometryFactor) const {
+    constexpr double kLargestFactor = 1e6;
     Refresh();
+    const double scale = std::max(1.0, std::abs(geometryFactor));
     WorldBox window = WorldBox::Everything();
-    if (pixels)
-        window = Near(PixelWindow::Around(*pixels, MarginOfDrawing(transformation, geometryFactor)),
-                      transformation, geometryFactor);
-    else
+    std::optional<WorldBox> exact;
+    double pixel = 0; // world units
+    if (pixels) {
+        const double margin = MarginOfDrawing(transformation, scale);
+        window = Near(PixelWindow::Around(*pixels, margin + symbols_.MostPixels() * scale), transformation,
+                      geometryFactor);
+        // What one symbol adds counts for it alone. A factor of 0 draws into one point, but texts as they are.
+        const qmath::Transform* const plain = transformation.Plain();
+        if (plain != nullptr && geometryFactor != 0 && scale <= kLargestFactor) {
+            exact = WorldWindow(PixelWindow::Around(*pixels, margin), transformation);
+            pixel = plain->Scale() * scale;
+        }
+    } else {
         index_.Update(placements_, symbols_, geometryFactor);
+    }
     std::vector<std::int32_t> ids;
-    for (const Asked& asked : Candidates(window))
-        ids.push_back(asked.id);
+    for (const PlacementIndex::Proposal& proposal : index_.SlotsIn(window)) {
+        const Placement* const placement = placements_.AtSlot(proposal.slot);
+        if (placement == nullptr)
+            continue;
+        const SymbolReach& reach = symbols_[placement->symbol].reach;
+        if (!exact || PlacementIndex::Shows(*placement, reach, geometryFactor, reach.pixels * pixel, *exact))
+            ids.push_back(placement->id);
+    }
     return ids;
 }
 

@@ -96,7 +96,7 @@ private:
     void Refresh() const;
     WorldBox Near(const PixelWindow& pixels, const qsymbol::Transformation& transformation,
                   double factor) const;
-    double MarginOfDrawing(const qsymbol::Transformation& transformation, double factor) const;
+    double MarginOfDrawing(const qsymbol::Transformation& transformation, double scale) const;
     std::vector<Asked> Candidates(const WorldBox& window) const;
     /// The placement as it is now; nullptr when it has gone meanwhile.
     const Placement* Still(const Asked& asked) const;

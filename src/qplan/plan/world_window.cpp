@@ -3,7 +3,10 @@
 #include "base/error.h"
 #include "qmath/outline.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
 
 namespace qplan {
 
@@ -64,6 +67,27 @@ PixelWindow PixelWindow::Around(const qmath::Rect& rect, double margin) {
     const auto [left, right] = std::minmax(rect.left, rect.right);
     const auto [top, bottom] = std::minmax(rect.top, rect.bottom);
     return {left - margin, top - margin, right + margin, bottom + margin};
+}
+
+WorldBox InnerWindow(const PixelWindow& pixels, const qsymbol::Transformation& transformation) {
+    WorldBox inner{1, 1, 0, 0};
+    const qmath::Transform* const map = transformation.Plain();
+    if (map == nullptr)
+        return inner;
+    // Boxes are cut off at the 32-bit range: of one that reaches to its end nothing is known.
+    constexpr double kInwards = 2 * kRounding;
+    constexpr double kEnd = std::numeric_limits<std::int32_t>::max() - kInwards;
+    const auto edge = [&](double pixel, double offset, double inwards) {
+        return std::clamp((pixel + inwards) * map->Scale() + offset + inwards, -kEnd, kEnd);
+    };
+    const double left = edge(pixels.left, map->OffsetX(), kInwards);
+    const double top = edge(pixels.top, map->OffsetY(), kInwards);
+    const double right = edge(pixels.right, map->OffsetX(), -kInwards);
+    const double bottom = edge(pixels.bottom, map->OffsetY(), -kInwards);
+    if (left < right && top < bottom)
+        inner = {static_cast<std::int32_t>(std::ceil(left)), static_cast<std::int32_t>(std::ceil(top)),
+                 static_cast<std::int32_t>(std::floor(right)), static_cast<std::int32_t>(std::floor(bottom))};
+    return inner;
 }
 
 std::optional<WorldBox> WorldWindow(const PixelWindow& pixels,

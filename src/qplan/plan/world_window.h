@@ -19,6 +19,10 @@ struct PixelWindow {
     static PixelWindow Around(const qmath::Rect& rect, double margin = 0);
 };
 
+/// A box such that what lies wholly inside, in whole world units, has all its pixels in the window; one that holds nothing
+/// where that is not certain.
+WorldBox InnerWindow(const PixelWindow& pixels, const qsymbol::Transformation& transformation);
+
 /// A box such that what lies outside, in whole world units, has no pixel in the window: rounding to pixels is allowed for.
 ///
 /// Nothing where that is not certain: for a map of the host that fails, or whose way back does not lead back. That it

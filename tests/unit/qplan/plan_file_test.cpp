@@ -63,6 +63,8 @@ TEST(PlanFile, KeepsWhatIsNoSymbolAsItWas) {
     EXPECT_EQ(EncodePlan(plan), kPlan);
     EXPECT_EQ(EncodePlan(Read("\xEF\xBB\xBF# x\r\nPLAN;H;1;1\r\n\r\nSYMBOL;Tür;1;2;3\r\n# y")),
               "\xEF\xBB\xBF# x\r\nPLAN;H;1;1\r\n\r\nSYMBOL;Tür;1;2;3\r\n# y\r\n");
+    EXPECT_EQ(EncodePlan(Read("PLAN;H;1;1\r")), "PLAN;H;1;1\r\n");
+    EXPECT_EQ(EncodePlan(Read("PLAN;H\rH;1;1\nROOM;a\rb;0;0\n")), "PLAN;H\rH;1;1\nROOM;a\rb;0;0\n");
     const std::int32_t stove = plan.ByPos(2)->id;
     plan.Move(stove, {{12345, -5}, 0.125 * std::numbers::pi / 180});
     plan.RemoveById(plan.ByPos(1)->id);

@@ -2,6 +2,7 @@
 #include "support/file_oracles.h"
 #include "support/in_sources.h"
 #include "support/number_oracle.h"
+#include "support/plan_oracle.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -36,6 +37,7 @@ TEST(Regressions, SeedsOfTheFuzzers) {
         {"text_reader", support::BrokenTextPromise},     {"binary_reader", support::BrokenBinaryPromise},
         {"import_reader", support::BrokenImportPromise}, {"number_reader", support::BrokenNumberPromise},
         {"symbol_writer", support::BrokenSymbolPromise}, {"command", support::BrokenCommandPromise},
+        {"plan_reader", support::BrokenPlanPromise},
     };
     for (const auto& [name, oracle] : kFuzzers) {
         Replay("tests/fuzz/seeds/" + std::string(name), oracle, 10);
