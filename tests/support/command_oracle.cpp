@@ -33,12 +33,12 @@ struct Outcome {
 };
 
 /// A stream into memory.
-class Caught {
+class MemoryStream {
 public:
-    Caught() : stream_(open_memstream(&bytes_, &size_)) {}
-    Caught(const Caught&) = delete;
-    Caught& operator=(const Caught&) = delete;
-    ~Caught() {
+    MemoryStream() : stream_(open_memstream(&bytes_, &size_)) {}
+    MemoryStream(const MemoryStream&) = delete;
+    MemoryStream& operator=(const MemoryStream&) = delete;
+    ~MemoryStream() {
         std::fclose(stream_);
         std::free(bytes_);
     }
@@ -57,8 +57,8 @@ private:
 Outcome RunProgram(const std::vector<std::string>& arguments) {
     platform::PosixFileSystem files;
     const platform::Windows1252 codePage;
-    Caught output;
-    Caught errors;
+    MemoryStream output;
+    MemoryStream errors;
     const cli::System system{files, codePage, platform::GermanSettings(), output.Stream(), errors.Stream(),
                              false, "0.0.0"};
     Outcome outcome;
