@@ -14,7 +14,6 @@
 #include "qplan/export/plan_svg.h"
 #include "qplan/files/plan_file.h"
 
-
 namespace {
 
 base::FileSystem& Files() {

@@ -164,6 +164,37 @@ TEST_F(PlanSurfaces, ErrorsOfASurfacePassThrough) {
     EXPECT_OK(plan->Draw(box.Get(), support::NewTrans(10).Get()));
 }
 
+TEST_F(PlanSurfaces, AHostsSymbolMayChangeBetweenTwoQuestions) {
+    const auto host = HostCatalogue::Create();
+    host->symbols[L"A"] = Ref<_CSymbol>(HostSymbol::Create(symbols[0]).Get());
+    EXPECT_OK(plan->putref_Symbols(host.Get()));
+    Add(L"A", 0, 0);
+    for (const LONG width : {400, 900, 0}) {
+        EXPECT_OK(symbols[0]->put_Width(width));
+        Ref<_CRect> extent;
+        VARIANT_BOOL has = VARIANT_FALSE;
+        EXPECT_OK(plan->Extent(extent.InOut(), &has));
+        EXPECT_EQ(Edges(extent.Get())->right, width - 200);
+    }
+}
+
+/// As after a loop that draws each with both factors 1, whether anything can be seen or not.
+TEST_F(PlanSurfaces, LeaveTheFactorsOfADrawing) {
+    support::Canvas canvas;
+    const auto box = support::PictureBox::Create(canvas);
+    const auto right = [&] {
+        Ref<_CRect> bounds;
+        EXPECT_OK(symbols[2]->GetBoundingRect(0, 0, 0, bounds.InOut()));
+        return Edges(bounds.Get())->right;
+    };
+    EXPECT_OK(symbols[0]->Draw(0, 0, 0, nullptr, nullptr, 1, 3, nullptr));
+    EXPECT_OK(plan->Draw(box.Get(), support::NewTrans(10).Get()));
+    EXPECT_EQ(right(), 1500) << "nothing was there to draw";
+    Add(L"A", 900000, 0);
+    EXPECT_OK(plan->Draw(box.Get(), support::NewTrans(10).Get()));
+    EXPECT_EQ(right(), 500);
+}
+
 TEST_F(PlanSurfaces, AreSparedWhatTheyCannotShow) {
     for (int i = 0; i < 50; ++i)
         Add(L"A", 10000 * i, 300);
