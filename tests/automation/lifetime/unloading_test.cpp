@@ -107,9 +107,11 @@ TEST_F(Unloading, APlanKeepsTheLibraryOfItsSymbols) {
 class UnloadingUnregistered : public Unloading {
 protected:
     UnloadingUnregistered() {
+        EXPECT_OK(support::QPlanServer().Unregister());
         EXPECT_OK(QSymbolServer().Unregister());
         EXPECT_OK(QMathServer().Unregister());
-        for (const support::Server* const server : {&QMathServer(), &QSymbolServer()}) {
+        for (const support::Server* const server :
+             {&QMathServer(), &QSymbolServer(), &support::QPlanServer()}) {
             const std::wstring path = server->Path();
             EXPECT_NE(CopyFileW(path.c_str(), (folder / path.substr(path.rfind(L'\\') + 1)).c_str(), TRUE),
                       FALSE);
@@ -118,6 +120,7 @@ protected:
     ~UnloadingUnregistered() override {
         EXPECT_OK(QMathServer().Register());
         EXPECT_OK(QSymbolServer().Register());
+        EXPECT_OK(support::QPlanServer().Register());
     }
     static Ref<_CSymbol> NewSymbol(const support::Server& server) {
         Ref<_CSymbol> symbol;
@@ -148,6 +151,32 @@ TEST_F(UnloadingUnregistered, TheResultMayOutliveTheSymbol) {
         }
     }
     EXPECT_FALSE(IsLoaded(L"QSymbol.dll"));
+}
+
+TEST_F(UnloadingUnregistered, APlanFindsTypesAndClassesOfTheDllsBeside) {
+    const support::Server symbols(folder / L"QSymbol.dll");
+    const support::Server plans(folder / L"QPlan.dll");
+    ASSERT_TRUE(plans.Loaded());
+    {
+        Ref<_CPlan> plan;
+        ASSERT_OK(plans.Factory(CLSID_CPlan)->CreateInstance(nullptr, __uuidof(_CPlan), plan.PutVoid()));
+        Ref<_CSymbolColl> catalogue;
+        ASSERT_OK(symbols.Factory(CLSID_CSymbolColl)
+                      ->CreateInstance(nullptr, __uuidof(_CSymbolColl), catalogue.PutVoid()));
+        Ref<_CSymbol> symbol = NewSymbol(symbols);
+        EXPECT_OK(symbol->put_FilePath(support::Bstr(L"A.syb")));
+        EXPECT_OK(catalogue->AppendRef(symbol.InOut()));
+        const support::Dispatch late(plan);
+        EXPECT_OK(late.PutRef(L"Symbols", catalogue).status);
+        EXPECT_OK(late.Call(L"Add", {L"A", 7, 8, 0.0}).status);
+        support::Value rect = support::Value::Nothing();
+        EXPECT_TRUE(late.Call(L"Extent", {support::Value::Variable(rect)}).value.Bool());
+        EXPECT_EQ(support::Dispatch(rect.Object()).Get(L"Left").value.Long(), 7);
+        EXPECT_TRUE(IsLoaded(L"QMath.dll"));
+        EXPECT_EQ(plans.CanUnloadNow(), S_FALSE);
+    }
+    EXPECT_EQ(plans.CanUnloadNow(), S_OK);
+    EXPECT_EQ(symbols.CanUnloadNow(), S_OK);
 }
 
 TEST_F(UnloadingUnregistered, TheSymbolMayOutliveItsResult) {
