@@ -134,10 +134,11 @@ void Run(const std::wstring& name, const Arguments& arguments) {
 
 int wmain(int count, wchar_t** values) {
     try {
-        if (count < 2)
-            FailWithUsage();
         const ComThread com;
-        Run(values[1], Arguments(values + 2, values + count));
+        if (count < 2)
+            RunEditor();
+        else
+            Run(values[1], Arguments(values + 2, values + count));
         return 0;
     } catch (const Failure& failure) {
         PrintErrorLine(failure.message);

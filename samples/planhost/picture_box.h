@@ -8,7 +8,7 @@
 /// which takes effect on the device context at once, because the library goes on with plain GDI calls
 /// there; and with a method that draws a line. The device context must outlive the box; the box leaves it
 /// as it found it.
-class PictureBox final : public IDispatch {
+class PictureBox : public IDispatch {
 public:
     /// A box of this size in pixels, from the origin of the device context on. thinnest: no line is thinner, in pixels.
     static Ptr<PictureBox> Create(HDC dc, int width, int height, std::wstring name, int thinnest = 1);
@@ -23,6 +23,10 @@ public:
     STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) override;
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID locale, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                         EXCEPINFO* exception, UINT* badArgument) override;
+
+protected:
+    PictureBox(HDC dc, int width, int height, std::wstring name, int thinnest);
+    virtual ~PictureBox();
 
 private:
     /// The properties and the method in the order of their dispatch ids; those up to DrawWidth can be put.
@@ -39,9 +43,6 @@ private:
         Name,
         Line
     };
-
-    PictureBox(HDC dc, int width, int height, std::wstring name, int thinnest);
-    ~PictureBox();
 
     HRESULT Get(DISPID id, VARIANT& result) const;
     HRESULT Put(DISPID id, VARIANT& value);

@@ -44,20 +44,6 @@ void DrawWalls(const Plan& plan, const Canvas& canvas) {
     RestoreDC(dc, state);
 }
 
-/// marked: the places of symbols in the plan that are drawn in the mark colour.
-void DrawSymbols(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
-                 const std::vector<std::size_t>& marked, const Canvas& canvas) {
-    const Ptr<PictureBox> box = PictureBox::Create(canvas.dc, canvas.size.cx, canvas.size.cy, L"PlanBox");
-    for (std::size_t i = 0; i < symbols.size(); ++i) {
-        const PlacedSymbol& placed = plan.symbols[i];
-        const bool isMarked = std::find(marked.begin(), marked.end(), i) != marked.end();
-        LONG markColour = isMarked ? kMarkColour : kOwnColours;
-        Check(symbols[i]->Draw(placed.at.x, placed.at.y, Radians(placed), box.Get(), &canvas.transformation,
-                               1.0, 1.0, &markColour),
-              Describe(placed));
-    }
-}
-
 void WriteText(const Canvas& canvas, const std::wstring& text, POINT at, int height, UINT align) {
     const HDC dc = canvas.dc;
     const int state = SaveDC(dc);
@@ -97,9 +83,22 @@ void DrawAboveSymbols(const Canvas& canvas, const Plan& plan) {
     }
 }
 
+void DrawSymbolsOn(IDispatch& surface, const Canvas& canvas, const Plan& plan,
+                   const std::vector<Ptr<_CSymbol>>& symbols, const std::vector<std::size_t>& marked) {
+    for (std::size_t i = 0; i < symbols.size(); ++i) {
+        const PlacedSymbol& placed = plan.symbols[i];
+        const bool isMarked = std::find(marked.begin(), marked.end(), i) != marked.end();
+        LONG markColour = isMarked ? kMarkColour : kOwnColours;
+        Check(symbols[i]->Draw(placed.at.x, placed.at.y, Radians(placed), &surface, &canvas.transformation,
+                               1.0, 1.0, &markColour),
+              Describe(placed));
+    }
+}
+
 void DrawPlanOn(const Canvas& canvas, const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
                 const std::vector<std::size_t>& marked) {
     DrawBelowSymbols(canvas, plan);
-    DrawSymbols(plan, symbols, marked, canvas);
+    DrawSymbolsOn(*PictureBox::Create(canvas.dc, canvas.size.cx, canvas.size.cy, L"PlanBox").Get(), canvas,
+                  plan, symbols, marked);
     DrawAboveSymbols(canvas, plan);
 }

@@ -23,6 +23,10 @@ void DrawBelowSymbols(const Canvas& canvas, const Plan& plan);
 /// The title and the names of the rooms.
 void DrawAboveSymbols(const Canvas& canvas, const Plan& plan);
 
+/// The same in two steps, onto a surface of the host's choice that draws on the canvas.
+void DrawSymbolsOn(IDispatch& surface, const Canvas& canvas, const Plan& plan,
+                   const std::vector<Ptr<_CSymbol>>& symbols, const std::vector<std::size_t>& marked);
+
 /// Draws the plan: floors, walls, symbols and names, in this order. symbols: those of the plan, in its order; marked:
 /// the places of those that get the mark colour.
 void DrawPlanOn(const Canvas& canvas, const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,

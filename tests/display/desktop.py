@@ -56,6 +56,12 @@ class Desktop:
         self._program = subprocess.Popen(command, stdout=self._log, stderr=self._log)
         self._folder = os.path.dirname(program)
 
+    def start_beside(self, program, *arguments):
+        """One more program on the same desktop."""
+        size = os.environ["SCREEN_SIZE"]
+        command = ["wine", "explorer", f"/desktop={NAME},{size},x11", windows_path(program), *arguments]
+        subprocess.Popen(command, stdout=self._log, stderr=self._log)
+
     def __enter__(self):
         return self
 
@@ -126,14 +132,17 @@ class Desktop:
     def move(self, x, y):
         self._event("mousemove", x, y)
 
-    def press(self):
-        self._event("mousedown", 1)
+    def press(self, button=1):
+        self._event("mousedown", button)
 
-    def release(self):
-        self._event("mouseup", 1)
+    def release(self, button=1):
+        self._event("mouseup", button)
 
-    def click(self):
-        self._event("click", 1)
+    def click(self, button=1):
+        self._event("click", button)
+
+    def wheel(self, up):
+        self._event("click", 4 if up else 5)
 
     def double_click(self):
         self._event("click", "--repeat", 2, "--delay", 20, 1)

@@ -58,9 +58,12 @@ def symbols_of(plan):
 class Editor:
     """A running editor with a plan; the map from plan to pixels is worked out here once more, from the sizes alone."""
 
-    def __init__(self, plan=None, settings="[Ansicht]\nFangen=0\nWeitersetzen=0\n"):
-        """Without a plan: with the new one that the editor makes. settings: what it remembers; None: as it left them."""
-        catalogue = make_catalogue()
+    def __init__(self, plan=None, settings="[Ansicht]\nFangen=0\nWeitersetzen=0\n", prepare=None):
+        """Without a plan: with the new one that the editor makes. settings: what it remembers; None: as it left them.
+        prepare: what else is to be done with the catalogue's folder."""
+        self.catalogue = catalogue = make_catalogue()
+        if prepare:
+            prepare(catalogue)
         self.plan = plan
         self.settings = folder() / "planhost.ini"
         if settings is not None:
@@ -114,6 +117,9 @@ class Editor:
     def wait_for_direction(self, degrees):
         wait_for(f"direction {degrees}°", lambda: self.status()[1].endswith(f" {degrees}°"))
 
+    def wait_for_more_than(self, degrees):
+        wait_for(f"more than {degrees}°", lambda: int(self.status()[1].split()[-1].rstrip("°")) > degrees)
+
     def wait_for_count(self, text):
         wait_for(f"count {text!r}", lambda: self.status()[2] == text)
 
@@ -143,6 +149,12 @@ class Editor:
             self.wait_for_picture(what, lambda picture: picture == expected)
         except AssertionError as error:
             raise AssertionError(f"{what}: {self._part(screen.take()).differing(expected)} pixels differ") from error
+
+    @staticmethod
+    def save_picture_of(desktop, name):
+        """The screen, once the front window has answered."""
+        desktop.windows()
+        screen.take().save(PICTURES / f"{folder().name}-{name}.png")
 
     def save_picture(self, name):
         PICTURES.mkdir(parents=True, exist_ok=True)
@@ -208,6 +220,11 @@ class Editor:
     def save(self):
         self.key("ctrl+s")
         self.wait_for_window(f"{self.plan.name} – Planhost")
+
+    def quit_without_saving(self):
+        self.key("alt+F4")
+        self.answer("Änderungen speichern?", "n")
+        self.desktop.wait_for_end()
 
     def quit(self):
         self.key("alt+F4")

@@ -45,12 +45,14 @@ TEST(History, GoesBackAndForthAndKnowsEveryState) {
 TEST(History, WhatContinuesIsOneStep) {
     History history;
     history.Begin();
-    history.Add({0, Symbols({L"a"}), Symbols({L"b"})}, true);
+    history.Add({0, {}, Symbols({L"a"})}, false);
+    history.Add({0, Symbols({L"a"}), Symbols({L"b"})}, true); // not of the same kind
     history.Add({0, Symbols({L"b"}), Symbols({L"c"})}, true);
     EXPECT_EQ(history.ToUndo().before, Symbols({L"a"}));
     EXPECT_EQ(history.ToUndo().after, Symbols({L"c"}));
     history.Add({3, Symbols({L"c"}), Symbols({L"d"})}, true); // of another symbol
     EXPECT_EQ(history.ToUndo().before, Symbols({L"c"}));
+    history.WentBack();
     history.WentBack();
     history.WentBack();
     EXPECT_FALSE(history.CanUndo());

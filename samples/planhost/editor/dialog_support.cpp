@@ -56,6 +56,26 @@ INT_PTR ShowDialog(HWND owner, int dialog, DLGPROC onMessage, void* start) {
                                    reinterpret_cast<LPARAM>(start));
 }
 
+void CentreOverOwner(HWND dialog) {
+    const HWND owner = GetWindow(dialog, GW_OWNER);
+    RECT area, below;
+    GetWindowRect(dialog, &area);
+    GetWindowRect(owner, &below);
+    MONITORINFO screen{};
+    screen.cbSize = sizeof screen;
+    GetMonitorInfoW(MonitorFromWindow(owner, MONITOR_DEFAULTTONEAREST), &screen);
+    const LONG width = area.right - area.left;
+    const LONG height = area.bottom - area.top;
+    const auto within = [](LONG place, LONG first, LONG last) {
+        return std::max(first, std::min(place, last));
+    };
+    SetWindowPos(
+        dialog, nullptr,
+        within((below.left + below.right - width) / 2, screen.rcWork.left, screen.rcWork.right - width),
+        within((below.top + below.bottom - height) / 2, screen.rcWork.top, screen.rcWork.bottom - height), 0,
+        0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 HFONT MakeMessageFont(UINT dots) {
     LOGFONTW form = MessageFont();
     form.lfHeight = MulDiv(form.lfHeight, static_cast<int>(dots), SystemDots());

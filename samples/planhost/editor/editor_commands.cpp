@@ -119,10 +119,8 @@ std::wstring Editor::Hint() const {
     if (tool_)
         return tool_->Hint();
     if (!document_.Marks().IsEmpty())
-        return L"Ziehen verschiebt, mit Strg kopiert; Strg+M verschiebt, Strg+D dupliziert, Entf löscht; F1 "
-               L"zeigt alle Tasten";
-    return L"Klick oder Rechteck markiert Symbole, mit Strg auch weitere; F2 wählt ein neues Symbol; F1 "
-           L"zeigt alle Tasten";
+        return L"Strg+M verschiebt, Strg+D dupliziert, Entf löscht; F1 zeigt alle Tasten";
+    return L"Klick oder Rechteck markiert Symbole; F2 wählt ein Symbol; F1 zeigt alle Tasten";
 }
 
 std::wstring Editor::PositionText() const {

@@ -99,6 +99,10 @@ void EditorWindow::Open(const std::filesystem::path& plan) {
     });
 }
 
+void EditorWindow::StartNew() {
+    Do([this] { OfferRecovery({}); });
+}
+
 void EditorWindow::Run() {
     const HACCEL keys = LoadAcceleratorsW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDR_EDITOR));
     MSG message;

@@ -13,6 +13,8 @@ public:
     EditorWindow(const EditorWindow&) = delete;
 
     void Open(const std::filesystem::path& plan);
+    /// Goes on with a new plan.
+    void StartNew();
     /// Runs until the user quits.
     void Run();
 

@@ -26,7 +26,7 @@ void History::Begin() {
 
 void History::Add(PlanChange change, bool continues) {
     steps_.resize(next_);
-    if (continues && next_ > 0) {
+    if (continues && next_ > 0 && steps_.back().canBeContinued) {
         PlanChange& last = steps_.back().change;
         if (last.first == change.first && last.after == change.before) {
             last.after = std::move(change.after);
@@ -34,6 +34,6 @@ void History::Add(PlanChange change, bool continues) {
             return;
         }
     }
-    steps_.push_back({std::move(change), ++lastState_});
+    steps_.push_back({std::move(change), ++lastState_, continues});
     ++next_;
 }

@@ -22,7 +22,7 @@ class History {
 public:
     /// A new plan, as it is in its file.
     void Begin();
-    /// continues: the last step goes on, as a symbol does that is nudged again; it is taken back in one.
+    /// continues: one of several steps of a kind, as when a symbol is nudged again; those in a row are taken back in one.
     void Add(PlanChange change, bool continues);
 
     bool CanUndo() const { return next_ > 0; }
@@ -38,6 +38,7 @@ private:
     struct Step {
         PlanChange change;
         unsigned state; ///< that it leads to
+        bool canBeContinued;
     };
 
     std::vector<Step> steps_;

@@ -40,10 +40,12 @@ constexpr wchar_t kKeys[] = L"Sehen\r\n"
 
 INT_PTR CALLBACK OnMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     if (message == WM_INITDIALOG) {
+        CentreOverOwner(dialog);
         const UINT secondColumn = 150; // in quarters of a letter
         SendDlgItemMessageW(dialog, IDC_KEYS, EM_SETTABSTOPS, 1, reinterpret_cast<LPARAM>(&secondColumn));
         SetDlgItemTextW(dialog, IDC_KEYS, kKeys);
-        return TRUE;
+        SetFocus(GetDlgItem(dialog, IDOK)); // the text would be marked
+        return FALSE;
     }
     if (message == WM_COMMAND && (LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL))
         return EndDialog(dialog, IDOK);

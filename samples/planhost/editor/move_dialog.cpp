@@ -49,6 +49,7 @@ void Begin(HWND dialog, const Question& question) {
 INT_PTR CALLBACK OnMoveMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrW(dialog, DWLP_USER, lParam);
+        CentreOverOwner(dialog);
         Begin(dialog, *reinterpret_cast<Question*>(lParam));
         return FALSE; // the focus is set
     }

@@ -2,6 +2,7 @@
 
 #include "../text.h"
 #include "editor_window.h"
+#include "first_plan.h"
 
 namespace {
 
@@ -12,17 +13,32 @@ void LeaveOwnConsole() {
         FreeConsole();
 }
 
-} // namespace
-
-void RunEditor(const std::filesystem::path& catalogueFolder, const std::filesystem::path& plan) {
-    LeaveOwnConsole();
+/// There is no console to read a failure from.
+void ShowFailure(const std::function<void()>& action) {
     try {
-        EditorWindow window(catalogueFolder);
-        if (!plan.empty())
-            window.Open(plan);
-        window.Run();
+        action();
     } catch (const Failure& failure) {
         MessageBoxW(nullptr, failure.message.c_str(), L"Planhost", MB_ICONEXCLAMATION);
         throw;
     }
+}
+
+} // namespace
+
+void RunEditor(const std::filesystem::path& catalogueFolder, const std::filesystem::path& plan) {
+    LeaveOwnConsole();
+    ShowFailure([&] {
+        EditorWindow window(catalogueFolder);
+        if (plan.empty())
+            window.StartNew();
+        else
+            window.Open(plan);
+        window.Run();
+    });
+}
+
+void RunEditor() {
+    FirstPlan first;
+    ShowFailure([&] { first = FindFirstPlan(Settings()); });
+    RunEditor(first.catalogueFolder, first.plan);
 }

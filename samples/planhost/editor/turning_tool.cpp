@@ -22,7 +22,8 @@ TurningTool::TurningTool(const PlanDocument& document, POINT about, POINT from)
     : document_(document), about_(about), from_(DirectionTo(about, from)) {}
 
 void TurningTool::MouseMove(PlanView& view, const Pointer& pointer) {
-    const double turned = DirectionTo(about_, view.ToPlan(pointer.pixel)) - from_;
+    const double turned =
+        std::remainder(DirectionTo(about_, view.ToPlan(pointer.pixel)) - from_, 360); // the shorter way
     const int step = GetKeyState(VK_SHIFT) < 0 ? kStep : 1;
     TurnTo(view, static_cast<int>(std::lround(turned / step)) * step);
 }

@@ -6,6 +6,7 @@
 #include "key_page.h"
 #include "picture_folder.h"
 #include "plan_files.h"
+#include "print_dialog.h"
 #include "resource.h"
 
 #include <algorithm>
@@ -56,6 +57,7 @@ const EditorWindow::Command EditorWindow::kCommands[] = {
          ExportAsDxf(w.window_, w.editor_.Document());
          w.editor_.Redraw(); // symbols are hit in the size of their last drawing, and that was the export's
      }},
+    {IDM_PRINT, Always, [](EditorWindow& w, int) { PrintPlan(w.window_, w.editor_.Document()); }},
     {IDM_QUIT, Always, [](EditorWindow& w, int) { PostMessageW(w.window_, WM_CLOSE, 0, 0); }},
     {IDM_UNDO, [](const EditorWindow& w) { return w.editor_.Document().CanUndo(); },
      [](EditorWindow& w, int) { w.editor_.Change([](PlanDocument& document) { document.Undo(); }); }},
