@@ -58,7 +58,10 @@ fs::path BehindLinks(const fs::path& path) {
 }
 
 /// Error 58 for what exists and is not to be overwritten, 75 for what is no file, 70 for a protected file.
-void MakeSureItMayBeWritten(const std::u16string& path, bool overwrite) {
+void MakeSureItMayBeWritten(const std::u16string& path, bool overwrite, const std::u16string& fullPath) {
+    // On Windows the names of devices (NUL, COM1, with any extension) lead there from every folder.
+    if (fullPath.starts_with(u"\\\\.\\"))
+        throw RunTime(base::RunTimeError::PathFileAccess);
     const Kind kind = KindOf(path);
     if (kind == Kind::Missing)
         return;
@@ -103,7 +106,9 @@ void OnTarget(const std::u16string& path, Work work) {
 void Targets::Claim(const std::u16string& path) {
     if (!claimed_.insert(OneSpelling(path)).second)
         throw RunTime(base::RunTimeError::FileExists);
-    OnTarget(path, [&] { MakeSureItMayBeWritten(path, run_.options.overwrite); });
+    OnTarget(path, [&] {
+        MakeSureItMayBeWritten(path, run_.options.overwrite, run_.OnSystem().files.FullPath(path));
+    });
 }
 
 void Targets::Write(const std::u16string& path, std::string_view bytes) const {

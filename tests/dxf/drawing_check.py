@@ -1,10 +1,11 @@
 """drawing_check.py QSYMBOL READERS CATALOGUE: the complete drawing of a catalogue, read by everyone who reads drawings.
 
-ezdxf audits it, dxflib, dime (both in READERS) and GDAL find the same entities. What ezdxf draws of a block and the SVG picture of the same symbol must agree: both are
+ezdxf audits it, dxflib, dime (both in READERS) and GDAL find the same entities, LibreCAD prints it. What ezdxf draws of a block and the SVG picture of the same symbol must agree: both are
 rasterised 400 pixels wide, and a pixel agrees when the other picture has nearly its colour at most 2 pixels away. Pairs
 of pictures are left in build/test-output."""
 
 import collections
+import os
 import pathlib
 import re
 import shutil
@@ -93,6 +94,19 @@ def check_readers(readers, path, counts):
     fields = [(feature.GetField("SubClasses") or "", feature.GetField("Layer")) for feature in layer]
     expect(any("Möbel" == layer for _, layer in fields), "GDAL: layers")
     expect(layer.GetFeatureCount() >= counts["INSERT"] * 2, "GDAL: features", layer.GetFeatureCount())
+
+
+def check_librecad(path, folder):
+    """LibreCAD prints the drawing on one page, with lines and with colours. It prints nothing of a drawing that it cannot read."""
+    home = {**os.environ, "HOME": str(folder), "XDG_RUNTIME_DIR": str(folder), "QT_QPA_PLATFORM": "offscreen"}
+    subprocess.run(["librecad", "dxf2pdf", "-a", "-t", folder, path], env=home, check=True, capture_output=True, timeout=120)
+    subprocess.run(["pdftoppm", "-r", "72", "-png", "-singlefile", path.with_suffix(".pdf"), folder / "page"], check=True)
+    page = pyplot.imread(folder / "page.png")[:, :, :3]
+    ink, coloured = (page.min(axis=2) < 0.9).mean(), (page.max(axis=2) - page.min(axis=2) > 0.1).mean()
+    print(f"LibreCAD prints {100 * ink:.1f} % ink, {100 * coloured:.1f} % of the page in colours")
+    expect(ink > 0.08 and coloured > 0.04, "LibreCAD", ink, coloured)
+    OUTPUT.mkdir(parents=True, exist_ok=True)
+    pyplot.imsave(OUTPUT / "drawing-librecad.png", page)
 
 
 def know_arial():
@@ -209,6 +223,7 @@ def main():
         counts = entity_counts(document)
         print(symbols, "symbols,", counts)
         check_readers(readers, drawing, counts)
+        check_librecad(drawing, folder)
         compared = compare_pictures(document, folder / "svg", folder)
         for unit, number in (("cm", 5), ("m", 6)):
             subprocess.run([program, "dxf", "-f", *common, "--units", unit, source / "Bad/WC.syt", drawing], check=True)

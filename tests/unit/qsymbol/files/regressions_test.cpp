@@ -32,7 +32,7 @@ TEST(Regressions, Findings) {
     Replay("tests/data/regressions/number", support::BrokenNumberPromise, 1);
 }
 
-TEST(Regressions, SeedsOfTheFuzzers) {
+TEST(Regressions, SeedsAndCorpora) {
     constexpr std::pair<const char*, std::string (*)(std::string_view)> kFuzzers[] = {
         {"text_reader", support::BrokenTextPromise},     {"binary_reader", support::BrokenBinaryPromise},
         {"import_reader", support::BrokenImportPromise}, {"number_reader", support::BrokenNumberPromise},
@@ -41,6 +41,7 @@ TEST(Regressions, SeedsOfTheFuzzers) {
     };
     for (const auto& [name, oracle] : kFuzzers) {
         Replay("tests/fuzz/seeds/" + std::string(name), oracle, 10);
+        Replay("tests/fuzz/corpus/" + std::string(name), oracle, 50);
     }
 }
 
