@@ -15,7 +15,6 @@ namespace {
 template <class Oracle>
 void Replay(const std::string& folder, Oracle oracle, std::size_t least) {
     std::size_t count = 0;
-    ASSERT_TRUE(std::filesystem::exists(support::InSources(folder))) << folder;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(support::InSources(folder))) {
         if (!entry.is_regular_file())
             continue;
@@ -41,7 +40,9 @@ TEST(Regressions, SeedsAndCorpora) {
     };
     for (const auto& [name, oracle] : kFuzzers) {
         Replay("tests/fuzz/seeds/" + std::string(name), oracle, 10);
-        Replay("tests/fuzz/corpus/" + std::string(name), oracle, 50);
+        if (const std::string corpus = "tests/fuzz/corpus/" + std::string(name); std::filesystem::exists(
+                support::InSources(corpus))) // there is none before the first "scripts/fuzz --keep"
+            Replay(corpus, oracle, 50);
     }
 }
 
