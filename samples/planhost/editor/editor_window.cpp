@@ -133,7 +133,11 @@ LRESULT EditorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CREATE: CreateParts(); return status_ != nullptr ? 0 : -1;
     case WM_SIZE: Resize(); return 0;
     case kDotsChanged: TakeDots(*reinterpret_cast<const RECT*>(lParam)); return 0;
-    case WM_SETFOCUS: FocusPlan(); return 0;
+    case WM_ACTIVATE:
+        if (LOWORD(wParam) == WA_INACTIVE)
+            focus_ = GetFocus();
+        break;
+    case WM_SETFOCUS: SetFocus(IsChild(window_, focus_) != FALSE ? focus_ : plan_.Window()); return 0;
     case WM_MOUSEWHEEL: SendMessageW(plan_.Window(), message, wParam, lParam); return 0;
     case WM_COMMAND: Execute(LOWORD(wParam)); return 0;
     case WM_INITMENUPOPUP: PrepareMenu(reinterpret_cast<HMENU>(wParam)); return 0;

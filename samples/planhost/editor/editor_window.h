@@ -75,6 +75,7 @@ private:
     Autosave autosave_;
     std::unique_ptr<PaletteStrip> palette_;
     HWND window_ = nullptr;
+    HWND focus_ = nullptr; ///< the part that had the keyboard when another window got it
     HWND status_ = nullptr;
     std::vector<std::wstring> statusTexts_;
     std::wstring title_;

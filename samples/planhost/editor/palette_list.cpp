@@ -1,6 +1,6 @@
 #include "palette_list.h"
 
-#include "resource.h"
+#include "../text.h"
 
 #include <windowsx.h>
 
@@ -80,11 +80,14 @@ void PaletteList::ModelChanged(bool selectFirst) {
 }
 
 void PaletteList::SectionsChanged() {
+    // What changes is at the top, so places stay the same from the end.
     const std::size_t before = layout_.Tiles();
     const int height = layout_.Height();
     Arrange();
-    if (selected_)
-        *selected_ = std::min(*selected_ + layout_.Tiles() - before, layout_.Tiles() - 1);
+    if (selected_) {
+        const std::size_t fromEnd = before - *selected_;
+        selected_ = layout_.Tiles() - std::min(fromEnd, layout_.Tiles());
+    }
     if (top_ > 0)
         ScrollTo(top_ + layout_.Height() - height);
 }
@@ -323,7 +326,12 @@ LRESULT PaletteList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND: return 1; // the picture covers everything
     case WM_PAINT: {
         PAINTSTRUCT paint;
-        Paint(BeginPaint(window_, &paint));
+        const HDC dc = BeginPaint(window_, &paint);
+        try {
+            Paint(dc);
+        } catch (const Failure&) {
+            // No memory for a picture: the next painting tries again.
+        }
         EndPaint(window_, &paint);
         return 0;
     }

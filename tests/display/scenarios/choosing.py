@@ -38,17 +38,23 @@ def run():
         editor.answer("1600", "Escape")  # its width
         editor.wait_for_hint("markiert Symbole")
 
-        editor.plan = folder() / "neu.plan"
+        # The dialog takes a "+" for a separator.
+        place = folder() / "Haus + Hof"
+        place.mkdir()
+        editor.plan = place / "neu.plan"
         editor.key("ctrl+s")
         editor.answer_with_file("Plan speichern", editor.plan)
         editor.wait_for_window("neu.plan – Planhost")
         require(len(symbols_of(editor.plan)) == 1, "symbols")
         require_symbol(symbols_of(editor.plan)[0], "Sofa zweisitzig", editor.place(target), 0)
 
-        # Pictures of the whole catalogue come beside the plan.
+        # Pictures of the whole catalogue come beside the plan, and the editor says so before.
         editor.key("F2")
-        editor.answer("Symbol auswählen", "alt+j")
-        wait_for("95 pictures", lambda: len(list(folder().glob("*.JPG"))) == 95)
+        editor.desktop.window("#32770", "Symbol auswählen")
+        hints = [window.status[0] for window in editor.desktop.windows() if window.status]
+        require(any("Bilder aller Symbole kommen nach " in hint for hint in hints), "hint", hints)
+        editor.key("alt+j")
+        wait_for("95 pictures", lambda: len(list(place.glob("*.JPG"))) == 95)
         editor.answer("Symbol auswählen", "Escape")
         editor.wait_for_hint("markiert Symbole")
         editor.quit()
