@@ -56,7 +56,8 @@ declare -A PACKAGES=(
 
 # packages NAME…: installs the Debian packages that are missing, or names the command that would. A name with a @ stands
 # for a line of the table above.
-packages() {
+packages() { one_at_a_time packages packages_now "$@"; }
+packages_now() {
     local missing=() all=() name
     for name in "$@"; do
         # shellcheck disable=SC2206 # the lists are words
@@ -85,11 +86,20 @@ packages() {
     step_done
 }
 
-# build PRESET [TARGET…]: configures when needed and builds.
-build() {
-    local preset=$1 targets=() log=$ROOT/build/logs/configure-$1.log
+# one_at_a_time NAME COMMAND…: scripts may run side by side; what two of them cannot do at once waits.
+one_at_a_time() {
+    local lock=$ROOT/build/$1.lock
     shift
-    [ $# -gt 0 ] && targets=(--target "$@")
+    (
+        flock 9
+        "$@" 9>&-
+    ) 9>"$lock"
+}
+
+# configure PRESET: where that has not been done.
+configure() { one_at_a_time "$1" configure_now "$1"; }
+configure_now() {
+    local preset=$1 log=$ROOT/build/logs/configure-$1.log
     # A build tree from another place or a failed configuration is made anew.
     if [ -f "build/$preset/CMakeCache.txt" ] &&
         { ! grep -qx "CMAKE_HOME_DIRECTORY:INTERNAL=$ROOT" "build/$preset/CMakeCache.txt" ||
@@ -100,6 +110,14 @@ build() {
         cat "$log" >&2
         exit 1
     }
+}
+
+# build PRESET [TARGET…]: configures when needed and builds.
+build() {
+    local preset=$1 targets=()
+    shift
+    [ $# -gt 0 ] && targets=(--target "$@")
+    configure "$preset"
     # Ninja shows [n/m] where it finds a terminal.
     if [ -n "$PROGRESS" ]; then
         cmake --build --preset "$preset" -j "$JOBS" "${targets[@]}" >"$PROGRESS"

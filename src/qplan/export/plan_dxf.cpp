@@ -10,26 +10,28 @@
 
 namespace qplan {
 
-void ComposePlanDxf(const Plan& given, qsymbol::DrawingUnit unit, const base::ByteSink& sink) {
-    const Plan plan = given; // what the host's symbols do to the plan meanwhile is no matter of this drawing
+void ComposePlanDxf(const Plan& plan, qsymbol::DrawingUnit unit, const base::ByteSink& sink) {
+    // What the host's symbols do to the plan meanwhile is no matter of this drawing.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const Plan own = plan;
     using qsymbol::DxfDrawing;
     DxfDrawing drawing(unit);
     const qsymbol::PlainTransformation whole{qmath::Transform()};
-    DrawFloors(plan.Sheet(), drawing.Draw(drawing.AddLayer(u"BOEDEN")), whole);
-    DrawWalls(plan.Sheet(), drawing.Draw(drawing.AddLayer(u"WAENDE")), whole);
+    DrawFloors(own.Sheet(), drawing.Draw(drawing.AddLayer(u"BOEDEN")), whole);
+    DrawWalls(own.Sheet(), drawing.Draw(drawing.AddLayer(u"WAENDE")), whole);
 
     const DxfDrawing::Layer layer = drawing.AddLayer(u"SYMBOLE");
     std::vector<std::optional<DxfDrawing::Block>> blocks;
-    for (const Placement* next = plan.NextAfter(0); next != nullptr; next = plan.NextAfter(next->id)) {
+    for (const Placement* next = own.NextAfter(0); next != nullptr; next = own.NextAfter(next->id)) {
         const Placement& placement = *next;
         if (placement.symbol >= blocks.size())
             blocks.resize(placement.symbol + 1);
         std::optional<DxfDrawing::Block>& block = blocks[placement.symbol];
         if (!block)
-            block = drawing.AddBlock(plan.NameOf(placement), *plan.SymbolOf(placement)->Value());
+            block = drawing.AddBlock(own.NameOf(placement), *own.SymbolOf(placement)->Value());
         drawing.Insert(*block, layer, placement.position);
     }
-    DrawLettering(plan.Sheet(), drawing.Draw(drawing.AddLayer(u"RAEUME")), whole);
+    DrawLettering(own.Sheet(), drawing.Draw(drawing.AddLayer(u"RAEUME")), whole);
     drawing.Compose(sink);
 }
 

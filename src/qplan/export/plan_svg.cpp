@@ -56,7 +56,7 @@ void Include(qsymbol::Extent& extent, const qsymbol::Extent& bounds, const Symbo
 
 class PlanPicture {
 public:
-    PlanPicture(const Plan& plan, const base::ByteSink& sink) : plan_(plan), sink_(sink) {}
+    PlanPicture(Plan plan, const base::ByteSink& sink) : plan_(std::move(plan)), sink_(sink) {}
 
     void Compose() {
         DrawSymbols();

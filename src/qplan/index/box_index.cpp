@@ -32,6 +32,7 @@ void BoxIndex::Settle() {
 
 BoxIndex::Descent::Descent(BoxIndex& index, const WorldBox& window) : window_(window) {
     index.Settle();
+    // NOLINTNEXTLINE(cppcoreguidelines-prefer-member-initializer): they are settled just now
     trees_ = index.trees_;
     constexpr std::size_t kUsual = 64;
     heap_.reserve(kUsual);

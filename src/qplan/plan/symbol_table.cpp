@@ -34,6 +34,7 @@ void SymbolTable::SetSource(std::shared_ptr<SymbolSource> source) {
         std::vector<Entry> entries;
         const std::uint64_t before = changes_;
         entries.reserve(entries_.size());
+        // NOLINTNEXTLINE(modernize-loop-convert): a host's source may add entries while it is asked
         for (std::size_t i = 0; i < entries_.size(); ++i) {
             std::u16string name = entries_[i].name;
             entries.push_back(EntryOf(name, Find(*source, name)));
