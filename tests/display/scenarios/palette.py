@@ -1,7 +1,9 @@
 """Symbols come from the palette into the plan: found, clicked, dragged, by keys alone; favourites and recent ones on top."""
 
+import shutil
+
 from checks import require, require_symbol
-from editor import ROOM, Editor, copy_of, symbols_of
+from editor import ROOM, Editor, copy_of, folder, symbols_of
 
 FILTER = (100, 18)  # from the palette's left top
 FIRST = (58, 138)  # the middle of the first tile; the next one is beside it
@@ -95,6 +97,16 @@ def run():
         require(not editor.status()[0].startswith(("Liegestuhl", "Küchenzeile", "Grill")), "not scrolled", editor.status())
         require(editor.status()[3] == zoom, "zoomed", editor.status())
         editor.key("Escape")
+        editor.key("ctrl+f")
+        editor.desktop.type("grill")
+
+        # A symbol that was added meanwhile is there when the catalogue is loaded anew.
+        shutil.copy(folder() / "katalog/Möbel/Sofa.syb", folder() / "katalog/Garten/Gartenbank.syb")
+        editor.key("Down", "Menu", "Down", "Down", "Down", "Return")
+        editor.key("ctrl+f", "Tab", "a", "ctrl+f")
+        editor.desktop.type("gartenbank")
+        editor.key("Return")
+        expect("Gartenbank")
         editor.key("ctrl+f")
         editor.desktop.type("grill")
 
