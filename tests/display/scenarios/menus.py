@@ -31,6 +31,16 @@ def run():
         editor.wait_for_window("zwei.plan – Planhost")
         editor.wait_for_count("4 Symbole")
 
+        # The plan before that one is the second of the recent ones.
+        editor.key("ctrl+shift+s")
+        editor.answer_with_file("Plan speichern", folder() / "drei.plan")
+        editor.wait_for_window("drei.plan – Planhost")
+        editor.key("alt+p")
+        editor.desktop.window("#32768")
+        editor.key("z")
+        editor.key("2")
+        editor.wait_for_window("zwei.plan – Planhost")
+
         # By the menu alone: everything marked, then the program left.
         editor.key("alt+b")
         editor.desktop.window("#32768")
