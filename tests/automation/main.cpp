@@ -1,3 +1,4 @@
+#include "support/failure.h"
 #include "support/servers.h"
 
 #include <windows.h>
@@ -70,6 +71,8 @@ int main(int argc, char** argv) {
     SetUnhandledExceptionFilter(EndOnCrash);
     testing::InitGoogleMock(&argc, argv);
     const Way way = WayOf(argc, argv);
+    if (way.multithreaded)
+        support::ExpectProxies();
     if (FAILED(CoInitializeEx(nullptr, way.multithreaded ? COINIT_MULTITHREADED : COINIT_APARTMENTTHREADED)))
         return 2;
     testing::AddGlobalTestEnvironment(new RegisteredServers(way)); // GoogleTest owns it

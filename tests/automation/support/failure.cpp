@@ -11,6 +11,16 @@
 
 namespace support {
 
+namespace {
+
+bool g_throughProxies = false;
+
+} // namespace
+
+void ExpectProxies() {
+    g_throughProxies = true;
+}
+
 std::ostream& operator<<(std::ostream& out, const Failure& failure) {
     const auto flags = out.flags();
     out << "0x" << std::hex << std::uppercase << std::setw(8) << std::setfill('0')
@@ -40,7 +50,7 @@ Failure RunTimeError(int number, const wchar_t* source) {
         {438, L"Objekt unterstützt diese Eigenschaft oder Methode nicht"},
         {457, L"Dieser Schlüssel ist bereits einem Element dieser Auflistung zugeordnet"},
     };
-    return {Numbered(number), source, kTexts.at(number)};
+    return {Numbered(number), source, kTexts.at(number), false};
 }
 
 Failure LibraryError(int number, const wchar_t* source) {
@@ -49,7 +59,7 @@ Failure LibraryError(int number, const wchar_t* source) {
         {3502, L"Kopfzeile fehlerhaft."},
         {3503, L"Keine gültige Extension für eine Symboldatei."},
     };
-    return {Numbered(number), source, kTexts.at(number)};
+    return {Numbered(number), source, kTexts.at(number), false};
 }
 
 HRESULT Throw(const Failure& failure) {
@@ -80,6 +90,7 @@ Failure Outcome(HRESULT status) {
     if (SUCCEEDED(status))
         failure = {};
     failure.status = status;
+    failure.statusOnly = g_throughProxies && failure.source.empty() && failure.description.empty();
     return failure;
 }
 

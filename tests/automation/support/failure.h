@@ -15,7 +15,12 @@ struct Failure {
     std::wstring source;
     std::wstring description;
 
-    bool operator==(const Failure&) const = default;
+    bool statusOnly = false; ///< all that a proxy of a virtual table brought; its texts are not compared
+
+    bool operator==(const Failure& other) const {
+        return status == other.status && (statusOnly || other.statusOnly ||
+                                          (source == other.source && description == other.description));
+    }
 };
 
 std::ostream& operator<<(std::ostream& out, const Failure& failure);
@@ -30,6 +35,9 @@ Failure RunTimeError(int number, const wchar_t* source = L"QSymbol");
 
 /// The library's own error of a number with its built-in text.
 Failure LibraryError(int number, const wchar_t* source);
+
+/// From now on calls go through proxies. Of an error through the vtable they carry the status alone; late bound calls bring all.
+void ExpectProxies();
 
 /// The outcome of a call through the vtable; takes the thread's error information away.
 Failure Outcome(HRESULT status);
