@@ -67,10 +67,6 @@ std::string ReadWholeFile(FileSystem& files, const std::u16string& path, Reach r
     return bytes;
 }
 
-void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, std::string_view bytes) {
-    WriteWholeFile(files, path, mode, [&](const ByteSink& sink) { sink(bytes); });
-}
-
 void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, const Composer& compose) {
     const std::unique_ptr<File> file = files.Open(path, mode);
     compose([&](std::string_view bytes) { Write(*file, bytes); });

@@ -16,9 +16,7 @@ using Reach = std::uint64_t (*)(std::string_view beginning);
 /// Errors of FileSystem::Open and File::Read, 7 for a file that memory cannot hold.
 std::string ReadWholeFile(FileSystem& files, const std::u16string& path, Reach reach = nullptr);
 
-/// Writes the bytes in one go and closes the file. Errors of FileSystem::Open and File.
-void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, std::string_view bytes);
-/// The same for bytes that come piece by piece. Errors of `compose` too.
+/// Writes bytes that come piece by piece and closes the file. Errors of FileSystem::Open, File and `compose`.
 void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, const Composer& compose);
 
 /// What becomes of that part of an old file that is longer than the new content.

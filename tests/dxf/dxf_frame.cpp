@@ -30,11 +30,13 @@ constexpr std::string_view kHead = "0\nSECTION\n2\nHEADER\n"
 } // namespace
 
 void BeginDxf(base::FileSystem& files, const std::u16string& path) {
-    base::WriteWholeFile(files, path, base::OpenMode::Replace, kHead);
+    base::WriteWholeFile(files, path, base::OpenMode::Replace,
+                         [](const base::ByteSink& sink) { sink(kHead); });
 }
 
 void EndDxf(base::FileSystem& files, const std::u16string& path) {
-    base::WriteWholeFile(files, path, base::OpenMode::Append, "0\nENDSEC\n0\nEOF\n");
+    base::WriteWholeFile(files, path, base::OpenMode::Append,
+                         [](const base::ByteSink& sink) { sink("0\nENDSEC\n0\nEOF\n"); });
 }
 
 } // namespace support

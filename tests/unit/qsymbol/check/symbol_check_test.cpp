@@ -62,6 +62,8 @@ TEST(SymbolCheck, TellsWhatIsWrong) {
                     s.elements[0].points[1] = {0, 0};
                 }),
                 ElementsAre("degenerate-element 1", "size-mismatch"));
+    EXPECT_THAT(Codes([](Symbol& s) { s.elements[0].points.resize(1); }),
+                ElementsAre("degenerate-element 1", "size-mismatch"));
     EXPECT_THAT(Codes([](Symbol& s) { s.elements[1].radius = s.elements[2].radius = 0; }),
                 ElementsAre("degenerate-element 2", "degenerate-element 3"));
     EXPECT_THAT(Codes([](Symbol& s) { s.elements[3].text.clear(); }), ElementsAre("degenerate-element 4"));

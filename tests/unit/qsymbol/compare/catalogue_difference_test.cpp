@@ -67,6 +67,24 @@ TEST(SymbolDifference, NamesFieldsAndPoints) {
     EXPECT_THAT(found.elements[1].changes, ElementsAre(Change{"bold", ValueOf(false), ValueOf(true)}));
 }
 
+TEST(SymbolDifference, TellsBothTexts) {
+    Symbol before = Of({500});
+    before.elements[0].text = u"WC";
+    Symbol after = before;
+    after.elements[0].text = u"Bad";
+    EXPECT_THAT(Compare(before, after, Precision::Exact).elements.at(0).changes,
+                ElementsAre(Change{"text", ValueOf(std::u16string(u"WC")), ValueOf(std::u16string(u"Bad"))}));
+}
+
+/// What is not drawn is no content, and text files do not keep it.
+TEST(CatalogueDifference, ElementsWithoutAKindDoNotTellSymbolsApart) {
+    Symbol more = Of({1});
+    more.elements.push_back(Element(ElementType::Undefined, 7));
+    const auto found = Compare({Named(u"Alt", Of({1}), true)}, {Named(u"Neu", more, true)});
+    ASSERT_EQ(found.size(), 1u);
+    EXPECT_EQ(found[0].before + u">" + found[0].after, u"Alt>Neu");
+}
+
 TEST(SymbolDifference, TextFilesKeepHundredthsOfDegreesAndWholeFontSizes) {
     Symbol before = Of({500});
     before.elements[0].font = FontRecord{.size = 12};

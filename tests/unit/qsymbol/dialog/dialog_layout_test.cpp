@@ -158,3 +158,8 @@ TEST(CentredOver, ATooLargeWindowShowsItsTopLeftCorner) {
 }
 
 } // namespace
+
+TEST(DialogLayout, ThePreviewsMarginGrowsWithTheFont) {
+    EXPECT_EQ(qsymbol::PreviewMargin(kUsual), 6);
+    EXPECT_EQ(qsymbol::PreviewMargin(Scaled(2)), 12);
+}

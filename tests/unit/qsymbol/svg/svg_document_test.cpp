@@ -165,3 +165,12 @@ TEST(XmlText, HoldsAnyText) {
 }
 
 } // namespace
+
+/// A line without a second point, or without a pen, is nothing.
+TEST(SvgSurface, ALineOfOnePointIsNotDrawn) {
+    qsymbol::SvgSurface surface;
+    surface.Polyline(std::vector<qmath::Point>{{3, 4}});
+    EXPECT_EQ(surface.Elements(), "");
+    surface.Polyline(std::vector<qmath::Point>{{3, 4}, {5, 4}});
+    EXPECT_NE(surface.Elements(), "");
+}
