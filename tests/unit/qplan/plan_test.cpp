@@ -157,7 +157,10 @@ TEST_F(PlanOfSquares, TheNextCallSeesEveryChange) {
     catalogue->Put(u"KLEIN", Square(1000));
     EXPECT_THAT(plan.HitTest(view, {400, 0}), Optional(id));
     EXPECT_EQ(plan.Extent(1)->right, 500);
+    const qmath::Rect around{-2000, -2000, 2000, 2000};
+    EXPECT_THAT(plan.HitRect(view, around), ElementsAre(id));
     plan.Move(id, {{5000, 0}, 0});
+    EXPECT_THAT(plan.HitRect(view, around), IsEmpty());
     EXPECT_FALSE(plan.HitTest(view, {400, 0}));
     EXPECT_THAT(plan.HitTest(view, {5400, 0}), Optional(id));
     auto other = std::make_shared<OwnCatalogue>();
