@@ -67,6 +67,18 @@ def draws_what_the_host_draws():
         raise AssertionError("zimmer.png is another picture")
 
 
+def runs_the_example_for_jscript():
+    """What the documentation shows says what the comment behind it promises."""
+    text = pathlib.Path("docs/automation.md").read_text(encoding="utf-8")
+    (example,) = re.findall(r"^ *```js\n(.*?)```", text, re.M | re.S)
+    script = OUT / "beispiel.js"
+    script.write_text(example, encoding="ascii")
+    run = '. scripts/common.sh; own_home; wine_run cscript //nologo "$(windows "$1")"'
+    said = subprocess.run(["bash", "-c", run, "-", script], capture_output=True, text=True).stdout.strip()
+    if said != example.rsplit("//", 1)[1].strip():
+        raise AssertionError(f"the example says {said}")
+
+
 def main():
     cases = {
         "demo": lambda: subprocess.run(["scripts/demo"], check=True),
@@ -76,6 +88,7 @@ def main():
              "samples/katalog", "build/native/tests/dxf/dxflib_dump"], check=True),
         "pictures of scripts": draws_what_the_host_draws,
         "a failed export": keeps_the_old_plan,
+        "the example for JScript": runs_the_example_for_jscript,
         "a name in two folders": tells_of_a_name_in_two_folders,
     }  # fmt: skip
     failed = 0

@@ -45,7 +45,8 @@ protected:
     }
 
     /// Whatever a test draws, the GDI has as many objects afterwards as before, give or take what the system makes once
-    /// and keeps.
+    /// and keeps. Run again, the same tests leave nothing; a hundred drawings have to stay below it as well, which one object left
+    /// by each would not.
     static constexpr long kSystemsOwn = 24;
     void SetUp() override;
     void TearDown() override;
