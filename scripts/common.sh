@@ -49,7 +49,7 @@ declare -A PACKAGES=(
     [display]="xvfb xdotool python3"
     [german]="locales"
     [docs]="python3-sphinx python3-myst-parser furo"
-    [packages]="wixl faketime dpkg-dev python3"
+    [packages]="wixl msitools faketime dpkg-dev python3"
     [x86]=""
     [lint]="$COMPILING clang-format clang-tidy g++ googletest python3 shellcheck"
 )

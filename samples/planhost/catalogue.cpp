@@ -69,7 +69,8 @@ Ptr<_CSymbolColl> OpenCatalogue(const fs::path& folder) {
         std::ranges::move(EntriesOf(*symbols.Get(), folder), std::back_inserter(entries));
     }
     if (entries.empty())
-        throw Failure{L"Keine Symbole (*.syb) im Ordner " + folder.wstring()};
+        throw Failure{L"Keine Symbole (*.syb) im Ordner " + folder.wstring() +
+                      L". Aus Textdateien entstehen sie mit: planhost convert TEXTORDNER KATALOGORDNER"};
     return InOrder(entries);
 }
 

@@ -33,6 +33,24 @@ std::wstring NumberText(HRESULT status) {
     return buffer;
 }
 
+/// What to do about libraries that do not load; empty for any other failure.
+std::wstring MissingLibraryText(HRESULT status) {
+    const std::wstring bits = std::to_wstring(sizeof(void*) * 8);
+    const std::wstring libraries = L"QMath.dll, QSymbol.dll und QPlan.dll";
+    if (status == REGDB_E_CLASSNOTREG)
+        return libraries + L" sind für Programme mit " + bits +
+               L" Bit nicht registriert. In ihrem Ordner, für jede: regsvr32 QMath.dll";
+    // The last one is Wine's word for it; the libraries themselves never say so.
+    if (status == HRESULT_FROM_WIN32(ERROR_MOD_NOT_FOUND) || status == CO_E_DLLNOTFOUND ||
+        status == E_ACCESSDENIED)
+        return libraries + L" gehören in den Ordner dieses Programms; mindestens eine fehlt dort.";
+    if (status == HRESULT_FROM_WIN32(ERROR_BAD_EXE_FORMAT))
+        return libraries + L" sind nicht die für " + bits +
+               L" Bit. Dieses Programm braucht die aus dem Ordner " +
+               (sizeof(void*) == 8 ? L"x64." : L"x86.");
+    return {};
+}
+
 } // namespace
 
 ComThread::ComThread() {
@@ -47,8 +65,8 @@ void Check(HRESULT status, const std::wstring& what) {
     if (SUCCEEDED(status))
         return;
     std::wstring message = what.empty() ? L"" : what + L": ";
-    if (status == REGDB_E_CLASSNOTREG)
-        message += L"QMath.dll und QSymbol.dll sind nicht registriert (regsvr32).";
+    if (const std::wstring missing = MissingLibraryText(status); !missing.empty())
+        message += missing;
     else
         message += CalledObjectsText(status) + NumberText(status);
     throw Failure{message};

@@ -14,7 +14,11 @@ Const UsageError = 1001, DifferenceError = 1002
 
 On Error Resume Next
 Main
-If Err.Number <> 0 Then
+If Err.Number = 429 Then
+    WScript.Echo "Die Bibliotheken sind fuer diesen Skripthost nicht registriert. In ihrem Ordner: " & _
+        "regsvr32 QMath.dll, dann QSymbol.dll (" & Err.Description & ")"
+    WScript.Quit 1
+ElseIf Err.Number <> 0 Then
     WScript.Echo "Fehler " & Err.Number & " in " & Err.Source & ": " & Err.Description
     WScript.Quit 1
 End If
@@ -55,7 +59,8 @@ Sub ListCatalogue(Folder)
     Set Catalogue = CreateObject("QSymbol.CSymbolColl")
     ReadFolders Catalogue, Folder
     If Catalogue.Count = 0 Then
-        Err.Raise 53, "katalog.vbs", "Keine Symbole (*.syb) im Ordner " & Folder
+        Err.Raise 53, "katalog.vbs", "Keine Symbole (*.syb) im Ordner " & Folder & _
+            ". Aus Textdateien entstehen sie mit: qsymbol convert -r --to syb TEXTORDNER KATALOGORDNER"
     End If
     For Each Symbol In Catalogue
         WScript.Echo Symbol.Name & ": " & Symbol.Width / Millimetre & " x " & Symbol.Height / Millimetre & _
