@@ -4,7 +4,7 @@
 #include "qsymbol/tools/symbol_input.h"
 #include "qsymbol/tools/symbol_tool.h"
 #include "support/recording_surface.h"
-#include "unit/tools/value_symbol.h"
+#include "unit/qsymbol/tools/value_symbol.h"
 
 #include <functional>
 #include <map>

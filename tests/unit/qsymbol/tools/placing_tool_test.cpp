@@ -2,8 +2,8 @@
 #include "qsymbol/tools/symbol_tool.h"
 
 #include "support/error_number_of.h"
-#include "unit/tools/recorded_target.h"
-#include "unit/tools/value_symbol.h"
+#include "unit/qsymbol/tools/recorded_target.h"
+#include "unit/qsymbol/tools/value_symbol.h"
 
 #include <gtest/gtest.h>
 

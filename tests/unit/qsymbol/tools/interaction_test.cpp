@@ -1,5 +1,5 @@
 #include "support/in_sources.h"
-#include "unit/tools/native_tool_host.h"
+#include "unit/qsymbol/tools/native_tool_host.h"
 
 #include <gtest/gtest.h>
 

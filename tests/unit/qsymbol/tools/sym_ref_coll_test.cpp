@@ -1,7 +1,7 @@
 #include "qsymbol/tools/CSymRefColl.h"
 
 #include "support/error_number_of.h"
-#include "unit/tools/value_symbol.h"
+#include "unit/qsymbol/tools/value_symbol.h"
 
 #include <gtest/gtest.h>
 

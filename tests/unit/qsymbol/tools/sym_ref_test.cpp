@@ -4,8 +4,8 @@
 #include "support/elements.h"
 #include "support/error_number_of.h"
 #include "support/recording_surface.h"
-#include "unit/tools/recorded_target.h"
-#include "unit/tools/value_symbol.h"
+#include "unit/qsymbol/tools/recorded_target.h"
+#include "unit/qsymbol/tools/value_symbol.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "unit/tools/native_tool_host.h"
+#include "unit/qsymbol/tools/native_tool_host.h"
 
 #include "base/error.h"
 #include "qmath/math_util.h"
 #include "support/elements.h"
-#include "unit/tools/recorded_target.h"
+#include "unit/qsymbol/tools/recorded_target.h"
 
 #include <stdexcept>
 
