@@ -2,6 +2,7 @@
 
 #include "base/file.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -18,8 +19,10 @@ enum class OpenMode {
 
 /// One file of a folder listing.
 struct FolderEntry {
-    std::u16string name;
     std::u16string path;
+    std::size_t nameStart = 0; ///< where in the path the name begins
+
+    std::u16string_view Name() const { return std::u16string_view(path).substr(nameStart); }
 };
 
 /// Seam: the file system. Paths are UTF-16 with the platform's separators.

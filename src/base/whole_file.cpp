@@ -8,26 +8,6 @@ namespace base {
 
 namespace {
 
-/// A file up to this size is read at once; of a larger one so much is its beginning.
-constexpr std::uint64_t kBeginning = 1U << 20;
-
-/// Reads on until there are so many bytes or the file ends. False at its end.
-bool ReadUpTo(File& file, std::string& bytes, std::uint64_t size) {
-    if (size > SIZE_MAX / 2)
-        Raise(RunTimeError::OutOfMemory);
-    std::size_t used = bytes.size();
-    bytes.resize(static_cast<std::size_t>(size));
-    while (used < bytes.size()) {
-        const std::size_t got = file.Read(bytes.data() + used, bytes.size() - used);
-        if (got == 0)
-            break;
-        used += got;
-    }
-    const bool all = used == bytes.size();
-    bytes.resize(used);
-    return all;
-}
-
 void Write(File& file, std::string_view bytes) {
     if (!bytes.empty())
         file.Write(bytes.data(), bytes.size());
@@ -51,21 +31,6 @@ std::u16string FreeNameBeside(FileSystem& files, const std::u16string& path) {
 }
 
 } // namespace
-
-std::string ReadWholeFile(FileSystem& files, const std::u16string& path, Reach reach) {
-    const std::unique_ptr<File> file = files.Open(path, OpenMode::Read);
-    const std::uint64_t size = file->Size();
-    std::string bytes;
-    bool more = ReadUpTo(*file, bytes, reach == nullptr ? size : std::min(size, kBeginning));
-    while (reach != nullptr && more && bytes.size() < size) {
-        const std::uint64_t needed = reach(bytes);
-        if (needed <= bytes.size())
-            break;
-        more = ReadUpTo(*file, bytes, std::min(size, std::max<std::uint64_t>(needed, 2 * bytes.size())));
-    }
-    file->Close();
-    return bytes;
-}
 
 void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, const Composer& compose) {
     const std::unique_ptr<File> file = files.Open(path, mode);

@@ -3,18 +3,10 @@
 #include "base/byte_sink.h"
 #include "base/file_system.h"
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace base {
-
-/// Says from a file's beginning how many of its bytes count. More than it was given: it has to see more.
-using Reach = std::uint64_t (*)(std::string_view beginning);
-
-/// The file's bytes, closed again. Of a large file only what counts by `reach` is read, and a little more.
-/// Errors of FileSystem::Open and File::Read, 7 for a file that memory cannot hold.
-std::string ReadWholeFile(FileSystem& files, const std::u16string& path, Reach reach = nullptr);
 
 /// Writes bytes that come piece by piece and closes the file. Errors of FileSystem::Open, File and `compose`.
 void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, const Composer& compose);

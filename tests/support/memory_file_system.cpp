@@ -121,7 +121,7 @@ std::vector<base::FolderEntry> MemoryFileSystem::ListFiles(const std::u16string&
     std::vector<base::FolderEntry> entries;
     for (const std::u16string& path : paths)
         if (FolderOf(path) == folder)
-            entries.push_back({path.substr(folder.size() + 1), path});
+            entries.push_back({path, folder.size() + 1});
     return entries;
 }
 

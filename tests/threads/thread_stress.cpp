@@ -15,6 +15,7 @@
 #include "support/scaled_transformation.h"
 #include "support/string_table.h"
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
@@ -68,6 +69,23 @@ std::string Work(int number) {
     return results + files.files[u"plan/a.dxf"];
 }
 
+/// Symbols of one file that all threads have in common and that nobody has looked at.
+std::vector<qsymbol::Symbol> CommonSymbols(const qsymbol::FormatRules& rules) {
+    qsymbol::Symbol symbol;
+    qsymbol::ParseBinary(symbol, qsymbol::ComposeBinary(support::WashRoom(), rules), rules);
+    return std::vector<qsymbol::Symbol>(500, symbol);
+}
+
+/// Looks at each of them, copies it, asks for its extent.
+bool AllWhole(const std::vector<qsymbol::Symbol>& common) {
+    const qsymbol::ElementList expected = support::WashRoom().elements;
+    return std::all_of(common.begin(), common.end(), [&](const qsymbol::Symbol& symbol) {
+        const qsymbol::ElementList copy = symbol.elements;
+        return copy.size() == expected.size() && symbol.elements[0].points == expected[0].points &&
+               symbol.elements.Extent().drawn.left <= copy.Extent().drawn.right;
+    });
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -75,11 +93,16 @@ int main(int argc, char** argv) {
     const auto end = std::chrono::steady_clock::now() + duration;
     std::atomic<int> strays = 0;
     std::latch start(kThreads);
+    const platform::Windows1252 codePage;
+    const base::RegionalSettings regional = platform::GermanSettings();
+    const support::StringTable strings;
+    const std::vector<qsymbol::Symbol> common = CommonSymbols({codePage, regional, strings});
     std::vector<std::string> first(kThreads);
     std::vector<std::thread> threads;
     for (int number = 0; number < kThreads; ++number) {
         threads.emplace_back([&, number] {
             start.arrive_and_wait();
+            strays += AllWhole(common) ? 0 : 1;
             first[static_cast<std::size_t>(number)] = Work(number);
             while (std::chrono::steady_clock::now() < end)
                 strays += Work(number) != first[static_cast<std::size_t>(number)] ? 1 : 0;

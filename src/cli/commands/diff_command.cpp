@@ -1,5 +1,5 @@
+#include "base/file_content.h"
 #include "base/utf8.h"
-#include "base/whole_file.h"
 #include "cli/commands/command.h"
 #include "cli/commands/difference_text.h"
 #include "cli/commands/json_output.h"
@@ -33,7 +33,7 @@ constexpr std::string_view kNoFile = "/dev/null";
 base::RegionalSettings SettingsFor(const std::u16string& path, const Run& run) {
     if (run.options.decimal != Decimal::User || Extension(path) != u"syt")
         return run.Settings();
-    const std::string bytes = base::ReadWholeFile(run.OnSystem().files, path);
+    const std::string bytes = base::FileContent(run.OnSystem().files, path).Release();
     return qsymbol::DecimalSeparatorOf(bytes) == ',' ? CommaSettings() : PointSettings();
 }
 

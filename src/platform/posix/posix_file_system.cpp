@@ -178,9 +178,7 @@ std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& 
         const bool unclear = entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK;
         if (unclear ? IsFolder(name + "/" + entry->d_name) : entry->d_type == DT_DIR)
             continue;
-        std::u16string fileName = base::FromUtf8(entry->d_name);
-        std::u16string path = prefix + fileName;
-        entries.push_back({std::move(fileName), std::move(path)});
+        entries.push_back({prefix + base::FromUtf8(entry->d_name), prefix.size()});
     }
     return entries;
 }

@@ -146,8 +146,7 @@ std::vector<base::FolderEntry> Win32FileSystem::ListFiles(const std::u16string& 
     do {
         if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
             continue;
-        const std::u16string name(Utf16(found.cFileName));
-        entries.push_back({name, prefix + name});
+        entries.push_back({prefix + std::u16string(Utf16(found.cFileName)), prefix.size()});
     } while (FindNextFileW(search, &found) != FALSE);
     return entries;
 }

@@ -1,6 +1,6 @@
 #include "base/error.h"
+#include "base/file_content.h"
 #include "base/utf8.h"
-#include "base/whole_file.h"
 #include "qplan/files/plan_file.h"
 #include "qplan/files/plan_numbers.h"
 
@@ -216,7 +216,7 @@ void DecodePlan(Plan& plan, std::string_view bytes) {
 }
 
 void ReadPlan(Plan& plan, base::FileSystem& files, const std::u16string& path) {
-    DecodePlan(plan, base::ReadWholeFile(files, path));
+    DecodePlan(plan, base::FileContent(files, path).Bytes());
 }
 
 } // namespace qplan

@@ -17,13 +17,13 @@ std::u16string WithoutTrailingSeparator(std::u16string_view folder) {
 }
 
 bool IsBinarySymbol(const base::FolderEntry& entry) {
-    const std::u16string_view extension = qmath::GetExtension(entry.name);
+    const std::u16string_view extension = qmath::GetExtension(entry.Name());
     return extension.size() == 3 && base::LowerCase(extension) == u"syb";
 }
 
 /// The key under which a list would name this file: without dot and three-letter extension, upper case.
 std::u16string ListName(const base::FolderEntry& entry) {
-    return base::UpperCase(std::u16string_view(entry.name).substr(0, entry.name.size() - 4));
+    return base::UpperCase(entry.Name().substr(0, entry.Name().size() - 4));
 }
 
 } // namespace

@@ -24,7 +24,7 @@ public:
 
     std::size_t Left() const { return rest_.size(); }
 
-    std::uint16_t U16() { return Little<std::uint16_t>(Take(2).data()); }
+    std::uint16_t U16() { return LittleU16(Take(2).data()); }
     std::int32_t I32() { return LittleI32(Take(4).data()); }
     bool Bool() { return U16() != 0; }
     /// A 16-bit length and so many bytes.
@@ -37,6 +37,7 @@ public:
         std::memcpy(&target, &bits, sizeof target);
     }
 
+    static std::uint16_t LittleU16(const char* at) { return Little<std::uint16_t>(at); }
     static std::int32_t LittleI32(const char* at) {
         return static_cast<std::int32_t>(Little<std::uint32_t>(at));
     }

@@ -2,6 +2,7 @@
 
 #include "qsymbol/files/binary_format.h"
 #include "qsymbol/files/binary_input.h"
+#include "qsymbol/files/binary_survey.h"
 #include "qsymbol/files/library_error.h"
 #include "qsymbol/files/memory_budget.h"
 
@@ -23,29 +24,12 @@ bool TakeTag(BinaryInput& input) {
     return length == binary_format::kTag.size() && input.Take(length) == binary_format::kTag;
 }
 
-class BinaryReader {
+/// Makes records of a file's elements.
+class ElementReader {
 public:
-    BinaryReader(std::string_view bytes, const FormatRules& rules)
-        : input_(bytes), budget_(bytes.size()), rules_(rules) {}
+    ElementReader(BinaryInput& input, MemoryBudget& budget, const base::CodePage& codePage)
+        : input_(input), budget_(budget), codePage_(codePage) {}
 
-    void Read(Symbol& symbol) {
-        if (!TakeTag(input_))
-            Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromBinFile", rules_.strings);
-        symbol.width = input_.I32();
-        symbol.height = input_.I32();
-        symbol.refX = input_.I32();
-        symbol.refY = input_.I32();
-        const std::uint32_t count = CountOf(input_.I32());
-        // A table cannot be sized to no elements: that is this format's way, not an oversight.
-        if (count == 0)
-            base::Raise(base::RunTimeError::SubscriptOutOfRange);
-        budget_.Charge(count, sizeof(ElementRecord));
-        symbol.elements = ElementList(count);
-        for (ElementRecord& element : symbol.elements)
-            ReadElement(element);
-    }
-
-private:
     void ReadElement(ElementRecord& element) {
         element.type = static_cast<ElementType>(input_.I32());
         element.lineClosed = input_.Bool();
@@ -61,6 +45,7 @@ private:
         ReadFont(element.font.emplace());
     }
 
+private:
     void ReadPoints(std::vector<qmath::Point>& points) {
         const std::uint32_t count = CountOf(input_.I32());
         if (count == 0)
@@ -92,43 +77,69 @@ private:
         if (bytes.empty())
             text.clear();
         else
-            text = rules_.codePage.Decode(bytes);
+            text = codePage_.Decode(bytes);
     }
 
-    BinaryInput input_;
-    MemoryBudget budget_;
-    const FormatRules& rules_;
+    BinaryInput& input_;
+    MemoryBudget& budget_;
+    const base::CodePage& codePage_;
 };
+
+/// PackedElements::Unpack of this format. A whole file is so much longer than its records that no budget is missing.
+std::vector<ElementRecord> Unpack(std::string_view bytes, std::size_t count, const base::CodePage& codePage) {
+    BinaryInput input(bytes);
+    MemoryBudget budget(bytes.size());
+    ElementReader reader(input, budget, codePage);
+    std::vector<ElementRecord> elements(count);
+    for (ElementRecord& element : elements)
+        reader.ReadElement(element);
+    return elements;
+}
+
+/// Makes records at once, of a file that is not whole: up to where it fails.
+void ReadElements(ElementList& elements, std::uint32_t count, BinaryInput& input, MemoryBudget& budget,
+                  const base::CodePage& codePage) {
+    budget.Charge(count, sizeof(ElementRecord));
+    elements = ElementList(count);
+    ElementReader reader(input, budget, codePage);
+    for (ElementRecord& element : elements)
+        reader.ReadElement(element);
+}
 
 } // namespace
 
 std::u16string ParseBinary(Symbol& symbol, std::string_view bytes, const FormatRules& rules) {
-    BinaryReader(bytes, rules).Read(symbol);
+    BinaryInput input(bytes);
+    if (!TakeTag(input))
+        Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromBinFile", rules.strings);
+    symbol.width = input.I32();
+    symbol.height = input.I32();
+    symbol.refX = input.I32();
+    symbol.refY = input.I32();
+    const std::uint32_t count = CountOf(input.I32());
+    // A table cannot be sized to no elements: that is this format's way, not an oversight.
+    if (count == 0)
+        base::Raise(base::RunTimeError::SubscriptOutOfRange);
+    const BinarySurvey survey = SurveyBinary(bytes);
+    if (survey.result == BinarySurvey::Result::Whole) {
+        const std::string_view elements =
+            bytes.substr(survey.elementsBegin, survey.elementsEnd - survey.elementsBegin);
+        symbol.elements = PackedElements{std::string(elements), count, &rules.codePage, Unpack};
+    } else {
+        MemoryBudget budget(bytes.size());
+        ReadElements(symbol.elements, count, input, budget, rules.codePage);
+    }
     return {};
 }
 
 std::uint64_t BinaryReach(std::string_view beginning) {
-    BinaryInput input(beginning);
-    try {
-        if (!TakeTag(input))
-            return beginning.size();
-        input.Take(binary_format::kSizesSize);
-        for (std::uint32_t left = CountOf(input.I32()); left > 0; --left) {
-            input.Take(binary_format::kFieldsSize);
-            input.String();
-            for (std::uint32_t points = CountOf(input.I32()); points > 0; --points)
-                input.Take(binary_format::kPointSize);
-            if (input.Bool()) {
-                input.Take(binary_format::kFontStart);
-                input.String();
-                input.Take(binary_format::kFontEnd);
-            }
-        }
-    } catch (const base::Error& error) {
-        const bool tooShort = error.Number() == static_cast<std::int32_t>(base::RunTimeError::InputPastEnd);
-        return beginning.size() + (tooShort ? 1 : 0);
+    const BinarySurvey survey = SurveyBinary(beginning);
+    switch (survey.result) {
+    case BinarySurvey::Result::Whole: return survey.elementsEnd;
+    case BinarySurvey::Result::CutOff: return beginning.size() + 1;
+    case BinarySurvey::Result::Broken: break;
     }
-    return beginning.size() - input.Left();
+    return beginning.size();
 }
 
 } // namespace qsymbol

@@ -6,7 +6,8 @@
 
 namespace qsymbol {
 
-/// What turning a symbol into bytes and back depends on besides the two. The referenced objects outlive it.
+/// What turning a symbol into bytes and back depends on besides the two. The referenced objects outlive it, the code
+/// page also the symbols that are read by it: their elements are taken from the file's bytes when they are looked at.
 struct FormatRules {
     const base::CodePage& codePage;
     const base::RegionalSettings& regional;

@@ -1,5 +1,6 @@
 #include "qsymbol/files/symbol_file.h"
 
+#include "base/file_content.h"
 #include "base/whole_file.h"
 #include "qsymbol/files/library_error.h"
 #include "qsymbol/files/symbol_format.h"
@@ -35,8 +36,8 @@ bool MayOverwrite(const std::u16string& path, const FileEnvironment& environment
 void ReadFromFile(Symbol& symbol, const FileEnvironment& environment) {
     const SymbolFormat& format = ReadableFormat(symbol.filePath, environment);
     ResetContent(symbol);
-    const std::u16string notice = format.parse(
-        symbol, base::ReadWholeFile(environment.files, symbol.filePath, format.reach), environment);
+    const base::FileContent content(environment.files, symbol.filePath, format.reach);
+    const std::u16string notice = format.parse(symbol, content.Bytes(), environment);
     if (!notice.empty())
         environment.prompt.Notice(notice);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/file_content.h"
 #include "base/whole_file.h"
 #include "qsymbol/files/format_rules.h"
 #include "qsymbol/model/symbol.h"

@@ -13,9 +13,10 @@ class ComputedOnce {
 public:
     ComputedOnce() = default;
     ComputedOnce(const ComputedOnce& other) : value_(other.Copy()) {}
-    ComputedOnce(ComputedOnce&& other) noexcept : value_(other.value_.exchange(nullptr)) {}
+    ComputedOnce(ComputedOnce&& other) noexcept : value_(other.Take()) {}
     ComputedOnce& operator=(ComputedOnce other) noexcept {
-        delete value_.exchange(other.value_.exchange(nullptr));
+        delete Take();
+        value_.store(other.Take(), std::memory_order_relaxed);
         return *this;
     }
     ~ComputedOnce() { delete value_.load(std::memory_order_relaxed); }
@@ -34,10 +35,16 @@ public:
 
     void Drop() noexcept {
         if (value_.load(std::memory_order_relaxed) != nullptr)
-            delete value_.exchange(nullptr);
+            delete Take();
     }
 
 private:
+    /// Leaves nothing behind. Nobody else looks while a value moves or changes, so this needs no locked instruction.
+    const T* Take() noexcept {
+        const T* const present = value_.load(std::memory_order_relaxed);
+        value_.store(nullptr, std::memory_order_relaxed);
+        return present;
+    }
     const T* Copy() const {
         const T* const present = value_.load(std::memory_order_acquire);
         return present == nullptr ? nullptr : new T(*present);

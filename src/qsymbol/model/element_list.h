@@ -3,6 +3,8 @@
 #include "qsymbol/model/computed_once.h"
 #include "qsymbol/model/element_extent.h"
 #include "qsymbol/model/element_record.h"
+#include "qsymbol/model/element_store.h"
+#include "qsymbol/model/packed_elements.h"
 
 #include <cstddef>
 #include <initializer_list>
@@ -14,9 +16,10 @@ namespace qsymbol {
 /// A symbol's elements in drawing order: later ones paint over earlier ones.
 ///
 /// A vector that keeps where its elements reach to once that was asked for: copies take it along, every access for a
-/// change drops it. So a reference for changes is good until the extent is asked for.
+/// change drops it. So a reference for changes is good until the extent is asked for. Elements that were read from a file
+/// may stay packed until one is looked at; nobody sees a difference.
 class ElementList {
-    using Records = std::vector<ElementRecord>;
+    using Records = ElementStore::Records;
 
 public:
     using value_type = ElementRecord;
@@ -24,19 +27,20 @@ public:
     using const_iterator = Records::const_iterator;
 
     ElementList() = default;
-    explicit ElementList(std::size_t count) : records_(count) {}
-    ElementList(std::initializer_list<ElementRecord> records) : records_(records) {}
-    ElementList(std::vector<ElementRecord> records) : records_(std::move(records)) {}
+    explicit ElementList(std::size_t count) : store_(Records(count)) {}
+    ElementList(std::initializer_list<ElementRecord> records) : store_(Records(records)) {}
+    ElementList(std::vector<ElementRecord> records) : store_(std::move(records)) {}
+    ElementList(PackedElements packed) : store_(std::move(packed)) {}
 
-    bool empty() const { return records_.empty(); }
-    std::size_t size() const { return records_.size(); }
-    const ElementRecord* data() const { return records_.data(); }
-    const ElementRecord& operator[](std::size_t index) const { return records_[index]; }
-    const ElementRecord& at(std::size_t index) const { return records_.at(index); }
-    const ElementRecord& front() const { return records_.front(); }
-    const ElementRecord& back() const { return records_.back(); }
-    const_iterator begin() const { return records_.begin(); }
-    const_iterator end() const { return records_.end(); }
+    bool empty() const { return size() == 0; }
+    std::size_t size() const { return store_.Count(); }
+    const ElementRecord* data() const { return Look().data(); }
+    const ElementRecord& operator[](std::size_t index) const { return Look()[index]; }
+    const ElementRecord& at(std::size_t index) const { return Look().at(index); }
+    const ElementRecord& front() const { return Look().front(); }
+    const ElementRecord& back() const { return Look().back(); }
+    const_iterator begin() const { return Look().begin(); }
+    const_iterator end() const { return Look().end(); }
 
     ElementRecord& operator[](std::size_t index) { return Edit()[index]; }
     ElementRecord& at(std::size_t index) { return Edit().at(index); }
@@ -46,25 +50,26 @@ public:
     iterator end() { return Edit().end(); }
     void push_back(ElementRecord element) { Edit().push_back(std::move(element)); }
     ElementRecord& emplace_back() { return Edit().emplace_back(); }
-    void reserve(std::size_t count) { records_.reserve(count); }
+    void reserve(std::size_t count) { Edit().reserve(count); }
     void resize(std::size_t count) { Edit().resize(count); }
     void assign(std::size_t count, const ElementRecord& element) { Edit().assign(count, element); }
     void clear() { Edit().clear(); }
 
     /// Where the elements reach to, computed once.
     const ElementExtent& Extent() const {
-        return extent_.Get([this] { return ExtentOf(records_); });
+        return extent_.Get([this] { return ExtentOf(Look()); });
     }
 
-    friend bool operator==(const ElementList& a, const ElementList& b) { return a.records_ == b.records_; }
+    friend bool operator==(const ElementList& a, const ElementList& b) { return a.Look() == b.Look(); }
 
 private:
+    const Records& Look() const { return store_.Look(); }
     Records& Edit() {
         extent_.Drop();
-        return records_;
+        return store_.Edit();
     }
 
-    Records records_;
+    ElementStore store_;
     ComputedOnce<ElementExtent> extent_;
 };
 

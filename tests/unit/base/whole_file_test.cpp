@@ -1,3 +1,4 @@
+#include "base/file_content.h"
 #include "base/whole_file.h"
 
 #include "support/error_number_of.h"
@@ -10,7 +11,7 @@ TEST(WholeFile, OneThatMemoryCannotHoldIsError7) {
     files.folders = {u"m"};
     files.files[u"m/gross"] = "x";
     files.announcedSize = UINT64_MAX;
-    EXPECT_EQ(support::ErrorNumberOf([&] { base::ReadWholeFile(files, u"m/gross"); }), 7);
+    EXPECT_EQ(support::ErrorNumberOf([&] { base::FileContent(files, u"m/gross"); }), 7);
     EXPECT_EQ(files.openNow, 0);
 }
 

@@ -93,7 +93,7 @@ TEST_F(PosixFiles, WhatCannotBeOpened) {
     EXPECT_EQ(open(folder_.File("none/missing"), OpenMode::Read), Expected(RunTimeError::PathNotFound));
     EXPECT_EQ(open(folder_.File("none/missing"), OpenMode::Replace), Expected(RunTimeError::PathNotFound));
     EXPECT_EQ(open(folder_.File("a/b"), OpenMode::Read), Expected(RunTimeError::PathNotFound));
-    EXPECT_EQ(CaughtFrom([&] { base::ReadWholeFile(files_, folder_.File("inner")); }),
+    EXPECT_EQ(CaughtFrom([&] { base::FileContent(files_, folder_.File("inner")); }),
               Expected(RunTimeError::PathFileAccess));
     EXPECT_EQ(open(folder_.File("inner"), OpenMode::Overlay), Expected(RunTimeError::PathFileAccess));
     EXPECT_EQ(open(u"", OpenMode::Read), Expected(RunTimeError::BadFileName));
@@ -105,7 +105,7 @@ TEST_F(PosixFiles, ListingGivesFilesOnly) {
     support::PutBytes(folder_.Path() / "Küche.syb", "");
     std::vector<std::u16string> names;
     for (const base::FolderEntry& entry : files_.ListFiles(folder_.Path().u16string())) {
-        names.push_back(entry.name);
+        names.emplace_back(entry.Name());
         EXPECT_EQ(entry.path, folder_.File("Küche.syb"));
     }
     EXPECT_THAT(names, testing::ElementsAre(u"Küche.syb"));
@@ -118,7 +118,9 @@ TEST_F(PosixFiles, ReadingAfterAListing) {
     const std::filesystem::path inner = folder_.Path() / "inner";
     std::filesystem::create_directory(inner);
     support::PutBytes(inner / "Küche.syb", "old");
-    const auto read = [&](const char* name) { return base::ReadWholeFile(files_, folder_.File(name)); };
+    const auto read = [&](const char* name) {
+        return base::FileContent(files_, folder_.File(name)).Release();
+    };
     EXPECT_EQ(files_.ListFiles(inner.u16string()).size(), 1U);
     EXPECT_EQ(read("inner/Küche.syb"), "old");
     EXPECT_EQ(CaughtFrom([&] { read("inner/missing"); }), Expected(RunTimeError::FileNotFound));

@@ -1,0 +1,51 @@
+#include "qsymbol/model/element_store.h"
+
+#include <mutex>
+
+namespace qsymbol {
+
+namespace {
+
+/// Held while packed elements are copied or become records: each symbol does that once, so one for all is enough.
+std::mutex& PackedLock() {
+    static std::mutex lock;
+    return lock;
+}
+
+} // namespace
+
+ElementStore::ElementStore(const ElementStore& other) {
+    if (other.IsPacked()) {
+        const std::lock_guard hold(PackedLock());
+        if (other.IsPacked()) {
+            packed_ = other.packed_;
+            isPacked_.store(true, std::memory_order_relaxed);
+            return;
+        }
+    }
+    records_ = other.records_;
+}
+
+ElementStore::ElementStore(ElementStore&& other) noexcept
+    : records_(std::exchange(other.records_, {})), packed_(std::exchange(other.packed_, {})),
+      isPacked_(other.isPacked_.load(std::memory_order_relaxed)) {
+    other.isPacked_.store(false, std::memory_order_relaxed);
+}
+
+ElementStore& ElementStore::operator=(ElementStore other) noexcept {
+    records_.swap(other.records_);
+    std::swap(packed_, other.packed_);
+    isPacked_.store(other.isPacked_.load(std::memory_order_relaxed), std::memory_order_relaxed);
+    return *this;
+}
+
+void ElementStore::MakeRecords() const {
+    const std::lock_guard hold(PackedLock());
+    if (!IsPacked())
+        return;
+    records_ = packed_.unpack(packed_.bytes, packed_.count, *packed_.codePage);
+    packed_.bytes = std::string();
+    isPacked_.store(false, std::memory_order_release);
+}
+
+} // namespace qsymbol
