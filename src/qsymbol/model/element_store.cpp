@@ -44,7 +44,7 @@ void ElementStore::MakeRecords() const {
     if (!IsPacked())
         return;
     records_ = packed_.unpack(packed_.bytes, packed_.count, *packed_.codePage);
-    packed_.bytes = std::string();
+    std::string().swap(packed_.bytes); // assigning an empty one would keep the memory
     isPacked_.store(false, std::memory_order_release);
 }
 

@@ -107,4 +107,15 @@ TEST_F(PackedElementsOfAFile, TakeOneBlockOfTheirFilesSize) {
     EXPECT_LE(counter.Total(), bytes.size());
 }
 
+TEST_F(PackedElementsOfAFile, GiveTheirBlockBackForTheRecords) {
+    const auto unpackNothing = [](std::string_view, std::size_t, const base::CodePage&) {
+        return std::vector<ElementRecord>();
+    };
+    const support::AllocationCounter counter;
+    const ElementStore store(PackedElements{std::string(1000, 'x'), 1, &world_.codePage, unpackNothing});
+    EXPECT_FALSE(counter.AllGivenBack());
+    EXPECT_TRUE(store.Look().empty());
+    EXPECT_TRUE(counter.AllGivenBack());
+}
+
 } // namespace
