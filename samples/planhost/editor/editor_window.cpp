@@ -6,6 +6,7 @@
 #include "plan_files.h"
 #include "resource.h"
 #include "window_commands.h"
+#include "window_messages.h"
 
 #include <commctrl.h>
 #include <windowsx.h>
@@ -117,14 +118,7 @@ void EditorWindow::Run() {
 }
 
 LRESULT CALLBACK EditorWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCCREATE) {
-        auto* self = static_cast<EditorWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-        self->window_ = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
-    }
-    auto* self = reinterpret_cast<EditorWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    return self != nullptr ? self->Handle(message, wParam, lParam)
-                           : DefWindowProcW(window, message, wParam, lParam);
+    return Deliver(&EditorWindow::window_, &EditorWindow::Handle, window, message, wParam, lParam);
 }
 
 LRESULT EditorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

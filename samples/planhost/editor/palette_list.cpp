@@ -1,6 +1,7 @@
 #include "palette_list.h"
 
 #include "../text.h"
+#include "window_messages.h"
 
 #include <windowsx.h>
 
@@ -309,14 +310,7 @@ void PaletteList::ShowMenu(POINT screen, bool byKeyboard) {
 }
 
 LRESULT CALLBACK PaletteList::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCCREATE) {
-        auto* self = static_cast<PaletteList*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-        self->window_ = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
-    }
-    auto* self = reinterpret_cast<PaletteList*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    return self != nullptr ? self->Handle(message, wParam, lParam)
-                           : DefWindowProcW(window, message, wParam, lParam);
+    return Deliver(&PaletteList::window_, &PaletteList::Handle, window, message, wParam, lParam);
 }
 
 LRESULT PaletteList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -2,6 +2,7 @@
 
 #include "../text.h"
 #include "dpi.h"
+#include "window_messages.h"
 
 #include <commctrl.h>
 
@@ -206,14 +207,7 @@ void PaletteWindow::Filter() {
 }
 
 LRESULT CALLBACK PaletteWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCCREATE) {
-        auto* self = static_cast<PaletteWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-        self->window_ = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
-    }
-    auto* self = reinterpret_cast<PaletteWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    return self != nullptr ? self->Handle(message, wParam, lParam)
-                           : DefWindowProcW(window, message, wParam, lParam);
+    return Deliver(&PaletteWindow::window_, &PaletteWindow::Handle, window, message, wParam, lParam);
 }
 
 LRESULT PaletteWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,6 +1,7 @@
 #include "plan_window.h"
 
 #include "resource.h"
+#include "window_messages.h"
 
 #include <windowsx.h>
 
@@ -52,14 +53,7 @@ POINT PlanWindow::Corner() const {
 }
 
 LRESULT CALLBACK PlanWindow::OnMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCCREATE) {
-        auto* self = static_cast<PlanWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-        self->window_ = window;
-        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
-    }
-    auto* self = reinterpret_cast<PlanWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    return self != nullptr ? self->Handle(message, wParam, lParam)
-                           : DefWindowProcW(window, message, wParam, lParam);
+    return Deliver(&PlanWindow::window_, &PlanWindow::Handle, window, message, wParam, lParam);
 }
 
 LRESULT PlanWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
