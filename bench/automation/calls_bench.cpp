@@ -4,18 +4,16 @@
 #include "automation/gdi_recording.h"
 #include "automation/host_calls.h"
 #include "automation/memory_context.h"
-#include "automation/narrow_arguments.h"
+#include "automation/run_benchmarks.h"
 #include "automation/sample_symbols.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
-#include "com/module.h"
 
 #include <benchmark/benchmark.h>
 
 #include <olectl.h>
 
-#include <cstdio>
 #include <utility>
 #include <vector>
 
@@ -249,22 +247,9 @@ BENCHMARK(BareTenTexts)->Unit(benchmark::kMicrosecond);
 } // namespace
 
 int wmain(int argc, wchar_t** wideArguments) {
-    NarrowArguments arguments(argc, wideArguments);
-    benchmark::Initialize(&argc, arguments.Data());
-    if (argc < 2) {
-        std::puts("usage: calls_bench FOLDER_OF_TEXT_SYMBOLS");
-        return 2;
-    }
-    CoInitialize(nullptr);
-    com::TheModule().Start(GetModuleHandleW(nullptr), {});
-    try {
-        g_symbols = LoadSymbols(wideArguments[1]);
+    return RunBenchmarksOverFolder("calls_bench", argc, wideArguments, [](const wchar_t* folder) {
+        g_symbols = LoadSymbols(folder);
         benchmark::RunSpecifiedBenchmarks();
         g_symbols.clear();
-    } catch (const base::Error& error) {
-        std::printf("%s\n", error.what());
-        return 1;
-    }
-    CoUninitialize();
-    return 0;
+    });
 }

@@ -1,17 +1,15 @@
 // The shipped libraries with files: a folder of 10,000 binary symbols beside the bare reading of the same files, and a
 // plan of 10,000 placed symbols as DXF beside the bare writing of the same bytes, both in the same process.
 
-#include "automation/narrow_arguments.h"
+#include "automation/run_benchmarks.h"
 #include "automation/sample_symbols.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
-#include "com/module.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <random>
 #include <string>
@@ -212,26 +210,13 @@ BENCHMARK(DxfExportSymBesideBareWriting)->Unit(benchmark::kMillisecond)->Iterati
 } // namespace
 
 int wmain(int argc, wchar_t** wideArguments) {
-    NarrowArguments arguments(argc, wideArguments);
-    benchmark::Initialize(&argc, arguments.Data());
-    if (argc < 2) {
-        std::puts("usage: catalogue_bench FOLDER_OF_TEXT_SYMBOLS");
-        return 2;
-    }
-    CoInitialize(nullptr);
-    com::TheModule().Start(GetModuleHandleW(nullptr), {});
-    wchar_t program[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, program, MAX_PATH);
-    g_folder = program;
-    g_folder.erase(g_folder.rfind(L'\\'));
-    try {
-        g_symbols = LoadSymbols(wideArguments[1]);
+    return RunBenchmarksOverFolder("catalogue_bench", argc, wideArguments, [](const wchar_t* folder) {
+        wchar_t program[MAX_PATH] = {};
+        GetModuleFileNameW(nullptr, program, MAX_PATH);
+        g_folder = program;
+        g_folder.erase(g_folder.rfind(L'\\'));
+        g_symbols = LoadSymbols(folder);
         benchmark::RunSpecifiedBenchmarks();
         g_symbols.clear();
-    } catch (const base::Error& error) {
-        std::printf("%s\n", error.what());
-        return 1;
-    }
-    CoUninitialize();
-    return 0;
+    });
 }

@@ -2,8 +2,8 @@
 #include "automation/gdi_recording.h"
 #include "automation/host_calls.h"
 #include "automation/memory_context.h"
-#include "automation/narrow_arguments.h"
 #include "automation/ratio_reporter.h"
+#include "automation/run_benchmarks.h"
 #include "automation/sample_symbols.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
@@ -11,11 +11,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
 #include <vector>
-
-// The type library of an executable has no server: the error support needs a module all the same.
-#include "com/module.h"
 
 namespace {
 
@@ -170,26 +166,13 @@ BENCHMARK(HostCallsOfAMove)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int wmain(int argc, wchar_t** wideArguments) {
-    NarrowArguments arguments(argc, wideArguments);
-    benchmark::Initialize(&argc, arguments.Data());
-    if (argc < 2) {
-        std::puts("usage: draw_bench FOLDER_OF_TEXT_SYMBOLS");
-        return 2;
-    }
-    CoInitialize(nullptr);
-    com::TheModule().Start(GetModuleHandleW(nullptr), {});
-    try {
-        g_symbols = LoadSymbols(wideArguments[1]);
+    return RunBenchmarksOverFolder("draw_bench", argc, wideArguments, [](const wchar_t* folder) {
+        g_symbols = LoadSymbols(folder);
         g_catalogue = CatalogueOf(g_symbols);
         RatioReporter reporter({{"drawing", "DrawThroughLibrary", "HostCallsOfADraw", "BareGdiCalls"},
                                 {"moving", "MoveThroughLibrary", "HostCallsOfAMove", "BareGdiCallsOfAMove"}});
         benchmark::RunSpecifiedBenchmarks(&reporter);
         g_catalogue.Reset();
         g_symbols.clear();
-    } catch (const base::Error& error) {
-        std::printf("%s\n", error.what());
-        return 1;
-    }
-    CoUninitialize();
-    return 0;
+    });
 }

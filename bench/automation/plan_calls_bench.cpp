@@ -3,17 +3,15 @@
 
 #include "automation/counting_box.h"
 #include "automation/memory_context.h"
-#include "automation/narrow_arguments.h"
+#include "automation/run_benchmarks.h"
 #include "automation/sample_symbols.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
-#include "com/module.h"
 
 #include <QPlan.h>
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
 #include <deque>
 #include <random>
 #include <utility>
@@ -194,22 +192,9 @@ BENCHMARK(DrawsOfTheVisibleAlone)->Unit(benchmark::kMicrosecond);
 } // namespace
 
 int wmain(int argc, wchar_t** wideArguments) {
-    NarrowArguments arguments(argc, wideArguments);
-    benchmark::Initialize(&argc, arguments.Data());
-    if (argc < 2) {
-        std::puts("usage: plan_calls_bench FOLDER_OF_TEXT_SYMBOLS");
-        return 2;
-    }
-    CoInitialize(nullptr);
-    com::TheModule().Start(GetModuleHandleW(nullptr), {});
-    try {
-        Scene scene(wideArguments[1]);
+    return RunBenchmarksOverFolder("plan_calls_bench", argc, wideArguments, [](const wchar_t* folder) {
+        Scene scene(folder);
         g_scene = &scene;
         benchmark::RunSpecifiedBenchmarks();
-    } catch (const base::Error& error) {
-        std::printf("%s\n", error.what());
-        return 1;
-    }
-    CoUninitialize();
-    return 0;
+    });
 }
