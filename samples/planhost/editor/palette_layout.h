@@ -27,6 +27,7 @@ public:
     PaletteLayout(const std::vector<std::size_t>& counts, const PaletteMeasures& measures);
 
     int Height() const { return height_; }
+    int Gap() const { return measures_.gap; }
     std::size_t Tiles() const {
         return sections_.empty() ? 0 : sections_.back().first + sections_.back().count;
     }

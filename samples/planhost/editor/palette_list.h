@@ -1,38 +1,16 @@
 #pragma once
 
-#include "../bitmap.h"
 #include "palette_layout.h"
-#include "palette_look.h"
+#include "palette_list_owner.h"
 #include "palette_model.h"
-#include "palette_thumbnails.h"
+#include "palette_painter.h"
 
-#include <functional>
-#include <memory>
 #include <optional>
-
-/// What the list asks of the palette around it; symbols go by their numbers in the model.
-class PaletteListOwner {
-public:
-    virtual _CSymbol& SymbolOf(std::size_t number) = 0;
-    /// A click, or Enter.
-    virtual void Place(std::size_t number) = 0;
-    /// The mouse leaves a tile with its button down.
-    virtual void Drag(std::size_t number) = 0;
-    virtual void ToggleFavourite(std::size_t number) = 0;
-    virtual void Reload() = 0;
-    /// A letter for the filter, or the way back to it (0).
-    virtual void TypeOn(wchar_t letter) = 0;
-    virtual void Leave() = 0;
-    virtual void FocusNext(bool backwards) = 0;
-
-protected:
-    ~PaletteListOwner() = default;
-};
 
 /// The list of tiles: a child window that draws what is seen of it, however many symbols there are.
 class PaletteList {
 public:
-    PaletteList(const PaletteModel& model, PaletteListOwner& owner) : model_(model), owner_(owner) {}
+    PaletteList(const PaletteModel& model, PaletteListOwner& owner);
     PaletteList(const PaletteList&) = delete;
 
     void Create(HWND parent);
@@ -42,7 +20,7 @@ public:
     /// The model shows something else; the top of it is seen, and its first tile is selected or none.
     void ModelChanged(bool selectFirst);
     /// The numbers of symbols mean others.
-    void SymbolsChanged() { thumbnails_.Clear(); }
+    void SymbolsChanged() { painter_.ForgetPictures(); }
     /// The model shows the same but for its first sections; what is seen stays where it is.
     void SectionsChanged();
 
@@ -69,23 +47,15 @@ private:
     void ShowMenu(POINT screen, bool byKeyboard);
 
     std::optional<std::size_t> TileAt(POINT point) const { return layout_.At(point.x, point.y + top_); }
-    std::size_t NumberOf(std::size_t tile) const;
     SIZE Size() const;
-    RECT PlaceOf(std::size_t tile) const;
-
-    void Paint(HDC target);
-    void DrawHeading(HDC dc, std::size_t section) const;
-    void DrawTile(HDC dc, std::size_t tile, bool mayMakePicture);
-    void DrawStar(HDC dc, const RECT& tile) const;
-    void DrawNothingFound(HDC dc) const;
+    PaletteView View() const;
 
     const PaletteModel& model_;
     PaletteListOwner& owner_;
     HWND window_ = nullptr;
     const PaletteLook* look_ = nullptr;
     PaletteLayout layout_;
-    PaletteThumbnails thumbnails_;
-    std::unique_ptr<Bitmap> buffer_;
+    PalettePainter painter_;
     int top_ = 0;       ///< of the part that is seen, in pixels of the list
     int wheelRest_ = 0; ///< of a wheel that turns in small steps
     std::optional<std::size_t> selected_;
