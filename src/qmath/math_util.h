@@ -9,6 +9,7 @@
 namespace qmath {
 
 inline constexpr double kPi = std::numbers::pi;
+inline constexpr double kTwoPi = 2 * kPi;
 inline constexpr std::int32_t kMaxLong = std::numeric_limits<std::int32_t>::max();
 
 /// Not brought into one turn.

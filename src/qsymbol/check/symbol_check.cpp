@@ -42,11 +42,6 @@ std::string Size(double width, double height) {
     return Rounded(width) + " x " + Rounded(height) + " mm";
 }
 
-bool IsKnown(ElementType type) {
-    return type == ElementType::Poly || type == ElementType::Circle || type == ElementType::Arc ||
-           type == ElementType::Text;
-}
-
 void CheckEmpty(const Subject& subject, Found& found) {
     if (subject.symbol.elements.empty())
         Warn(found, "empty", "the symbol has no elements");

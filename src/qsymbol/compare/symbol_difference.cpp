@@ -17,10 +17,6 @@ struct Numbered {
 };
 using Side = std::vector<Numbered>;
 
-bool IsKnown(ElementType type) {
-    return type >= ElementType::Poly && type <= ElementType::Text;
-}
-
 Side SideOf(const Symbol& symbol, Precision precision) {
     Side side;
     for (std::size_t i = 0; i < symbol.elements.size(); ++i)

@@ -13,7 +13,6 @@ namespace qsymbol {
 
 namespace {
 
-constexpr double kTwoPi = 2 * qmath::kPi;
 /// Some readers take at most 1,023 bytes as a line; a character takes up to seven.
 constexpr std::size_t kLongestPiece = 140;
 
@@ -76,13 +75,13 @@ void DxfSurface::OnCircle(qmath::Vector centre, double radius, const Paint& pain
     if (!paint.line)
         return;
     if (!LineWeightOf(paint.width))
-        return OnArc(centre, radius, 0, kTwoPi, paint);
+        return OnArc(centre, radius, 0, qmath::kTwoPi, paint);
     BeginLine("CIRCLE", paint);
     PutCircle(centre, radius);
 }
 
 void DxfSurface::OnArc(qmath::Vector centre, double radius, double start, double sweep, const Paint& paint) {
-    const bool wholeTurn = sweep >= kTwoPi;
+    const bool wholeTurn = sweep >= qmath::kTwoPi;
     if (LineWeightOf(paint.width)) {
         BeginLine(wholeTurn ? "CIRCLE" : "ARC", paint);
         PutCircle(centre, radius);

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double kUnitsPerMillimetre = 100;
 
-std::string Millimetres(double units) {
+std::string ShortMillimetres(double units) {
     std::string text;
     AppendShort(text, units / kUnitsPerMillimetre, 2);
     return text;
@@ -24,7 +24,7 @@ std::string Millimetres(double units) {
 
 /// As people write it, with a comma.
 std::string Shown(double units) {
-    std::string text = Millimetres(units);
+    std::string text = ShortMillimetres(units);
     std::replace(text.begin(), text.end(), '.', ',');
     return text;
 }
@@ -67,10 +67,10 @@ void GalleryPage::Add(std::u16string_view name, std::u16string_view category, st
     SvgSurface surface;
     DrawToSvg(symbol, surface);
     std::string card =
-        "<li data-w=\"" + Millimetres(symbol.width) + "\" data-h=\"" + Millimetres(symbol.height);
-    card +=
-        "\" data-x=\"" + Millimetres(surface.Bounds().Width()) + ' ' + Millimetres(surface.Bounds().Height());
-    card += "\" data-r=\"" + Millimetres(symbol.refX) + ' ' + Millimetres(symbol.refY);
+        "<li data-w=\"" + ShortMillimetres(symbol.width) + "\" data-h=\"" + ShortMillimetres(symbol.height);
+    card += "\" data-x=\"" + ShortMillimetres(surface.Bounds().Width()) + ' ' +
+            ShortMillimetres(surface.Bounds().Height());
+    card += "\" data-r=\"" + ShortMillimetres(symbol.refX) + ' ' + ShortMillimetres(symbol.refY);
     card += "\" data-e=\"" + Kinds(symbol) + "\" data-f=\"";
     AppendXmlText(card, file);
     card += R"("><button type="button" aria-haspopup="dialog"><span class="paper">)";

@@ -13,7 +13,7 @@ namespace {
 constexpr double kSafe = std::numeric_limits<std::int32_t>::max() - 16.0;
 /// Both roundings move a point by up to half a unit along each axis; what doubles add is far below.
 constexpr double kHalfDiagonal = 0.7072;
-constexpr double kNoise = 1e-3;
+constexpr double kRoundingNoise = 1e-3;
 
 } // namespace
 
@@ -26,7 +26,7 @@ PixelReach::PixelReach(double farX, double farY, const SymbolPosition& position,
     unit_ = factor * pixel;
     const double inWorld = std::sqrt(farX * farX + farY * farY) * std::abs(factor);
     radius_ = inWorld * pixel;
-    slack_ = kHalfDiagonal * (pixel + 1) + kNoise;
+    slack_ = kHalfDiagonal * (pixel + 1) + kRoundingNoise;
     const double atX = std::abs(static_cast<double>(position.at.x));
     const double atY = std::abs(static_cast<double>(position.at.y));
     isKnown_ = std::isfinite(position.angle) && atX + inWorld < kSafe && atY + inWorld < kSafe &&

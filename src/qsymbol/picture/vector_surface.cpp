@@ -12,7 +12,6 @@ namespace qsymbol {
 
 namespace {
 
-constexpr double kTwoPi = 2 * qmath::kPi;
 /// Colours of the system carry a flag above their three bytes.
 constexpr std::int32_t kColourBits = 0xFFFFFF;
 constexpr std::int32_t kBkModeOpaque = 2;
@@ -128,7 +127,7 @@ void VectorSurface::Arc(const qmath::Rect& box, qmath::Point start, qmath::Point
         return;
     const double from = Direction(centre, start);
     const double to = Direction(centre, end);
-    const double sweep = to > from ? to - from : to - from + kTwoPi;
+    const double sweep = to > from ? to - from : to - from + qmath::kTwoPi;
     // Seen with y downwards the arc grows from its end back to its start.
     bounds_.IncludeArc(centre, radius, -(from + sweep), sweep, paint.width / 2);
     OnArc(centre, radius, from, sweep, paint);

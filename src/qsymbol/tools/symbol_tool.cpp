@@ -11,31 +11,31 @@ namespace qsymbol {
 
 namespace {
 
-enum class Turn {
+enum class KeyTurn {
     Step,     ///< on from the present angle
     Direction ///< to where the first reference looks in this direction
 };
 
 struct PadKey {
     std::int16_t code;
-    Turn turn;
+    KeyTurn turn;
     double degrees;
 };
 
 /// The numeric pad. Plus turns clockwise and minus counter-clockwise: hosts rely on it.
 constexpr std::array<PadKey, 12> kPadKeys{{
-    {107, Turn::Step, -1},       // +
-    {109, Turn::Step, 1},        // -
-    {106, Turn::Step, -10},      // *
-    {111, Turn::Step, 10},       // /
-    {104, Turn::Direction, 0},   // 8
-    {103, Turn::Direction, 45},  // 7
-    {100, Turn::Direction, 90},  // 4
-    {97, Turn::Direction, 135},  // 1
-    {98, Turn::Direction, 180},  // 2
-    {99, Turn::Direction, 225},  // 3
-    {102, Turn::Direction, 270}, // 6
-    {105, Turn::Direction, 315}, // 9
+    {107, KeyTurn::Step, -1},       // +
+    {109, KeyTurn::Step, 1},        // -
+    {106, KeyTurn::Step, -10},      // *
+    {111, KeyTurn::Step, 10},       // /
+    {104, KeyTurn::Direction, 0},   // 8
+    {103, KeyTurn::Direction, 45},  // 7
+    {100, KeyTurn::Direction, 90},  // 4
+    {97, KeyTurn::Direction, 135},  // 1
+    {98, KeyTurn::Direction, 180},  // 2
+    {99, KeyTurn::Direction, 225},  // 3
+    {102, KeyTurn::Direction, 270}, // 6
+    {105, KeyTurn::Direction, 315}, // 9
 }};
 
 /// Error 91 for a reference that is not there.
@@ -68,7 +68,7 @@ std::optional<double> SymbolTool::AngleAfter(std::int16_t keyCode) const {
     if (key == kPadKeys.end())
         return {};
     const double turn = qmath::DegToRad(key->degrees);
-    return key->turn == Turn::Step ? Angle() + turn : turn - Found(references_.ItemByPos(1)).Angle();
+    return key->turn == KeyTurn::Step ? Angle() + turn : turn - Found(references_.ItemByPos(1)).Angle();
 }
 
 void SymbolTool::MouseDown(ScreenPosition mouse, DrawingTarget& target) {
