@@ -54,6 +54,7 @@ ROWS = [
     ("the same: of panning", "editor_bench", "EditorPanStep", 0.06, "real_time", "<= 1"),
     ("the same: a tile of the picture", "editor_bench", "EditorDrawsATile", 0.06, "real_time", "<= 1"),
     ("the same: the mouse with a tool", "editor_bench", "EditorMoveWithTool", 0.016, "real_time", "<= 1"),
+    ("the same: taking back a removal below all", "editor_bench", "EditorUndoesBelowAll", 0.06, "real_time", "<= 1"),
     ("the same: opening the plan", "editor_bench", "EditorOpens10000", 2.0, "real_time", "<= 1"),
     ("palette over 10,000 symbols: a filter step", "palette_bench", "FilterStep", 0.05, "real_time", "<= 1"),
     ("the same: a step of the wheel", "palette_bench", "ScrollStep", 0.016, "real_time", "<= 1"),

@@ -20,7 +20,7 @@ documentation\\index.html    everything else: start here
 x64, x86                libraries, type libraries and manifests; planhost.exe, qsymbol.exe (the command line)
 include                 headers for C and C++, QSymbol.Interop.cs for C#
 katalog                 the sample catalogue: syb for hosts, syt as text
-samples                 a small host in every language, and planhost's source
+samples                 a small host in every language, the sources of planhost and of the samples beside it
 
 Scripts and Office need the libraries registered, in their own bitness, as an administrator:
     cd x64
@@ -76,7 +76,7 @@ def lay_out(target, kinds):
         shutil.copy(release.ROOT / f"dist/include/{library}.h", target / "include")
     text_file(target / "include/QSymbol.Interop.cs", interop.text(release.ROOT))
     catalogue(target)
-    for name in sources("samples/clients", "samples/planhost", "samples/scripts", "samples/wsc", "samples/README.md"):
+    for name in sources("samples/clients", "samples/planhost", "samples/scripts", "samples/symbols", "samples/wsc", "samples/README.md"):
         path = target / name
         path.parent.mkdir(parents=True, exist_ok=True)
         shutil.copy(release.ROOT / name, path)

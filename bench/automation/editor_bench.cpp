@@ -133,12 +133,25 @@ void EditorMoveWithoutTool(benchmark::State& state) {
     }
 }
 
+/// What was below all others comes back: the library adds on top only, so all are placed again.
+void EditorUndoesBelowAll(benchmark::State& state) {
+    Editor& editor = TheDesk().editor;
+    for (auto _ : state) {
+        state.PauseTiming();
+        editor.Document().Marks().Set({0});
+        editor.Change([](PlanDocument& document) { document.RemoveMarked(); });
+        state.ResumeTiming();
+        editor.Change([](PlanDocument& document) { document.Undo(); });
+    }
+}
+
 BENCHMARK(EditorOpens10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(EditorZoomStep)->Unit(benchmark::kMillisecond);
 BENCHMARK(EditorPanStep)->Unit(benchmark::kMillisecond);
 BENCHMARK(EditorDrawsATile)->Unit(benchmark::kMillisecond);
 BENCHMARK(EditorMoveWithTool)->Unit(benchmark::kMillisecond);
 BENCHMARK(EditorMoveWithoutTool)->Unit(benchmark::kMillisecond);
+BENCHMARK(EditorUndoesBelowAll)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -4,8 +4,8 @@
 #include "catalogue.h"
 #include "catalogue_sheet.h"
 #include "editor/run_editor.h"
-#include "plan_dxf.h"
-#include "plan_picture.h"
+#include "plan_mark.h"
+#include "run_program.h"
 #include "text.h"
 
 #include <algorithm>
@@ -37,14 +37,24 @@ int Number(const std::wstring& argument, int lowest, int highest, const std::wst
     return static_cast<int>(number);
 }
 
+/// "95 Symbole in Bild.png gezeichnet." where: the last words.
+std::wstring Outcome(_CPlan& plan, const std::wstring& where) {
+    LONG count = 0;
+    Check(plan.get_Count(&count));
+    return std::to_wstring(count) + (count == 1 ? L" Symbol " : L" Symbole ") + where;
+}
+
+Bstr AbsolutePath(const std::wstring& file) {
+    return Bstr(std::filesystem::absolute(file).wstring());
+}
+
 void Plot(const Arguments& arguments) {
     const int width = arguments.size() > 3 ? Number(arguments[3], 1, kLargestPixelWidth, L"Bildbreite")
                                            : kDefaultPixelWidth;
-    const Plan plan = ReadPlan(arguments[1]);
     const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
-    DrawPlan(plan, *catalogue.Get(), width, arguments[2]);
-    PrintLine(plan.title + L": " + std::to_wstring(plan.symbols.size()) + L" Symbole in " + arguments[2] +
-              L" gezeichnet.");
+    const Ptr<_CPlan> plan = OpenPlan(arguments[1], *catalogue.Get());
+    Check(plan->WritePicture(AbsolutePath(arguments[2]).Get(), width), arguments[2]);
+    PrintLine(Outcome(*plan.Get(), L"in " + arguments[2] + L" gezeichnet."));
 }
 
 void Mark(const Arguments& arguments) {
@@ -71,11 +81,10 @@ void Mark(const Arguments& arguments) {
 }
 
 void Export(const Arguments& arguments) {
-    const Plan plan = ReadPlan(arguments[1]);
     const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
-    ExportPlan(plan, *catalogue.Get(), arguments[2]);
-    PrintLine(plan.title + L": " + std::to_wstring(plan.symbols.size()) + L" Symbole nach " + arguments[2] +
-              L" geschrieben.");
+    const Ptr<_CPlan> plan = OpenPlan(arguments[1], *catalogue.Get());
+    Check(plan->WriteDxf(AbsolutePath(arguments[2]).Get(), planCentimetres), arguments[2]);
+    PrintLine(Outcome(*plan.Get(), L"nach " + arguments[2] + L" geschrieben."));
 }
 
 void DrawSheet(_CSymbolColl& symbols, const Arguments& arguments) {
@@ -133,17 +142,10 @@ void Run(const std::wstring& name, const Arguments& arguments) {
 } // namespace
 
 int wmain(int count, wchar_t** values) {
-    try {
-        const ComThread com;
+    return RunProgram([&] {
         if (count < 2)
             RunEditor();
         else
             Run(values[1], Arguments(values + 2, values + count));
-        return 0;
-    } catch (const Failure& failure) {
-        PrintErrorLine(failure.message);
-    } catch (const std::exception& error) {
-        PrintErrorLine(FromUtf8(error.what()));
-    }
-    return 1;
+    });
 }

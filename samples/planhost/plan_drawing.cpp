@@ -1,6 +1,5 @@
 #include "plan_drawing.h"
 
-#include "picture_box.h"
 #include "wall_outline.h"
 
 #include <algorithm>
@@ -10,8 +9,6 @@ namespace {
 
 constexpr COLORREF kWallColour = RGB(74, 74, 78);
 constexpr COLORREF kTextColour = RGB(40, 40, 44);
-constexpr LONG kMarkColour = RGB(226, 74, 20);
-constexpr LONG kOwnColours = -1;
 // Millimetres in the plan.
 constexpr int kLabelHeight = 230;
 constexpr int kTitleHeight = 340;
@@ -81,24 +78,4 @@ void DrawAboveSymbols(const Canvas& canvas, const Plan& plan) {
         const POINT baseline{room.middle.x, room.middle.y + kLabelHeight / 3};
         WriteText(canvas, room.name, baseline, kLabelHeight, TA_CENTER);
     }
-}
-
-void DrawSymbolsOn(IDispatch& surface, const Canvas& canvas, const Plan& plan,
-                   const std::vector<Ptr<_CSymbol>>& symbols, const std::vector<std::size_t>& marked) {
-    for (std::size_t i = 0; i < symbols.size(); ++i) {
-        const PlacedSymbol& placed = plan.symbols[i];
-        const bool isMarked = std::find(marked.begin(), marked.end(), i) != marked.end();
-        LONG markColour = isMarked ? kMarkColour : kOwnColours;
-        Check(symbols[i]->Draw(placed.at.x, placed.at.y, Radians(placed), &surface, &canvas.transformation,
-                               1.0, 1.0, &markColour),
-              Describe(placed));
-    }
-}
-
-void DrawPlanOn(const Canvas& canvas, const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols,
-                const std::vector<std::size_t>& marked) {
-    DrawBelowSymbols(canvas, plan);
-    DrawSymbolsOn(*PictureBox::Create(canvas.dc, canvas.size.cx, canvas.size.cy, L"PlanBox").Get(), canvas,
-                  plan, symbols, marked);
-    DrawAboveSymbols(canvas, plan);
 }

@@ -17,15 +17,26 @@ Ptr<_CTrans> SheetTransformation(const Paper& paper, const PrintLayout& layout, 
 
 namespace {
 
+/// The page is lost anyhow.
+void TellWhatFails(IDispatch& surface, _CTrans& transformation, const Plan& plan, const PlacedPlan& placed) {
+    placed.ForEach([&](std::size_t place, _CSymbol& symbol, POINT at, double radians) {
+        Check(symbol.Draw(at.x, at.y, radians, &surface, &transformation, 1.0, 1.0, nullptr),
+              Describe(plan.symbols[place]));
+    });
+}
+
 template <class MakeSurface>
 void DrawPage(HDC dc, const Paper& paper, const PrintLayout& layout, int sheet, const Plan& plan,
-              const std::vector<Ptr<_CSymbol>>& symbols, const MakeSurface& makeSurface) {
+              const PlacedPlan& placed, const MakeSurface& makeSurface) {
     const Ptr<_CTrans> transformation = SheetTransformation(paper, layout, sheet);
     const Canvas canvas{dc, paper.dots, *transformation.Get()};
     DrawBelowSymbols(canvas, plan);
     {
         const auto surface = makeSurface(); // gives the device context back as it was
-        DrawSymbolsOn(*surface.Get(), canvas, plan, symbols, {});
+        const HRESULT status = placed.Draw(*surface.Get(), *transformation.Get());
+        if (FAILED(status))
+            TellWhatFails(*surface.Get(), *transformation.Get(), plan, placed);
+        Check(status);
     }
     DrawAboveSymbols(canvas, plan);
 }
@@ -33,13 +44,13 @@ void DrawPage(HDC dc, const Paper& paper, const PrintLayout& layout, int sheet, 
 } // namespace
 
 void DrawSheetForPrinter(HDC printer, const Paper& paper, const PrintLayout& layout, int sheet,
-                         const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols) {
-    DrawPage(printer, paper, layout, sheet, plan, symbols,
+                         const Plan& plan, const PlacedPlan& placed) {
+    DrawPage(printer, paper, layout, sheet, plan, placed,
              [&] { return PrinterSurface::Create(printer, paper.dots.cx, paper.dots.cy); });
 }
 
 void DrawSheetOnScreen(HDC dc, const Paper& paper, const PrintLayout& layout, int sheet, const Plan& plan,
-                       const std::vector<Ptr<_CSymbol>>& symbols) {
-    DrawPage(dc, paper, layout, sheet, plan, symbols,
+                       const PlacedPlan& placed) {
+    DrawPage(dc, paper, layout, sheet, plan, placed,
              [&] { return PictureBox::Create(dc, paper.dots.cx, paper.dots.cy, L"PreviewPABox"); });
 }

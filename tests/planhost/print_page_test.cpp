@@ -1,5 +1,4 @@
 #include "bitmap.h"
-#include "plan_symbols.h"
 #include "print_page.h"
 #include "printer_surface.h"
 #include "test_catalogue.h"
@@ -55,11 +54,11 @@ TEST(Printing, APageOfThePrinterIsThatOfTheScreen) {
         Plan plan = SmallRoom();
         if (hasArcs)
             plan.symbols.push_back({L"Baum", {650'000, 300'000}, 0});
-        const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, *catalogue.Get());
+        const PlacedPlan placed(plan.symbols, *catalogue.Get());
         for (const double reduction : {0.0, 50.0, 100.0}) {
             const PrintLayout layout = LayOutPrint(plan, paper, reduction);
             for (int sheet = 0; sheet < layout.Sheets(); ++sheet) {
-                const auto show = [&](HDC dc) { DrawSheetOnScreen(dc, paper, layout, sheet, plan, symbols); };
+                const auto show = [&](HDC dc) { DrawSheetOnScreen(dc, paper, layout, sheet, plan, placed); };
                 const Bitmap blank(paper.dots.cx, paper.dots.cy);
                 Bitmap screen(paper.dots.cx, paper.dots.cy), printed(paper.dots.cx, paper.dots.cy);
                 // Wine's metafiles have ideas of their own about arcs: with them, both go through one.
@@ -68,7 +67,7 @@ TEST(Printing, APageOfThePrinterIsThatOfTheScreen) {
                 else
                     show(screen.Dc());
                 DrawThroughMetafile(printed, [&](HDC printer) {
-                    DrawSheetForPrinter(printer, paper, layout, sheet, plan, symbols);
+                    DrawSheetForPrinter(printer, paper, layout, sheet, plan, placed);
                 });
                 EXPECT_EQ(DifferentBytes(screen, printed), 0)
                     << reduction << ", sheet " << sheet << (hasArcs ? ", with arcs" : "");

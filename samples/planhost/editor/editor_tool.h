@@ -28,8 +28,8 @@ public:
 
     /// Where its insertion point is from the mouse, in units: that point is caught.
     virtual POINT Anchor() const { return {}; }
-    /// Whether points of a placed symbol can be caught; not those of what is moved itself.
-    virtual bool CatchesSymbol(std::size_t) const { return true; }
+    /// The placed symbols whose points can be caught, not what is moved itself; nullptr: none.
+    virtual const PlacedPlan* Catchable(const PlanDocument& document) { return &document.Placed(); }
     /// The direction of what is being placed, in degrees; nothing before it has a place.
     virtual std::optional<double> Direction() const = 0;
     /// What the user may do now.

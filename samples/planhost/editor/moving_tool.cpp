@@ -89,8 +89,16 @@ POINT MovingTool::Anchor() const {
             std::lround(anchor_.y * cosine - anchor_.x * sine)};
 }
 
-bool MovingTool::CatchesSymbol(std::size_t place) const {
-    return outcome_ == Copied || !std::ranges::binary_search(places_, place);
+const PlacedPlan* MovingTool::Catchable(const PlanDocument& document) {
+    if (outcome_ == Copied)
+        return &document.Placed();
+    if (!others_) {
+        std::vector<PlacedSymbol> others = document.Content().symbols;
+        for (auto place = places_.rbegin(); place != places_.rend(); ++place)
+            others.erase(others.begin() + static_cast<std::ptrdiff_t>(*place));
+        others_.emplace(others, document.Catalogue());
+    }
+    return &*others_;
 }
 
 std::optional<double> MovingTool::Direction() const {

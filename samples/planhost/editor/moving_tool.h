@@ -19,7 +19,7 @@ public:
     void MoveTo(PlanView& view, POINT to, bool isRelative) override;
     void Finish(PlanDocument& document) override;
     POINT Anchor() const override;
-    bool CatchesSymbol(std::size_t place) const override;
+    const PlacedPlan* Catchable(const PlanDocument& document) override;
     std::optional<double> Direction() const override;
     std::wstring Hint() const override;
 
@@ -29,5 +29,6 @@ private:
     std::vector<PlacedSymbol> symbols_;
     std::vector<std::size_t> places_; ///< in the plan; none of new ones
     Outcome outcome_;
-    POINT anchor_{}; ///< from the base to the first insertion point
+    POINT anchor_{};                   ///< from the base to the first insertion point
+    std::optional<PlacedPlan> others_; ///< what is not moved, once it is asked for
 };

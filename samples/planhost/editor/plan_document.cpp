@@ -40,7 +40,8 @@ void GiveLines(std::vector<PlacedSymbol>& symbols) {
 
 } // namespace
 
-PlanDocument::PlanDocument(Ptr<_CSymbolColl> catalogue) : catalogue_(std::move(catalogue)) {
+PlanDocument::PlanDocument(Ptr<_CSymbolColl> catalogue)
+    : catalogue_(std::move(catalogue)), placed_({}, *catalogue_.Get()) {
     StartNew();
 }
 
@@ -66,6 +67,7 @@ void PlanDocument::SaveAs(const std::filesystem::path& file) {
 void PlanDocument::UseCatalogue(Ptr<_CSymbolColl> catalogue) {
     std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan_, *catalogue.Get());
     RequireDrawable(plan_.symbols, symbols);
+    placed_.UseCatalogue(*catalogue.Get());
     symbols_.swap(symbols);
     catalogue_ = std::move(catalogue);
 }
@@ -129,6 +131,7 @@ void PlanDocument::Redo() {
 void PlanDocument::Begin(Plan plan, const std::filesystem::path& file) {
     std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, *catalogue_.Get());
     RequireDrawable(plan.symbols, symbols);
+    placed_ = PlacedPlan(plan.symbols, *catalogue_.Get());
     symbols_.swap(symbols);
     plan_ = std::move(plan);
     file_ = file;
@@ -150,6 +153,13 @@ void PlanDocument::Change(const std::vector<PlacedSymbol>& symbols, bool continu
 void PlanDocument::Apply(const PlanChange& change) {
     std::vector<Ptr<_CSymbol>> found = FindSymbols(change.after, *catalogue_.Get());
     RequireDrawable(change.after, found);
+    try {
+        placed_.Exchange(change.first, change.before, change.after,
+                         std::span(plan_.symbols).subspan(change.first + change.before.size()));
+    } catch (const Failure&) {
+        placed_ = PlacedPlan(plan_.symbols, *catalogue_.Get());
+        throw;
+    }
     const auto exchange = [&]<class Item>(std::vector<Item>& all, auto first, auto last) {
         const auto begin = all.begin() + static_cast<std::ptrdiff_t>(change.first);
         all.insert(all.erase(begin, begin + static_cast<std::ptrdiff_t>(change.before.size())), first, last);

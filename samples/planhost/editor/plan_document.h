@@ -1,7 +1,6 @@
 #pragma once
 
-#include "../catalogue.h"
-#include "../plan_file.h"
+#include "../placed_plan.h"
 #include "history.h"
 #include "selection.h"
 
@@ -29,6 +28,8 @@ public:
     const Plan& Content() const { return plan_; }
     /// The symbols of the catalogue that the plan shows, in its order.
     const std::vector<Ptr<_CSymbol>>& Symbols() const { return symbols_; }
+    /// The same in the library's hands.
+    const PlacedPlan& Placed() const { return placed_; }
     /// Empty while the plan has none.
     const std::filesystem::path& File() const { return file_; }
     bool IsModified() const { return history_.State() != saved_; }
@@ -64,6 +65,7 @@ private:
     Ptr<_CSymbolColl> catalogue_;
     Plan plan_;
     std::vector<Ptr<_CSymbol>> symbols_;
+    PlacedPlan placed_;
     std::filesystem::path file_;
     History history_;
     unsigned saved_ = 0;

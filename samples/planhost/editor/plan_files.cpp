@@ -1,6 +1,6 @@
 #include "plan_files.h"
 
-#include "../plan_dxf.h"
+#include "../placed_plan.h"
 
 #include <commdlg.h>
 
@@ -11,6 +11,24 @@ namespace {
 constexpr wchar_t kPlans[] = L"Pläne (*.plan)\0*.plan\0Alle Dateien\0*.*\0";
 constexpr wchar_t kDrawings[] = L"DXF-Zeichnungen (*.dxf)\0*.dxf\0Alle Dateien\0*.*\0";
 constexpr std::size_t kLongestPath = 1024;
+
+/// A name in the user's folder for such files; what is written there goes again.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const std::wstring& extension)
+        : path_(fs::temp_directory_path() /
+                (L"Planhost-" + std::to_wstring(GetCurrentProcessId()) + extension)) {}
+    TemporaryFile(const TemporaryFile&) = delete;
+    ~TemporaryFile() {
+        std::error_code ignored;
+        fs::remove(path_, ignored);
+    }
+
+    const fs::path& Path() const { return path_; }
+
+private:
+    fs::path path_;
+};
 
 struct FileQuestion {
     const wchar_t* title;
@@ -40,6 +58,14 @@ fs::path Ask(const FileQuestion& question, HWND owner, const fs::path& name) {
     form.nMaxFile = kLongestPath;
     form.Flags = question.flags | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_PATHMUSTEXIST;
     return question.ask(&form) ? fs::path(path) : fs::path();
+}
+
+/// The library reads walls and rooms from a file.
+void Export(const PlanDocument& document, const fs::path& drawing) {
+    const TemporaryFile copy(L".plan");
+    document.SaveCopy(copy.Path());
+    const Ptr<_CPlan> plan = OpenPlan(copy.Path(), document.Catalogue());
+    Check(plan->WriteDxf(Bstr(drawing.wstring()).Get(), planCentimetres), drawing.wstring());
 }
 
 } // namespace
@@ -88,5 +114,5 @@ void ExportAsDxf(HWND owner, const PlanDocument& document) {
     fs::path proposal = document.File();
     proposal.replace_extension(proposal.empty() ? L"" : L".dxf");
     if (const fs::path file = Ask(kExport, owner, proposal); !file.empty())
-        ExportPlan(document.Content(), document.Catalogue(), file);
+        Export(document, file);
 }

@@ -13,13 +13,16 @@ bool LookAlike(const PlacedSymbol& one, const PlacedSymbol& other) {
            one.name == other.name;
 }
 
+Ptr<PictureBox> BoxOn(const Canvas& canvas) {
+    return PictureBox::Create(canvas.dc, canvas.size.cx, canvas.size.cy, L"PlanBox", canvas.fineness);
+}
+
 } // namespace
 
-std::vector<RECT> PlanScene::Show(const Plan& plan, const std::vector<Ptr<_CSymbol>>& symbols) {
-    plan_ = &plan;
-    symbols_ = &symbols;
+std::vector<RECT> PlanScene::Show(const PlanDocument& document) {
+    document_ = &document;
     // What has changed lies between what is the same at both ends.
-    const std::vector<PlacedSymbol>& now = plan.symbols;
+    const std::vector<PlacedSymbol>& now = document.Content().symbols;
     const std::size_t shorter = std::min(now.size(), shown_.size());
     std::size_t first = 0;
     while (first < shorter && LookAlike(now[first], shown_[first]))
@@ -33,7 +36,8 @@ std::vector<RECT> PlanScene::Show(const Plan& plan, const std::vector<Ptr<_CSymb
     std::vector<RECT> changed(begin, end);
     std::vector<RECT> reaches;
     for (std::size_t i = first; i < now.size() - last; ++i)
-        reaches.push_back(Around(PlacedCorners(bounds_.Of(now[i].name, *symbols[i].Get()).drawn, now[i])));
+        reaches.push_back(
+            Around(PlacedCorners(bounds_.Of(now[i].name, *document.Symbols()[i].Get()).drawn, now[i])));
     changed.insert(changed.end(), reaches.begin(), reaches.end());
     reaches_.insert(reaches_.erase(begin, end), reaches.begin(), reaches.end());
     shown_ = now;
@@ -47,41 +51,31 @@ void PlanScene::Forget() {
     failed_.clear();
 }
 
-void PlanScene::DrawSymbols(const Canvas& canvas, const RECT& area) {
-    const Ptr<PictureBox> box =
-        PictureBox::Create(canvas.dc, canvas.size.cx, canvas.size.cy, L"PlanBox", canvas.fineness);
-    for (std::size_t i = 0; i < reaches_.size(); ++i) {
-        const PlacedSymbol& placed = plan_->symbols[i];
-        if (!Touch(reaches_[i], area))
-            continue;
-        const HRESULT status = (*symbols_)[i]->Draw(placed.at.x, placed.at.y, Radians(placed), box.Get(),
-                                                    &canvas.transformation, 1.0, 1.0, nullptr);
-        if (SUCCEEDED(status) || !failed_.insert(placed.name).second)
-            continue;
+bool PlanScene::DrawSymbols(const Canvas& canvas) const {
+    return SUCCEEDED(document_->Placed().Draw(*BoxOn(canvas).Get(), canvas.transformation));
+}
+
+void PlanScene::DrawWhatCanBeDrawn(const Canvas& canvas) {
+    const Ptr<PictureBox> box = BoxOn(canvas);
+    document_->Placed().ForEach([&](std::size_t place, _CSymbol& symbol, POINT at, double radians) {
+        const std::wstring& name = document_->Content().symbols[place].name;
+        const HRESULT status =
+            symbol.Draw(at.x, at.y, radians, box.Get(), &canvas.transformation, 1.0, 1.0, nullptr);
+        if (SUCCEEDED(status) || !failed_.insert(name).second)
+            return;
         try {
-            Check(status, L"Das Symbol \"" + placed.name + L"\" lässt sich nicht zeichnen");
+            Check(status, L"Das Symbol \"" + name + L"\" lässt sich nicht zeichnen");
         } catch (const Failure& failure) {
             failure_ = failure.message;
         }
-    }
+    });
 }
 
 std::optional<std::wstring> PlanScene::TakeFailure() {
     return std::exchange(failure_, std::nullopt);
 }
 
-std::vector<std::size_t> PlanScene::SymbolsAt(const PointedAt& place, _CTrans& transformation,
-                                              const RECT& area) const {
-    std::vector<std::size_t> found;
-    for (std::size_t i = reaches_.size(); i-- > 0;) { // what is drawn last lies on top
-        if (Touch(reaches_[i], area) &&
-            IsSymbolAt(place, plan_->symbols[i], *(*symbols_)[i].Get(), transformation))
-            found.push_back(i);
-    }
-    return found;
-}
-
 std::array<POINT, 4> PlanScene::Corners(std::size_t place) const {
-    const PlacedSymbol& placed = plan_->symbols[place];
-    return PlacedCorners(bounds_.Of(placed.name, *(*symbols_)[place].Get()).figure, placed);
+    const PlacedSymbol& placed = document_->Content().symbols[place];
+    return PlacedCorners(bounds_.Of(placed.name, *document_->Symbols()[place].Get()).figure, placed);
 }

@@ -28,7 +28,7 @@ RECT PlanView::Sheet() const {
 void PlanView::Show(const PlanDocument& document) {
     const bool isOther = planShown_ != document.PlanNumber();
     document_ = &document;
-    for (const RECT& area : scene_.Show(document.Content(), document.Symbols()))
+    for (const RECT& area : scene_.Show(document))
         tiles_.Outdate(map_, area);
     if (isOther) {
         planShown_ = document.PlanNumber();
@@ -155,9 +155,12 @@ bool PlanView::DrawNextTile() {
     POINT tile;
     if (!HasPicture() || document_ == nullptr || !tiles_.FindMissing(map_, pixels_, tile))
         return false;
-    tiles_.Render(map_, tile, [this](const Canvas& canvas, const RECT& area) {
+    tiles_.Render(map_, tile, [this](const Canvas& canvas) {
         DrawSheet(canvas);
-        scene_.DrawSymbols(canvas, area);
+        if (!scene_.DrawSymbols(canvas)) {
+            DrawSheet(canvas); // over what is there of the others
+            scene_.DrawWhatCanBeDrawn(canvas);
+        }
         DrawAboveSymbols(canvas, document_->Content());
     });
     return true;
@@ -175,10 +178,7 @@ POINT PlanView::ToPlan(POINT pixel) const {
 }
 
 std::vector<std::size_t> PlanView::SymbolsAt(const PointedAt& place) const {
-    const auto [left, top, right, bottom] = place.pixels;
-    const POINT leftTop = map_.ToPlan({left - 1, top - 1});
-    const POINT rightBottom = map_.ToPlan({right + 1, bottom + 1});
-    return scene_.SymbolsAt(place, Transformation(), {leftTop.x, leftTop.y, rightBottom.x, rightBottom.y});
+    return document_->Placed().SymbolsAt(place, Transformation());
 }
 
 void PlanView::InvertFrame(const RECT& frame) {

@@ -80,7 +80,7 @@ void DrawPreview(HDC dc, const RECT& area, const Question& question) {
     for (int sheet = 0; sheet < layout.Sheets(); ++sheet) {
         Bitmap picture(small.dots.cx, small.dots.cy);
         DrawSheetOnScreen(picture.Dc(), small, layout, sheet, question.document.Content(),
-                          question.document.Symbols());
+                          question.document.Placed());
         BitBlt(dc, area.left + kGap / 2 + sheet % layout.columns * (small.dots.cx + kGap),
                area.top + kGap / 2 + sheet / layout.columns * (small.dots.cy + kGap), small.dots.cx,
                small.dots.cy, picture.Dc(), 0, 0, SRCCOPY);
@@ -139,7 +139,7 @@ void PrintOn(const Printer& printer, const Question& question) {
         for (int sheet = 0; sheet < layout.Sheets(); ++sheet) {
             StartPage(printer.Dc());
             DrawSheetForPrinter(printer.Dc(), question.paper, layout, sheet, question.document.Content(),
-                                question.document.Symbols());
+                                question.document.Placed());
             EndPage(printer.Dc());
         }
     } catch (const Failure&) {

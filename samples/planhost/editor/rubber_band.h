@@ -1,6 +1,6 @@
 #pragma once
 
-#include "../plan_hits.h"
+#include "../pointed_at.h"
 #include "plan_view.h"
 
 /// A rectangle that the mouse draws up from one corner, or a click when it has hardly moved.

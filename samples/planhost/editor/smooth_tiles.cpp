@@ -71,12 +71,7 @@ void SmoothTiles::Render(const ViewMap& map, POINT tile, const Painter& painter)
     if (tiles_.size() >= kMostTiles)
         tiles_.clear();
     const Ptr<_CTrans> transformation = map.TileTransformation(tile, kFineness);
-    const auto units = [&](LONG place) { return static_cast<LONG>(place * map.TileUnits()); };
-    // A pen is never thinner than a pixel: it may reach in from beside.
-    const auto pixel = static_cast<LONG>(std::ceil(map.Scale()));
-    painter(
-        {fine_->Dc(), {fine_->Width(), fine_->Height()}, *transformation.Get(), kFineness},
-        {units(tile.x) - pixel, units(tile.y) - pixel, units(tile.x + 1) + pixel, units(tile.y + 1) + pixel});
+    painter({fine_->Dc(), {fine_->Width(), fine_->Height()}, *transformation.Get(), kFineness});
     Tile& place = tiles_[tile];
     if (!place.picture)
         place.picture = std::make_unique<Bitmap>(kTile, kTile);

@@ -12,8 +12,8 @@
 /// lines, so a tile is drawn in finer pixels, and each pixel becomes the mean of those that lie in it.
 class SmoothTiles {
 public:
-    /// Draws the plan where it touches area, in units.
-    using Painter = std::function<void(const Canvas& canvas, const RECT& area)>;
+    /// Draws the plan as far as the canvas shows it.
+    using Painter = std::function<void(const Canvas& canvas)>;
 
     /// A tile that the picture needs and that is not there or out of date; the one nearest to its middle.
     bool FindMissing(const ViewMap& map, SIZE pixels, POINT& tile) const;

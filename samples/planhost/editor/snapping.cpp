@@ -40,25 +40,9 @@ POINT InUnits(double x, double y) {
     return {std::lround(x * kUnitsPerMillimetre), std::lround(y * kUnitsPerMillimetre)};
 }
 
-void OfferSymbols(Catch& points, const PlanDocument& document, const PlanView& view, POINT pixel,
-                  const EditorTool& tool) {
-    const POINT leftTop = view.Map().ToPlan({pixel.x - kCatchRange, pixel.y - kCatchRange});
-    const POINT rightBottom = view.Map().ToPlan({pixel.x + kCatchRange, pixel.y + kCatchRange});
-    const RECT around{leftTop.x, leftTop.y, rightBottom.x, rightBottom.y};
-    const std::vector<PlacedSymbol>& placed = document.Content().symbols;
-    for (std::size_t i = placed.size(); i-- > 0;) { // of equal ones the topmost
-        if (!Touch(view.Scene().Reach(i), around) || !tool.CatchesSymbol(i))
-            continue;
-        auto x = static_cast<float>(pixel.x);
-        auto y = static_cast<float>(pixel.y);
-        POINT point;
-        VARIANT_BOOL isCaught = VARIANT_FALSE;
-        Check(document.Symbols()[i]->CatchPt(&x, &y, &point.x, &point.y, placed[i].at.x, placed[i].at.y,
-                                             Radians(placed[i]), &view.Transformation(), kCatchRange,
-                                             &isCaught));
-        if (isCaught != VARIANT_FALSE)
-            points.Offer(point, L"Symbolpunkt");
-    }
+void OfferSymbols(Catch& points, const PlacedPlan& placed, const PlanView& view, POINT pixel) {
+    if (const std::optional<POINT> point = placed.Catch(pixel, kCatchRange, view.Transformation()))
+        points.Offer(*point, L"Symbolpunkt");
 }
 
 /// The point of an edge that is nearest to a place.
@@ -90,7 +74,7 @@ void OfferWalls(Catch& points, Catch& edges, const Plan& plan, POINT units) {
 
 } // namespace
 
-Pointer CatchPoint(const PlanDocument& document, const PlanView& view, POINT pixel, const EditorTool& tool) {
+Pointer CatchPoint(const PlanDocument& document, const PlanView& view, POINT pixel, EditorTool& tool) {
     const POINT anchor = tool.Anchor();
     const auto toPixels = [&](LONG units) { return std::lround(units / view.Map().Scale()); };
     const POINT beside{toPixels(anchor.x), toPixels(anchor.y)};
@@ -98,7 +82,8 @@ Pointer CatchPoint(const PlanDocument& document, const PlanView& view, POINT pix
     Catch points(view.Map(), at);
     Catch edges(view.Map(), at);
     const POINT units = view.ToPlan(at);
-    OfferSymbols(points, document, view, at, tool);
+    if (const PlacedPlan* const placed = tool.Catchable(document))
+        OfferSymbols(points, *placed, view, at);
     OfferWalls(points, edges, document.Content(), units);
     if (!points.HasPoint() && !edges.HasPoint() && view.HasGrid())
         edges.Offer(OnGrid(units, GridStep(view.Map().Scale())), L"Raster");

@@ -16,7 +16,7 @@ public:
     void Draw(PlanView& view) override;
     bool IsReady() const override { return isReady_; }
     void Finish(PlanDocument& document) override;
-    bool CatchesSymbol(std::size_t) const override { return false; }
+    const PlacedPlan* Catchable(const PlanDocument&) override { return nullptr; }
     std::optional<double> Direction() const override;
     std::wstring Hint() const override;
 

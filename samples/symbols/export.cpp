@@ -1,12 +1,13 @@
-#include "plan_dxf.h"
+// Writes a plan as a DXF file of release 12 with the symbol library alone: head and end are the host's own, in centimetres;
+// between them the library appends each symbol.
 
 #include "dxf_file.h"
 #include "plan_symbols.h"
-#include "text.h"
+#include "sample.h"
 #include "unfinished_file.h"
-#include "wall_outline.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 
 namespace {
@@ -67,10 +68,11 @@ void WriteTitleAndLabels(const Plan& plan, DxfFile& file) {
                   kRoomNameHeight / kMillimetresPerUnit, room.name, true);
 }
 
-} // namespace
-
-void ExportPlan(const Plan& plan, _CSymbolColl& catalogue, const std::filesystem::path& path) {
-    const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, catalogue);
+void Export(const Arguments& arguments) {
+    const std::filesystem::path path = arguments[2];
+    const Plan plan = ReadPlan(arguments[1]);
+    const Ptr<_CSymbolColl> catalogue = OpenCatalogue(arguments[0]);
+    const std::vector<Ptr<_CSymbol>> symbols = FindSymbols(plan, *catalogue.Get());
     // Beside the old file, which stays until the new one is whole.
     UnfinishedFile unfinished(path);
     {
@@ -93,4 +95,11 @@ void ExportPlan(const Plan& plan, _CSymbolColl& catalogue, const std::filesystem
     file.Close();
     if (!unfinished.Finish())
         throw Failure{L"Die Datei lässt sich nicht schreiben: " + path.wstring()};
+    PrintLine(std::to_wstring(symbols.size()) + L" Symbole nach " + path.wstring() + L" geschrieben.");
+}
+
+} // namespace
+
+int wmain(int count, wchar_t** values) {
+    return RunSample(count, values, 3, L"export KATALOGORDNER PLANDATEI PLAN.dxf", Export);
 }
