@@ -2,6 +2,9 @@
 
 #include "com/error_info.h"
 
+#include <memory>
+#include <type_traits>
+
 namespace com {
 
 namespace {
@@ -14,14 +17,19 @@ bool IsAbsence(LSTATUS status) {
     return status == ERROR_FILE_NOT_FOUND || status == ERROR_PATH_NOT_FOUND;
 }
 
-/// Opens an existing key; nullptr when there is none.
-HKEY Open(RegistryPart part, const std::wstring& path, REGSAM access) {
+struct KeyCloser {
+    void operator()(HKEY key) const { RegCloseKey(key); }
+};
+using OpenKey = std::unique_ptr<std::remove_pointer_t<HKEY>, KeyCloser>;
+
+/// Opens an existing key for reading; nullptr when there is none.
+OpenKey Open(RegistryPart part, const std::wstring& path) {
     HKEY key = nullptr;
-    const LSTATUS status = RegOpenKeyExW(part.root, path.c_str(), 0, access | part.view, &key);
+    const LSTATUS status = RegOpenKeyExW(part.root, path.c_str(), 0, KEY_READ | part.view, &key);
     if (IsAbsence(status))
         return nullptr;
     CheckRegistry(status);
-    return key;
+    return OpenKey(key);
 }
 
 } // namespace
@@ -37,33 +45,26 @@ void RegistryKey::Set(const wchar_t* name, const std::wstring& text) const {
 }
 
 bool RegistryKey::Exists(RegistryPart part, const std::wstring& path) {
-    const HKEY key = Open(part, path, KEY_READ);
-    if (key == nullptr)
-        return false;
-    RegCloseKey(key);
-    return true;
+    return Open(part, path) != nullptr;
 }
 
 bool RegistryKey::HasSubkeys(RegistryPart part, const std::wstring& path) {
-    const HKEY key = Open(part, path, KEY_READ);
+    const OpenKey key = Open(part, path);
     if (key == nullptr)
         return false;
     DWORD count = 0;
-    const LSTATUS status = RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr,
-                                            nullptr, nullptr, nullptr, nullptr);
-    RegCloseKey(key);
-    CheckRegistry(status);
+    CheckRegistry(RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr,
+                                   nullptr, nullptr, nullptr, nullptr));
     return count > 0;
 }
 
 void RegistryKey::RemoveTree(RegistryPart part, const std::wstring& path) {
     // A view is chosen where a key is opened, so the parent is opened by itself.
     const std::size_t end = path.rfind(L'\\');
-    const HKEY parent = Open(part, path.substr(0, end), KEY_READ);
+    const OpenKey parent = Open(part, path.substr(0, end));
     if (parent == nullptr)
         return;
-    const LSTATUS status = RegDeleteTreeW(parent, path.c_str() + end + 1);
-    RegCloseKey(parent);
+    const LSTATUS status = RegDeleteTreeW(parent.get(), path.c_str() + end + 1);
     if (!IsAbsence(status))
         CheckRegistry(status);
 }

@@ -25,7 +25,8 @@ constexpr LONG kHollow = 1;
 
 } // namespace
 
-DrawingTools::DrawingTools(HDC context) : context_(context) {
+DrawingTools::DrawingTools(HDC context) : DrawingTools(Bare{context}) {
+    // Whole already: a failure takes out again what was selected before.
     Apply(DrawMode);
     Apply(ForeColor);
     Apply(FillStyle);

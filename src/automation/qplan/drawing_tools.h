@@ -25,6 +25,10 @@ public:
     void Line(POINT from, POINT to) const;
 
 private:
+    struct Bare {
+        HDC context;
+    };
+    explicit DrawingTools(Bare bare) : context_(bare.context) {}
     void Apply(Property property);
     HPEN MakePen() const;
     HBRUSH MakeBrush() const;

@@ -9,9 +9,13 @@
 
 namespace platform {
 
-void ListedFolder::Keep(DIR* folder, std::u16string prefix) {
-    folder_.reset(folder);
-    prefix_ = std::move(prefix);
+DIR* ListedFolder::Open(const std::string& name, std::u16string prefix) {
+    if (DIR* const folder = opendir(name.c_str())) {
+        folder_.reset(folder);
+        prefix_ = std::move(prefix);
+        return folder;
+    }
+    return nullptr;
 }
 
 int ListedFolder::OpenToRead(const std::u16string& path) const {

@@ -12,8 +12,9 @@ namespace platform {
 /// What is opened is the file in the very folder that was listed, even if that folder was renamed meanwhile.
 class ListedFolder {
 public:
-    /// Takes the folder over; prefix is its path with a separator behind it.
-    void Keep(DIR* folder, std::u16string prefix);
+    /// The folder from its start, for as long as no other one is opened; prefix is its path with a separator behind it.
+    /// nullptr, and the last one stays, when it does not open.
+    DIR* Open(const std::string& name, std::u16string prefix);
 
     /// A handle for reading a file right in that folder; negative for any other path and on any failure.
     int OpenToRead(const std::u16string& path) const;

@@ -69,12 +69,23 @@ int OpenFlags(base::OpenMode mode) {
 
 class PosixFile final : public base::File {
 public:
-    PosixFile(int handle, std::uint64_t size) : handle_(handle), size_(size) {}
+    PosixFile() = default;
     PosixFile(const PosixFile&) = delete;
     PosixFile& operator=(const PosixFile&) = delete;
     ~PosixFile() override {
         if (handle_ >= 0)
             close(handle_);
+    }
+
+    /// Takes over what an opening has given, negative where that has failed.
+    void Take(int handle) { handle_ = handle; }
+    bool IsOpen() const { return handle_ >= 0; }
+    /// Error 75 when it is open on something else than a disk file.
+    void RequireDisk() {
+        struct stat info {};
+        if (fstat(handle_, &info) != 0 || !S_ISREG(info.st_mode))
+            base::Raise(RunTimeError::PathFileAccess);
+        size_ = static_cast<std::uint64_t>(info.st_size);
     }
 
     std::uint64_t Size() override { return size_; }
@@ -125,36 +136,27 @@ public:
     }
 
 private:
-    int handle_;
-    std::uint64_t size_; ///< when it was opened
+    int handle_ = -1;
+    std::uint64_t size_ = 0; ///< when it was opened
 };
-
-/// Takes over a handle; error 75 when it is that of something else than a disk file.
-std::unique_ptr<base::File> DiskFile(int handle) {
-    struct stat info {};
-    const bool known = fstat(handle, &info) == 0;
-    auto file = std::make_unique<PosixFile>(handle, static_cast<std::uint64_t>(info.st_size));
-    if (!known || !S_ISREG(info.st_mode))
-        base::Raise(RunTimeError::PathFileAccess);
-    return file;
-}
 
 } // namespace
 
 std::unique_ptr<base::File> PosixFileSystem::Open(const std::u16string& path, base::OpenMode mode) {
-    if (mode == base::OpenMode::Read) {
-        const int handle = listed_.OpenToRead(path);
-        if (handle >= 0)
-            return DiskFile(handle);
+    auto file = std::make_unique<PosixFile>(); // before there is a handle that a lack of memory would lose
+    if (mode == base::OpenMode::Read)
+        file->Take(listed_.OpenToRead(path));
+    if (!file->IsOpen()) {
+        const std::string name = base::ToUtf8(path);
+        if (name.find('\0') != std::string::npos)
+            base::Raise(RunTimeError::BadFileName);
+        // A pipe under that name must not hold the program until somebody opens its other end.
+        file->Take(open(name.c_str(), OpenFlags(mode) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666));
+        if (!file->IsOpen())
+            RaiseOpenFailure(errno, name);
     }
-    const std::string name = base::ToUtf8(path);
-    if (name.find('\0') != std::string::npos)
-        base::Raise(RunTimeError::BadFileName);
-    // A pipe under that name must not hold the program until somebody opens its other end.
-    const int handle = open(name.c_str(), OpenFlags(mode) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666);
-    if (handle < 0)
-        RaiseOpenFailure(errno, name);
-    return DiskFile(handle);
+    file->RequireDisk();
+    return file;
 }
 
 bool PosixFileSystem::FileExists(const std::u16string& path) {
@@ -169,10 +171,9 @@ bool PosixFileSystem::FolderExists(const std::u16string& path) {
 std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& folder) {
     const std::string name = base::ToUtf8(folder);
     const std::u16string prefix = folder + u"/";
-    DIR* const handle = opendir(name.c_str());
+    DIR* const handle = listed_.Open(name, prefix);
     if (handle == nullptr)
         base::Raise(RunTimeError::PathNotFound);
-    listed_.Keep(handle, prefix);
     std::vector<base::FolderEntry> entries;
     while (const dirent* entry = readdir(handle)) {
         const bool unclear = entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK;

@@ -1,12 +1,15 @@
 #include "platform/win32/memory_bitmap.h"
 
 #include "base/error.h"
+#include "platform/win32/gdi_object.h"
 #include "platform/win32/gdi_plus.h"
 
 #include <objbase.h>
 
 #include <cstring>
 #include <limits>
+#include <memory>
+#include <type_traits>
 #include <utility>
 
 namespace platform {
@@ -61,10 +64,9 @@ public:
         HGLOBAL memory = nullptr;
         if (FAILED(stream_->Stat(&state, STATFLAG_NONAME)) || FAILED(GetHGlobalFromStream(stream_, &memory)))
             base::Raise(RunTimeError::DeviceIo);
-        const std::string content(static_cast<const char*>(GlobalLock(memory)),
-                                  static_cast<std::size_t>(state.cbSize.QuadPart));
-        GlobalUnlock(memory);
-        return content;
+        const auto* const bytes = static_cast<const char*>(GlobalLock(memory));
+        const std::unique_ptr<void, decltype(&GlobalUnlock)> locked(memory, &GlobalUnlock);
+        return {bytes, static_cast<std::size_t>(state.cbSize.QuadPart)};
     }
 
 private:
@@ -103,9 +105,8 @@ BITMAPINFO MemoryBitmap::Info() const {
 
 void MemoryBitmap::Clear() const {
     const RECT all{0, 0, width_, height_};
-    const HBRUSH brush = CreateSolidBrush(background_);
-    FillRect(context_, &all, brush);
-    DeleteObject(brush);
+    const GdiObject brush(CreateSolidBrush(background_));
+    FillRect(context_, &all, static_cast<HBRUSH>(brush.Get()));
 }
 
 HBITMAP MemoryBitmap::Copy() const {
@@ -191,9 +192,10 @@ HDC NewMetafile(std::int32_t width, std::int32_t height) {
 std::string TakeMetafile(HENHMETAFILE file) {
     if (file == nullptr)
         base::Raise(RunTimeError::OutOfMemory);
+    const std::unique_ptr<std::remove_pointer_t<HENHMETAFILE>, decltype(&DeleteEnhMetaFile)> owner(
+        file, &DeleteEnhMetaFile);
     std::string content(GetEnhMetaFileBits(file, 0, nullptr), '\0');
     GetEnhMetaFileBits(file, static_cast<UINT>(content.size()), reinterpret_cast<BYTE*>(content.data()));
-    DeleteEnhMetaFile(file);
     return content;
 }
 

@@ -30,6 +30,7 @@ void SelectedFont::Select(HDC context, const base::FontRequest& request) {
     if (font_ != nullptr && context == context_ && request == request_)
         return;
     Release();
+    request_ = request; // what can fail, before there is a font
     const HFONT font = CreateGdiFont(request);
     if (font == nullptr)
         base::Raise(base::RunTimeError::InvalidCall);
@@ -41,7 +42,6 @@ void SelectedFont::Select(HDC context, const base::FontRequest& request) {
     context_ = context;
     font_ = font;
     previous_ = previous;
-    request_ = request;
 }
 
 void SelectedFont::Release() {

@@ -108,12 +108,13 @@ std::unique_ptr<base::File> Win32FileSystem::Open(const std::u16string& path, ba
     // Windows refuses this itself; Wine lets a privileged user write all the same.
     if (mode != base::OpenMode::Read && IsReadOnlyFile(Attributes(path)))
         base::Raise(RunTimeError::PermissionDenied);
+    auto file = std::make_unique<Win32File>(); // before there is a handle that a lack of memory would lose
     const OpenFlags flags = FlagsFor(mode);
     const HANDLE handle = CreateFileW(Wide(path), flags.access, flags.share, nullptr, flags.creation,
                                       FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         RaiseOpenFailure(GetLastError(), path);
-    auto file = std::make_unique<Win32File>(handle);
+    file->Take(handle);
     if (GetFileType(handle) != FILE_TYPE_DISK)
         base::Raise(RunTimeError::PathFileAccess);
     return file;

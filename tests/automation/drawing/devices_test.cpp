@@ -1,4 +1,5 @@
 #include "drawing/drawing_fixture.h"
+#include "support/import_patch.h"
 #include "support/message_boxes.h"
 
 #include <algorithm>
@@ -59,13 +60,46 @@ TEST_F(Devices, ARasterFontIsNeverChosen) {
     }
 }
 
-TEST_F(Devices, AnElementsInvertedTextLeavesNothingBehind) {
+TEST_F(Devices, AnElementsInvertedTextHasItsColourAndLeavesNothingBehind) {
+    constexpr std::uint32_t kBluePixel = 0x1428DC;
     box->SetProperty(L"DrawMode", R2_NOTXORPEN);
     const auto text = support::NewElement(Label(kBlue, L"Arial"));
+    const std::vector<std::uint32_t> before = drawn.Pixels();
     EXPECT_OK(text->Draw(box.Get(), Trans().Get()));
     EXPECT_TRUE(support::IsDrawnOn(drawn));
+    const std::vector<std::uint32_t> inverted = drawn.Pixels();
+    for (std::size_t i = 0; i < before.size(); ++i)
+        if (inverted[i] != before[i]) {
+            ASSERT_EQ(inverted[i], ~(kBluePixel ^ before[i]) & 0xFFFFFF) << i;
+        }
     EXPECT_OK(text->Draw(box.Get(), Trans().Get()));
     EXPECT_FALSE(support::IsDrawnOn(drawn));
+}
+
+int WINAPI RefuseToEncode(UINT, DWORD, LPCWCH, int, LPSTR, int, LPCCH, LPBOOL) {
+    return -1;
+}
+
+/// More often than the slack for the system's own objects, so that one left by each would show.
+TEST_F(Devices, AnInvertedTextThatFailsLeavesNoObjectAndNoOpenPath) {
+    box->SetProperty(L"DrawMode", R2_NOTXORPEN);
+    ElementSpec spec = Label(kBlue, L"Arial");
+    spec.text = L"Küche";
+    const auto text = support::NewElement(spec);
+    const HGDIOBJ brush = GetCurrentObject(drawn.Dc(), OBJ_BRUSH);
+    const HGDIOBJ font = GetCurrentObject(drawn.Dc(), OBJ_FONT);
+    {
+        const support::ImportPatch failing(L"QSymbol.dll", "WideCharToMultiByte",
+                                           reinterpret_cast<void*>(RefuseToEncode));
+        for (long i = 0; i < 2 * kSystemsOwn; ++i)
+            EXPECT_TRUE(FAILED(text->Draw(box.Get(), Trans().Get())));
+    }
+    EXPECT_EQ(GetCurrentObject(drawn.Dc(), OBJ_BRUSH), brush);
+    EXPECT_EQ(GetCurrentObject(drawn.Dc(), OBJ_FONT), font);
+    EXPECT_FALSE(EndPath(drawn.Dc())) << "a path is open";
+    ExpectNothingDrawn();
+    EXPECT_OK(text->Draw(box.Get(), Trans().Get()));
+    EXPECT_TRUE(support::IsDrawnOn(drawn));
 }
 
 /// The columns and rows on which something was drawn.

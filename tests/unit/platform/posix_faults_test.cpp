@@ -1,5 +1,7 @@
 #include "base/whole_file.h"
+#include "platform/posix/posix_file_system.h"
 #include "qsymbol/files/symbol_file.h"
+#include "support/allocation_counter.h"
 #include "support/caught.h"
 #include "support/sample_symbols.h"
 #include "support/temp_folder.h"
@@ -12,6 +14,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
+#include <new>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -247,6 +250,29 @@ TEST_F(PosixFaults, PipesAndDevicesAreNoFiles) {
         close(pipe);
     }
     EXPECT_TRUE(world_.prompt.said.empty()) << "what is no file is not overwritten";
+}
+
+TEST_F(PosixFaults, ALackOfMemoryWhereverItComesLeavesNoHandleOpen) {
+    support::PutBytes(folder_.Path() / "a", "bytes");
+    for (std::size_t blocks = 0;; ++blocks) {
+        bool happened = false;
+        {
+            platform::PosixFileSystem files;
+            const std::u16string path = folder_.File("a");
+            const std::u16string folder = folder_.Path().u16string();
+            const support::AllocationFailure failure(blocks);
+            try {
+                files.Open(path, base::OpenMode::Read);
+                files.ListFiles(folder);
+                files.Open(path, base::OpenMode::Read); // from the folder that was listed
+            } catch (const std::bad_alloc&) {           // as it was meant
+            }
+            happened = failure.Happened();
+        }
+        ASSERT_EQ(OpenHandles(), handles_) << blocks;
+        if (!happened)
+            break;
+    }
 }
 
 } // namespace
