@@ -29,6 +29,22 @@ HRESULT Font(_CFontSelector* fonts) {
 const CLSID* Class() { return &CLSID_CSymbol; }
 int Kind() { return symText; }
 """
+PLAN_C = """
+HRESULT Add(_CPlan* plan, BSTR name, _CPlacement** placed) { return _CPlan_Add(plan, name, 1, 2, 0.5, placed); }
+HRESULT Draw(_CPlan* plan, _CPicture* picture, _CTrans* trans) {
+    return _CPlan_Draw(plan, (IDispatch*)picture, trans);
+}
+HRESULT Take(_CPlan* plan, _CSymbolColl* symbols) { return _CPlan_putref_Symbols(plan, symbols); }
+const CLSID* Plan(void) { return &CLSID_CPlan; }
+int Unit(void) { return planMetres; }
+"""
+PLAN_CPP = """
+HRESULT Add(_CPlan* plan, BSTR name, _CPlacement** placed) { return plan->Add(name, 1, 2, 0.5, placed); }
+HRESULT Draw(_CPlan* plan, _CPicture* picture, _CTrans* trans) { return plan->Draw(picture, trans); }
+HRESULT Take(_CPlan* plan, _CSymbolColl* symbols) { return plan->putref_Symbols(symbols); }
+const CLSID* Plan() { return &CLSID_CPlan; }
+int Unit() { return planMetres; }
+"""
 # Wine's headers, taken for the mode of another compiler, carry no ids of interfaces.
 IDS = """
 HRESULT Ask(IUnknown* object, void** symbol) { return object->QueryInterface(__uuidof(_CSymbol), symbol); }
@@ -43,6 +59,10 @@ INCLUDES = {
     "windowsx.h last": ["QSymbol.h", "windowsx.h"],
     "windowsx.h between": ["QMath.h", "windowsx.h", "QSymbol.h"],
     "plans": ["QPlan.h"],
+    "plans, windowsx.h first": ["windowsx.h", "QPlan.h"],
+    "plans, windowsx.h last": ["QPlan.h", "windowsx.h"],
+    "plans before the others": ["QPlan.h", "QSymbol.h", "QMath.h"],
+    "plans after the others, each twice": ["QMath.h", "QSymbol.h", "QPlan.h"] * 2,
 }
 
 
@@ -70,11 +90,15 @@ def failure(command, language, includes, headers, folder):
         file.write("#define COBJMACROS\n" if language == "C" else "")
         file.write("".join(f"#include <{name}>\n" for name in includes))
         file.write(HOST_C if language == "C" else HOST_CPP)
+        if "QPlan.h" in includes:
+            file.write(PLAN_C if language == "C" else PLAN_CPP)
         file.write(IDS if "g++-posix" in command[0] else "")
         file.write(MACRO if "windowsx.h" in includes else "")
-    # A header of the same name in an earlier folder must not be taken for the one beside QSymbol.h.
-    decoy = os.path.join(folder, "decoy")
-    earlier = [] if "QMath.h" in includes else ["-I", decoy]
+    # Headers of the same names in an earlier folder must not be taken for those beside the one that the host wants.
+    earlier = []
+    for name in ("QMath.h", "QSymbol.h"):
+        if name not in includes:
+            earlier += ["-I", os.path.join(folder, name)]
     done = subprocess.run([*command, *WARNINGS, *earlier, "-I", headers, source], capture_output=True, text=True, check=False)
     return done.stderr if done.returncode != 0 else ""
 
@@ -83,9 +107,10 @@ def main():
     headers = sys.argv[1]
     passed = failed = 0
     with tempfile.TemporaryDirectory() as folder:
-        os.mkdir(os.path.join(folder, "decoy"))
-        with open(os.path.join(folder, "decoy", "QMath.h"), "w", encoding="ascii") as file:
-            file.write("#error this is somebody else's\n")
+        for name in ("QMath.h", "QSymbol.h"):
+            os.mkdir(os.path.join(folder, name))
+            with open(os.path.join(folder, name, name), "w", encoding="ascii") as file:
+                file.write("#error this is somebody else's\n")
         for (name, language, command), (order, includes) in itertools.product(compilers(), INCLUDES.items()):
             text = failure(command, language, includes, headers, folder)
             if text:
