@@ -51,10 +51,10 @@ ITypeLib& Module::TypeLibrary() {
     return *typeLibrary_.Get();
 }
 
-void ThrowSiblingMissing(HRESULT status) {
-    const std::u16string sibling(TheModule().Sibling());
+void ThrowMissing(const Sibling& sibling, HRESULT status) {
     throw base::Error::FromStatus(static_cast<std::uint32_t>(status), {},
-                                  sibling + u" ist nicht registriert und liegt nicht neben " +
+                                  std::u16string(sibling.file) +
+                                      u" ist nicht registriert und liegt nicht neben " +
                                       std::u16string(TheModule().Name()) + u".dll");
 }
 

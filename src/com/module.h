@@ -15,13 +15,19 @@
 
 namespace com {
 
+/// A DLL whose types this one uses.
+struct Sibling {
+    std::u16string_view file; ///< its file name
+    const CLSID* anyClass;    ///< registered when the DLL is
+};
+
 /// What one DLL is: its identity, its creatable classes, its type library, and how many of its objects live.
 class Module {
 public:
     struct Identity {
         std::u16string_view name; ///< the library's name, source of run-time errors
         std::span<const ClassEntry> classes;
-        std::u16string_view sibling = {}; ///< file name of the DLL whose types and classes this one uses
+        std::span<const Sibling> siblings = {}; ///< of the first one the classes are used as well
         /// Called when the last object of a thread goes, and when the system asks whether the DLL may: each
         /// may be missing.
         void (*threadIsIdle)() noexcept = nullptr;
@@ -35,7 +41,7 @@ public:
     HINSTANCE Instance() const { return instance_; }
     std::u16string_view Name() const { return identity_.name; }
     std::span<const ClassEntry> Classes() const { return identity_.classes; }
-    std::u16string_view Sibling() const { return identity_.sibling; }
+    std::span<const Sibling> Siblings() const { return identity_.siblings; }
     /// Full path of the DLL; empty when the system does not tell.
     std::wstring Path() const { return platform::ModulePath(instance_); }
     /// Folder of the DLL with a backslash at its end.
@@ -66,6 +72,6 @@ private:
 Module& TheModule();
 
 /// Throws what a client can do about a sibling DLL that is neither registered nor beside this one.
-[[noreturn]] void ThrowSiblingMissing(HRESULT status);
+[[noreturn]] void ThrowMissing(const Sibling& sibling, HRESULT status);
 
 } // namespace com

@@ -1,8 +1,12 @@
 #include "com/referenced_type.h"
 
 #include "com/error_info.h"
+#include "com/guid_text.h"
 #include "com/module.h"
+#include "com/registry_key.h"
 
+#include <algorithm>
+#include <span>
 #include <string>
 
 namespace com {
@@ -43,6 +47,19 @@ private:
     bool active_ = false;
 };
 
+/// A description does not tell which library its types come from, so this is the first one that is not there.
+const Sibling& MissingSibling() {
+    const std::span<const Sibling> siblings = TheModule().Siblings();
+    const auto isThere = [](const Sibling& sibling) {
+        const std::wstring path =
+            TheModule().Folder() + std::wstring(sibling.file.begin(), sibling.file.end());
+        return RegistryKey::Exists({HKEY_CLASSES_ROOT}, L"CLSID\\" + GuidText(*sibling.anyClass)) ||
+               GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+    };
+    const auto missing = std::find_if_not(siblings.begin(), siblings.end(), isThere);
+    return missing != siblings.end() ? *missing : siblings.front();
+}
+
 } // namespace
 
 ComPtr<ITypeInfo> ReferencedType(ITypeInfo* info, HREFTYPE reference) {
@@ -55,7 +72,7 @@ ComPtr<ITypeInfo> ReferencedType(ITypeInfo* info, HREFTYPE reference) {
         status = info->GetRefTypeInfo(reference, target.Put());
     }
     if (FAILED(status))
-        ThrowSiblingMissing(status);
+        ThrowMissing(MissingSibling(), status);
     return target;
 }
 

@@ -33,7 +33,7 @@ using GetClassObject = HRESULT STDAPICALLTYPE(REFCLSID, REFIID, void**);
 using CanUnloadNow = HRESULT STDAPICALLTYPE();
 
 std::wstring SiblingPath() {
-    const std::u16string_view name = com::TheModule().Sibling();
+    const std::u16string_view name = com::TheModule().Siblings().front().file;
     return com::TheModule().Folder() + std::wstring(name.begin(), name.end());
 }
 
@@ -56,7 +56,7 @@ com::ComPtr<IClassFactory> Find(REFCLSID clsid) {
     if (FAILED(status))
         factory = SiblingClassObject(clsid);
     if (!factory)
-        com::ThrowSiblingMissing(status);
+        com::ThrowMissing(com::TheModule().Siblings().front(), status);
     return factory;
 }
 

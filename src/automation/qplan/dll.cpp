@@ -11,13 +11,15 @@ const com::ClassEntry kClasses[] = {
     {&__uuidof(CPlan), L"CPlan", L"QPlan.CPlan", CPlan::CreateInstance},
 };
 
+const com::Sibling kSiblings[] = {{u"QMath.dll", &__uuidof(CPt)}, {u"QSymbol.dll", &__uuidof(CSymbol)}};
+
 } // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* reserved) {
     return com::ServerMain(instance, reason, reserved,
                            {.name = u"QPlan",
                             .classes = kClasses,
-                            .sibling = u"QMath.dll",
+                            .siblings = kSiblings,
                             .threadIsIdle = math_library::GiveUp,
                             .mayUnload = math_library::Unload});
 }

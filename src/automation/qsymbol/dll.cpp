@@ -18,13 +18,15 @@ const com::ClassEntry kClasses[] = {
     {&__uuidof(CSymTool), L"CSymTool", L"QSymbol.CSymTool", CSymTool::CreateInstance},
 };
 
+const com::Sibling kSiblings[] = {{u"QMath.dll", &__uuidof(CPt)}};
+
 } // namespace
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* reserved) {
     return com::ServerMain(instance, reason, reserved,
                            {.name = u"QSymbol",
                             .classes = kClasses,
-                            .sibling = u"QMath.dll",
+                            .siblings = kSiblings,
                             .threadIsIdle = math_library::GiveUp,
                             .mayUnload = math_library::Unload});
 }

@@ -12,15 +12,15 @@ using support::Value;
 
 using GetClassObject = HRESULT STDAPICALLTYPE(REFCLSID, REFIID, void**);
 
-Dispatch UnregisteredSymbol() {
+Dispatch Unregistered(const wchar_t* dll, REFCLSID clsid) {
     support::Ref<IClassFactory> factory;
-    support::Ref<IDispatch> symbol;
-    const HMODULE library = LoadLibraryW(L"lib\\QSymbol.dll");
+    support::Ref<IDispatch> object;
+    const HMODULE library = LoadLibraryW(dll);
     const auto entry = reinterpret_cast<GetClassObject*>(
         reinterpret_cast<void*>(GetProcAddress(library, "DllGetClassObject")));
-    EXPECT_OK(entry(CLSID_CSymbol, IID_IClassFactory, factory.PutVoid()));
-    EXPECT_OK(factory->CreateInstance(nullptr, IID_IDispatch, symbol.PutVoid()));
-    return Dispatch(symbol);
+    EXPECT_OK(entry(clsid, IID_IClassFactory, factory.PutVoid()));
+    EXPECT_OK(factory->CreateInstance(nullptr, IID_IDispatch, object.PutVoid()));
+    return Dispatch(object);
 }
 
 void Tell(const Answer& answer) {
@@ -34,7 +34,7 @@ void Tell(const Answer& answer) {
 } // namespace
 
 void TellLateBinding() {
-    const Dispatch symbol = UnregisteredSymbol();
+    const Dispatch symbol = Unregistered(L"lib\\QSymbol.dll", CLSID_CSymbol);
     EXPECT_OK(symbol.Put(L"FilePath", L"C:\\Katalog\\WC.syb").status);
     Tell(symbol.Get(L"Name"));
     Value rect = Value::Nothing();
@@ -42,4 +42,11 @@ void TellLateBinding() {
     Tell(symbol.Call(L"ObjIdentByPt", {0, 0, 0.0, Value::Nothing(), 0, 0}));
     if (rect.Object() != nullptr)
         Tell(Dispatch(rect.Object()).Call(L"Left"));
+}
+
+void TellLateBoundPlan() {
+    const Dispatch plan = Unregistered(L"lib\\QPlan.dll", CLSID_CPlan);
+    Tell(plan.Get(L"Symbols"));
+    Value rect = Value::Nothing();
+    Tell(plan.Call(L"Extent", {Value::Variable(rect)}));
 }

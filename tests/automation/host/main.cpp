@@ -95,6 +95,7 @@ int main(int argc, char** argv) {
                                                          {"captions", TellCaptions},
                                                          {"choose", Choose},
                                                          {"alone", TellLateBinding},
+                                                         {"plan", TellLateBoundPlan},
                                                          {"threads", TellThreads}};
     testing::InitGoogleTest();
     if (argc < 2 || argc > 3 || !scenarios.contains(argv[1]) ||

@@ -93,14 +93,15 @@ TEST_F(WithoutRegistration, TheLibrariesFindEachOther) {
 }
 
 /// A folder with a host, and "lib" in it with copies of the DLLs.
-std::vector<std::string> LateBinding(const std::vector<std::wstring>& dlls) {
+std::vector<std::string> LateBinding(const std::vector<std::wstring>& dlls,
+                                     const std::wstring& scenario = L"alone") {
     const support::HostProgram host(L"Planer.exe");
     const std::wstring library = host.Folder() / L"lib";
     EXPECT_NE(CreateDirectoryW(library.c_str(), nullptr), FALSE);
     for (const std::wstring& dll : dlls)
         EXPECT_NE(CopyFileW((support::ProgramFolder() + dll).c_str(), (library + L'\\' + dll).c_str(), TRUE),
                   FALSE);
-    const std::vector<std::string> lines = host.Run(L"alone");
+    const std::vector<std::string> lines = host.Run(scenario);
     for (const std::wstring& dll : dlls)
         EXPECT_NE(DeleteFileW((library + L'\\' + dll).c_str()), FALSE);
     EXPECT_NE(RemoveDirectoryW(library.c_str()), FALSE);
@@ -115,6 +116,16 @@ TEST_F(WithoutRegistration, LateBindingFindsTheTypesOfTheDllBeside) {
 TEST_F(WithoutRegistration, TheTextNamesTheMissingDll) {
     const std::string missing = "QMath.dll ist nicht registriert und liegt nicht neben QSymbol.dll";
     EXPECT_THAT(LateBinding({L"QSymbol.dll"}), testing::ElementsAre("WC", missing, missing));
+}
+
+TEST_F(WithoutRegistration, APlanNamesTheMissingDll) {
+    const std::string end = " ist nicht registriert und liegt nicht neben QPlan.dll";
+    EXPECT_THAT(LateBinding({L"QPlan.dll"}, L"plan"),
+                testing::ElementsAre("QMath.dll" + end, "QMath.dll" + end));
+    EXPECT_THAT(LateBinding({L"QPlan.dll", L"QMath.dll"}, L"plan"),
+                testing::ElementsAre("QSymbol.dll" + end, "False"));
+    EXPECT_THAT(LateBinding({L"QPlan.dll", L"QMath.dll", L"QSymbol.dll"}, L"plan"),
+                testing::ElementsAre("done", "False"));
 }
 
 } // namespace
