@@ -83,6 +83,8 @@ public:
     }
     STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* arguments,
                         VARIANT* result, EXCEPINFO* exception, UINT* argumentError) override {
+        if (result != nullptr)
+            VariantInit(result);
         if (reserved != IID_NULL)
             return DISP_E_UNKNOWNINTERFACE;
         HRESULT status = E_FAIL;

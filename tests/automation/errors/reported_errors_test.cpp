@@ -50,6 +50,34 @@ TEST_F(ReportedErrors, AMissingPlaceForAResultIsToldToo) {
     EXPECT_NE(failure.description, L"");
 }
 
+TEST_F(ReportedErrors, LeaveNothingWhereAResultWasToCome) {
+    const Ref<_CPtList> list = support::NewPtList({});
+    auto* pt = reinterpret_cast<_CPt*>(list.Get()); // as uninitialised as a variable can be
+    EXPECT_EQ(list->get_Item(1, &pt), support::Numbered(9));
+    EXPECT_EQ(pt, nullptr);
+    VARIANT_BOOL hit = VARIANT_TRUE;
+    const Ref<_CSymbol> symbol =
+        support::NewSymbol(0, 0, 9, 9, {{.type = symPoly, .points = {{0, 0}, {1, 1}}}});
+    EXPECT_EQ(symbol->ObjIdentByPt(0, 0, 0, nullptr, 0, 0, &hit), support::Numbered(91));
+    EXPECT_EQ(hit, VARIANT_FALSE);
+
+    constexpr DISPID kUnknown = 12345;
+    for (const DISPID id : {DISPID{DISPID_VALUE}, kUnknown}) {
+        for (const IID& reserved : {IID_NULL, IID_IDispatch}) {
+            VARIANT result;
+            V_VT(&result) = VT_BSTR;
+            V_BSTR(&result) = reinterpret_cast<BSTR>(list.Get());
+            VARIANTARG first;
+            V_VT(&first) = VT_I4;
+            V_I4(&first) = 1;
+            DISPPARAMS arguments{&first, nullptr, 1, 0};
+            EXPECT_TRUE(FAILED(
+                list->Invoke(id, reserved, 0, DISPATCH_PROPERTYGET, &arguments, &result, nullptr, nullptr)));
+            EXPECT_EQ(V_VT(&result), VT_EMPTY);
+        }
+    }
+}
+
 /// Also with the least that it can be called with.
 class EveryMember : public support::AutomationTest {
 protected:
