@@ -1,3 +1,4 @@
+#include "support/automation_test.h"
 #include "support/failure.h"
 #include "support/servers.h"
 
@@ -39,13 +40,16 @@ public:
             ASSERT_EQ(support::QPlanServer().Unregister(), S_OK);
             ASSERT_EQ(support::QSymbolServer().Unregister(), S_OK);
             ASSERT_EQ(support::QMathServer().Unregister(), S_OK);
-            return;
+        } else {
+            ASSERT_EQ(support::QMathServer().Register(), S_OK);
+            ASSERT_EQ(support::QSymbolServer().Register(), S_OK);
+            ASSERT_EQ(support::QPlanServer().Register(), S_OK);
         }
-        ASSERT_EQ(support::QMathServer().Register(), S_OK);
-        ASSERT_EQ(support::QSymbolServer().Register(), S_OK);
-        ASSERT_EQ(support::QPlanServer().Register(), S_OK);
+        if (way_.multithreaded)
+            anObject_ = support::Create<CSymbol, _CSymbol>();
     }
     void TearDown() override {
+        anObject_.Reset();
         if (way_.multithreaded)
             return; // the system keeps class objects in the apartment that it provides
         EXPECT_EQ(support::QPlanServer().CanUnloadNow(), S_OK);
@@ -55,6 +59,7 @@ public:
 
 private:
     Way way_;
+    support::Ref<_CSymbol> anObject_; ///< has the system provide its apartment now and for the whole run
 };
 
 /// A crash ends the run at once; without this a debugger window could hold it for ever.

@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <cstring>
+#include <set>
+#include <string>
 
 namespace drawing {
 
@@ -39,7 +41,11 @@ void DrawingTest::SetUp() {
 
 void DrawingTest::TearDown() {
     StartAgain();
-    EXPECT_LE(support::HandleCount::Gdi(), objectsBefore + kSystemsOwn) << "objects of the GDI are left";
+    static std::set<std::string> played;
+    const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
+    const bool first = played.insert(std::string(test.test_suite_name()) + '.' + test.name()).second;
+    EXPECT_LE(support::HandleCount::Gdi(), objectsBefore + (first ? kSystemsOwn : 0))
+        << "objects of the GDI are left";
 }
 
 void DrawingTest::StartAgain(const std::wstring& name, const std::wstring& type) {

@@ -44,9 +44,8 @@ protected:
         StartAgain(name, type);
     }
 
-    /// Whatever a test draws, the GDI has as many objects afterwards as before, give or take what the system makes once
-    /// and keeps. Run again, the same tests leave nothing; a hundred drawings have to stay below it as well, which one object left
-    /// by each would not.
+    /// Whatever a test draws, the GDI has as many objects afterwards as before: exactly as many when it is played again,
+    /// and the first time give or take what the system makes once and keeps.
     static constexpr long kSystemsOwn = 24;
     void SetUp() override;
     void TearDown() override;

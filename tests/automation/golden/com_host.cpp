@@ -127,7 +127,8 @@ ComHost::~ComHost() {
 
 /// Sets the factors of the last drawing without drawing anything.
 void ComHost::Draw(double printer, double screen) const {
-    EXPECT_OK(support::NewSymbol()->Draw(0, 0, 0, nullptr, nullptr, printer, screen, nullptr));
+    LONG noMark = -1; // the marshaller refuses null
+    EXPECT_OK(support::NewSymbol()->Draw(0, 0, 0, nullptr, nullptr, printer, screen, &noMark));
 }
 
 Lines ComHost::Do(const Step& step) {

@@ -1,5 +1,6 @@
 #include "support/message_boxes.h"
 
+#include "support/apartment.h"
 #include "support/text.h"
 #include "support/window_text.h"
 
@@ -58,14 +59,15 @@ std::ostream& operator<<(std::ostream& out, const Box& box) {
 
 MessageBoxes::MessageBoxes(std::initializer_list<int> answers) : MessageBoxes(std::vector<int>(answers)) {}
 
-MessageBoxes::MessageBoxes(const std::vector<int>& answers)
-    : hook_(SetWindowsHookExW(WH_CBT, Hook, nullptr, GetCurrentThreadId())),
-      answers_(answers.begin(), answers.end()) {
+MessageBoxes::MessageBoxes(const std::vector<int>& answers) : answers_(answers.begin(), answers.end()) {
+    for (const DWORD thread : ThreadsOfObjects())
+        hooks_.push_back(SetWindowsHookExW(WH_CBT, Hook, nullptr, thread));
     g_answering = this;
 }
 
 MessageBoxes::~MessageBoxes() {
-    UnhookWindowsHookEx(hook_);
+    for (const HHOOK hook : hooks_)
+        UnhookWindowsHookEx(hook);
     g_answering = nullptr;
     EXPECT_TRUE(answers_.empty()) << answers_.size() << " answers were not asked for";
 }

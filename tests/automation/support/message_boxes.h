@@ -24,7 +24,8 @@ struct Box {
 
 std::ostream& operator<<(std::ostream& out, const Box& box);
 
-/// Stands in for the user: writes every message box of this thread down and presses the buttons it was told.
+/// Stands in for the user: writes every message box of this thread, or of the apartment in which it has its objects, down and
+/// presses the buttons it was told.
 class MessageBoxes {
 public:
     /// `answers` are pressed one after the other.
@@ -43,7 +44,7 @@ private:
     static LRESULT CALLBACK Hook(int code, WPARAM window, LPARAM details);
     void Answer(HWND box);
 
-    HHOOK hook_;
+    std::vector<HHOOK> hooks_;
     std::deque<int> answers_;
     std::vector<Box> seen_;
     std::vector<HWND> answered_;
