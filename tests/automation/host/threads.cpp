@@ -1,7 +1,9 @@
 #include "host/scenarios.h"
 #include "support/automation_test.h"
 #include "support/handle_count.h"
+#include "support/host_font.h"
 #include "support/picture_box.h"
+#include "support/servers.h"
 #include "support/shapes.h"
 #include "support/temp_folder.h"
 #include "support/text.h"
@@ -36,7 +38,6 @@ struct Seen {
     bool operator==(const Seen&) const = default;
 };
 
-// Without a font object: Wine's are not made for several threads and now and then tell a size of another one.
 std::vector<support::ElementSpec> Elements(int number) {
     support::ElementSpec outline{
         .type = symPoly, .lineWidth = 10, .closed = true, .fillColor = 0xFF << number};
@@ -44,7 +45,26 @@ std::vector<support::ElementSpec> Elements(int number) {
         outline.points.push_back({(i * 37) % 500 - 250, (i * i * 11) % 400 - 200});
     return {outline,
             {.type = symArc, .points = {{0, 0}, {300, 0}, {0, 300}}, .mainColor = number, .radius = 300},
-            {.type = symText, .points = {{0, 0}}, .text = L"T" + std::to_wstring(number)}};
+            {.type = symText, .points = {{0, 0}}, .text = L"T" + std::to_wstring(number)},
+            {.type = symText, .points = {{90, 40}}, .text = L"F" + std::to_wstring(number)}};
+}
+
+/// Wine's standard fonts are not made for several threads: without any other library four threads that make some now and
+/// then get one of 429496 points. There the font is an object of the host.
+Ref<IFontDisp> Font(int number) {
+    const support::FontSpec spec{.size = 6 + 3 * number, .bold = number % 2 == 0};
+    return support::RunsUnderWine() ? support::HostFont::Create(spec) : support::NewFont(spec);
+}
+
+/// The elements, with a font for the last one, of which all that the library hands on is compared.
+Ref<_CSymbol> Symbol(int number) {
+    const Ref<_CSymElementColl> elements = support::NewElements(Elements(number));
+    Ref<_CSymElement> last;
+    EXPECT_OK(elements->get_ItemByPos(4, last.Put()));
+    EXPECT_OK(last->putref_TxtFont(Font(number).Get()));
+    auto symbol = support::NewSymbol();
+    EXPECT_OK(symbol->CreateNew(0, 0, 600, 600, elements.Get()));
+    return symbol;
 }
 
 /// Tells what a thread saw that it should not have seen.
@@ -64,7 +84,7 @@ Seen Work(int number) {
     EXPECT_OK(late.Put(L"FilePath", name).status);
     figures << support::Narrow(late.Call(L"ReadFromFile").failure.description) << ' ';
 
-    const Ref<_CSymbol> symbol = support::NewSymbol(0, 0, 600, 600, Elements(number));
+    const Ref<_CSymbol> symbol = Symbol(number);
     support::Canvas canvas(64, 64);
     const Ref<support::PictureBox> box = support::PictureBox::Create(canvas);
     const Ref<_CTrans> trans = support::NewTrans(20);
