@@ -1,4 +1,5 @@
 #include "support/automation_test.h"
+#include "support/import_patch.h"
 #include "support/message_boxes.h"
 #include "support/no_boxes.h"
 #include "support/number_settings.h"
@@ -73,6 +74,28 @@ TEST_F(DiskFiles, ReadingSharesWithWritersAndDeleters) {
         ASSERT_NE(client, INVALID_HANDLE_VALUE);
         EXPECT_OK(support::NewSymbolAt(folder / name)->ReadFromFile());
         CloseHandle(client);
+    }
+}
+
+BOOL WINAPI FullDisk(HANDLE, LPCVOID, DWORD, LPDWORD written, LPOVERLAPPED) {
+    *written = 0;
+    SetLastError(ERROR_DISK_FULL);
+    return FALSE;
+}
+
+TEST_F(DiskFiles, AFullDiskLeavesTheOldContent) {
+    for (const wchar_t* const name : {L"a.syt", L"a.syb"}) {
+        EXPECT_OK(SymbolAt(folder / name)->Write2File());
+        const std::string old = support::ReadBytes(folder / name);
+        {
+            const support::ImportPatch full(L"QSymbol.dll", "WriteFile", reinterpret_cast<void*>(FullDisk));
+            const support::MessageBoxes boxes{IDYES};
+            EXPECT_EQ(Outcome(SymbolAt(folder / name, L"ein längerer Text")->Write2File()), RunTimeError(61));
+            EXPECT_EQ(Outcome(SymbolAt(folder / (std::wstring(L"neu_") + name))->Write2File()),
+                      RunTimeError(61));
+        }
+        EXPECT_EQ(support::ReadBytes(folder / name), old);
+        EXPECT_FALSE(support::FileExists(folder / (std::wstring(L"neu_") + name)));
     }
 }
 
