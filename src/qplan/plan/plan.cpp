@@ -46,8 +46,8 @@ std::int32_t Plan::Add(std::u16string_view name, const SymbolPosition& position)
 
 std::int32_t Plan::AddUsed(std::uint32_t symbol, const SymbolPosition& position) {
     RequireAngle(position);
-    if (lastId_ == std::numeric_limits<std::int32_t>::max())
-        base::Raise(base::RunTimeError::Overflow);
+    if (lastId_ == std::numeric_limits<std::int32_t>::max()) // GCOVR_EXCL_LINE: two thousand million ids away
+        base::Raise(base::RunTimeError::Overflow);           // GCOVR_EXCL_LINE: see above
     placements_.Append({lastId_ + 1, symbol, position});
     ++changes_;
     return ++lastId_;

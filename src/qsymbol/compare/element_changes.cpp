@@ -58,8 +58,6 @@ std::vector<Change> ElementChanges(const ElementRecord& before, const ElementRec
                                    Precision precision) {
     Comparison compare(precision);
     const ElementType type = before.type;
-    if (type != after.type)
-        return {};
     const bool isText = type == ElementType::Text;
     const bool hasLine = type == ElementType::Poly || type == ElementType::Circle || type == ElementType::Arc;
     if (!isText && !hasLine)

@@ -8,8 +8,7 @@
 
 namespace qsymbol {
 
-/// The fields that tell two elements of one kind apart; those that this kind does not use are passed over. Elements of
-/// different kinds have nothing to compare.
+/// The fields that tell two elements of one kind apart; those that this kind does not use are passed over.
 std::vector<Change> ElementChanges(const ElementRecord& before, const ElementRecord& after,
                                    Precision precision);
 

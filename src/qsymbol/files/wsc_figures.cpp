@@ -22,8 +22,6 @@ constexpr std::size_t kPointsOfLine = 3;
 
 ElementRecord& WscFigures::OpenElement(ElementType type) {
     pie_ = false;
-    if (opened_ >= symbol_.elements.size())
-        base::Raise(RunTimeError::SubscriptOutOfRange);
     ElementRecord& element = symbol_.elements[opened_++];
     element.type = type;
     return element;

@@ -12,7 +12,7 @@
 
 namespace qsymbol {
 
-/// Turns the figure lines of an import file into the elements of a symbol whose table is already sized.
+/// Turns the figure lines of an import file into the elements of a symbol whose table already has one for each of them.
 ///
 /// Every reading takes the fields behind the keyword. Errors 13 and 6 for numbers, 9 for what lies outside a
 /// list, 7 past the memory bound.
