@@ -3,6 +3,7 @@
 #include "qsymbol/geometry/draw_factors.h"
 #include "qsymbol/geometry/turn.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace qplan {
@@ -83,22 +84,36 @@ void PlacementIndex::Add(std::size_t slot, const Placement& placement, const Sym
 }
 
 std::vector<PlacementIndex::Proposal> PlacementIndex::SlotsIn(const WorldBox& window, const WorldBox& inner) {
+    std::vector<Proposal> slots;
+    slots.reserve(kFew);
+    tree_.Propose(window, [&](std::uint32_t slot, const WorldBox& box) {
+        slots.push_back({slot, inner.Holds(box)});
+    });
+    slots.size() <= kFew ? Sort(slots) : SortMany(slots);
+    for (Proposal& proposal : slots)
+        proposal.isWithin &= proposal.slot >= strayed_.size() || !strayed_[proposal.slot];
+    return slots;
+}
+
+void PlacementIndex::Sort(std::vector<Proposal>& slots) {
+    std::ranges::sort(slots, [](const Proposal& one, const Proposal& other) {
+        return one.slot != other.slot ? one.slot < other.slot : one.isWithin > other.isWithin;
+    });
+    const auto twice = std::ranges::unique(slots, {}, &Proposal::slot);
+    slots.erase(twice.begin(), twice.end());
+}
+
+/// In time that goes with their number, and a little with that of all slots.
+void PlacementIndex::SortMany(std::vector<Proposal>& slots) {
     proposed_.Grow(known_);
     within_.Grow(known_);
-    std::size_t count = 0;
-    tree_.Propose(window, [&](std::uint32_t slot, const WorldBox& box) {
-        ++count;
+    for (const auto& [slot, isWithin] : slots) {
         proposed_.Insert(slot);
-        if (inner.Holds(box))
+        if (isWithin)
             within_.Insert(slot);
-    });
-    std::vector<Proposal> slots;
-    slots.reserve(count);
-    proposed_.Drain([&](std::uint32_t slot) {
-        const bool hasStrayed = slot < strayed_.size() && strayed_[slot];
-        slots.push_back({slot, within_.Remove(slot) && !hasStrayed});
-    });
-    return slots;
+    }
+    slots.clear();
+    proposed_.Drain([&](std::uint32_t slot) { slots.push_back({slot, within_.Remove(slot)}); });
 }
 
 bool PlacementIndex::Shows(const Placement& placement, const SymbolReach& reach, double factor, double around,

@@ -40,7 +40,11 @@ public:
 
 private:
     static constexpr WorldBox kNone{1, 1, 0, 0};
+    /// So many slots are sorted like anything else: a mouse's question must not grow with the plan.
+    static constexpr std::size_t kFew = 64;
 
+    static void Sort(std::vector<Proposal>& slots);
+    void SortMany(std::vector<Proposal>& slots);
     void Add(std::size_t slot, const Placement& placement, const SymbolReach& reach);
 
     BoxIndex tree_;

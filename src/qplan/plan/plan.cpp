@@ -253,12 +253,16 @@ std::vector<std::int32_t> Plan::Visible(const qsymbol::Transformation& transform
         index_.Update(placements_, symbols_, geometryFactor);
     }
     std::vector<std::int32_t> ids;
-    for (const PlacementIndex::Proposal& proposal : index_.SlotsIn(window)) {
-        const Placement* const placement = placements_.AtSlot(proposal.slot);
+    // Most lie wholly in the window: they need no sine.
+    const auto proposals = exact ? index_.SlotsIn(window, *exact) : index_.SlotsIn(window);
+    ids.reserve(proposals.size());
+    for (const auto& [slot, isWithin] : proposals) {
+        const Placement* const placement = placements_.AtSlot(slot);
         if (placement == nullptr)
             continue;
         const SymbolReach& reach = symbols_[placement->symbol].reach;
-        if (!exact || PlacementIndex::Shows(*placement, reach, geometryFactor, reach.pixels * pixel, *exact))
+        if (!exact || isWithin ||
+            PlacementIndex::Shows(*placement, reach, geometryFactor, reach.pixels * pixel, *exact))
             ids.push_back(placement->id);
     }
     return ids;
