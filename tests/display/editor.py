@@ -106,7 +106,7 @@ class Editor:
     def status(self):
         """Hint, position and count of the front window; empty texts while that is not the editor's."""
         windows = self.desktop.windows()
-        return windows[0].status if windows and windows[0].kind == "PlanhostEditor" else ["", "", ""]
+        return windows[0].status if windows and windows[0].kind == "PlanhostEditor" else ["", "", "", ""]
 
     def wait_for_status(self, part, text):
         wait_for(f"status {text!r}", lambda: text in self.status()[part])
