@@ -9,7 +9,7 @@
 #include "platform/win32/gdi_text_measure.h"
 #include "qplan/draw/sheet_drawing.h"
 #include "qsymbol/draw/symbol_extent.h"
-#include "qsymbol/geometry/turn.h"
+#include "qsymbol/geometry/placed_box.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,14 +29,14 @@ struct Frame {
 };
 
 /// Around what the placed symbols draw, whatever their boxes are.
-qsymbol::Box DrawnBox(const qplan::Plan& plan) {
+qmath::Box DrawnBox(const qplan::Plan& plan) {
     struct Known {
         std::shared_ptr<const qplan::PlacedSymbol> held;
-        qmath::Rect extent; ///< from the reference point
+        qmath::Box extent; ///< from the reference point
     };
     std::unordered_map<const qplan::PlacedSymbol*, Known> known;
     const platform::GdiTextMeasure texts;
-    qsymbol::Box box;
+    qmath::Box box;
     for (const qplan::Placement* next = plan.NextAfter(0); next != nullptr;) {
         const qplan::Placement placed = *next; // asking a symbol of the host may change the plan
         Known& symbol = known[plan.SymbolOf(placed).get()];
@@ -44,15 +44,11 @@ qsymbol::Box DrawnBox(const qplan::Plan& plan) {
             symbol.held = plan.SymbolOf(placed);
             const auto value = symbol.held->Value();
             const qmath::Rect own = SymbolExtent(*value, &texts);
-            symbol.extent = {base::CheckedSub(own.left, value->refX), base::CheckedSub(own.top, value->refY),
-                             base::CheckedSub(own.right, value->refX),
-                             base::CheckedSub(own.bottom, value->refY)};
+            symbol.extent = qsymbol::SeenFrom(
+                Reference(*value), {static_cast<double>(own.left), static_cast<double>(own.top),
+                                    static_cast<double>(own.right), static_cast<double>(own.bottom)});
         }
-        const qsymbol::Turn& turn = qsymbol::TurnBy(placed.position.angle);
-        for (const double x : {symbol.extent.left, symbol.extent.right})
-            for (const double y : {symbol.extent.top, symbol.extent.bottom})
-                box.Include(placed.position.at.x + turn.cosine * x + turn.sine * y,
-                            placed.position.at.y + turn.cosine * y - turn.sine * x);
+        box.Include(qsymbol::PlacedBox(symbol.extent, placed.position));
         next = plan.NextAfter(placed.id);
     }
     return box;
@@ -63,7 +59,7 @@ Frame FrameOf(const qplan::Plan& plan) {
     if (sheet.width > 0)
         return {0, 0, static_cast<double>(sheet.width) * qplan::kUnitsPerMillimetre,
                 static_cast<double>(sheet.height) * qplan::kUnitsPerMillimetre};
-    const qsymbol::Box box = DrawnBox(plan);
+    const qmath::Box box = DrawnBox(plan);
     if (box.IsEmpty())
         base::Raise(base::RunTimeError::InvalidCall);
     const double left = std::floor(box.left);

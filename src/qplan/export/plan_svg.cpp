@@ -4,6 +4,7 @@
 #include "qmath/math_util.h"
 #include "qplan/draw/sheet_drawing.h"
 #include "qsymbol/draw/symbol_drawing.h"
+#include "qsymbol/geometry/placed_box.h"
 #include "qsymbol/geometry/plain_transformation.h"
 #include "qsymbol/picture/short_number.h"
 #include "qsymbol/svg/svg_document.h"
@@ -28,7 +29,7 @@ struct Drawn {
     bool isUsed = false;
     bool hasOpaqueText = false;
     std::string elements;
-    qsymbol::Extent bounds;
+    qmath::Box bounds;
 };
 
 Drawn DrawAlone(const PlacedSymbol& placed, std::u16string_view name) {
@@ -40,18 +41,6 @@ Drawn DrawAlone(const PlacedSymbol& placed, std::u16string_view name) {
     drawn.elements += surface.Elements();
     drawn.hasOpaqueText = surface.HasOpaqueText();
     return drawn;
-}
-
-/// Around the corners of a symbol's picture where it is placed, in millimetres.
-void Include(qsymbol::Extent& extent, const qsymbol::Extent& bounds, const SymbolPosition& position) {
-    if (bounds.IsEmpty())
-        return;
-    const double cosine = std::cos(position.angle);
-    const double sine = std::sin(position.angle);
-    for (const double x : {bounds.Left(), bounds.Right()})
-        for (const double y : {bounds.Top(), bounds.Bottom()})
-            extent.Include({(position.at.x + cosine * x + sine * y) / kUnitsPerMillimetre,
-                            (position.at.y + cosine * y - sine * x) / kUnitsPerMillimetre});
 }
 
 class PlanPicture {
@@ -86,7 +75,7 @@ private:
             if (!drawn.isUsed)
                 drawn = DrawAlone(*plan_.SymbolOf(placement), plan_.NameOf(placement));
             if (plan_.Sheet().width == 0)
-                Include(extent_, drawn.bounds, placement.position);
+                extent_.Include(qsymbol::PlacedBox(drawn.bounds, placement.position));
         });
     }
 
@@ -94,7 +83,8 @@ private:
         qsymbol::SvgView view{.width = static_cast<double>(plan_.Sheet().width),
                               .height = static_cast<double>(plan_.Sheet().height)};
         if (plan_.Sheet().width == 0 && !extent_.IsEmpty())
-            view = {extent_.Left(), extent_.Top(), extent_.Width(), extent_.Height()};
+            view = {extent_.left / kUnitsPerMillimetre, extent_.top / kUnitsPerMillimetre,
+                    extent_.Width() / kUnitsPerMillimetre, extent_.Height() / kUnitsPerMillimetre};
         view.width = std::max(view.width, 1.0);
         view.height = std::max(view.height, 1.0);
         return view;
@@ -160,7 +150,7 @@ private:
     Plan plan_; ///< a copy: what the host's symbols do to the plan meanwhile is no matter of this picture
     const base::ByteSink& sink_;
     std::vector<Drawn> symbols_; ///< by Placement::symbol
-    qsymbol::Extent extent_;
+    qmath::Box extent_;          ///< of all symbols, in logical units
     std::string out_;
 };
 

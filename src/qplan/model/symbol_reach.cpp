@@ -4,6 +4,7 @@
 #include "qmath/math_util.h"
 #include "qsymbol/draw/font_size.h"
 #include "qsymbol/draw/surface_constants.h"
+#include "qsymbol/geometry/placed_box.h"
 
 #include <algorithm>
 #include <cmath>
@@ -86,7 +87,7 @@ void IncludeRound(SymbolReach& reach, const qsymbol::ElementRecord& element, dou
     if (element.type == qsymbol::ElementType::Arc && element.points.size() >= 3) {
         const qmath::Arc shape{element.points[0], element.points[1], element.points[2]};
         if (!shape.IsFullTurn() && HasPlainSweep(element, shape)) {
-            const qsymbol::Box drawn = qsymbol::ExtentOf(std::span(&element, 1)).drawn;
+            const qmath::Box drawn = qsymbol::ExtentOf(std::span(&element, 1)).drawn;
             reach.drawn.Include(drawn.left, drawn.top, pen);
             reach.drawn.Include(drawn.right, drawn.bottom, pen);
             reach.pixels = std::max(reach.pixels, kPixels);
@@ -110,11 +111,6 @@ void Include(SymbolReach& reach, const qsymbol::ElementRecord& element) {
         IncludeRound(reach, element, pen);
 }
 
-/// As seen from the reference point.
-qsymbol::Box About(const qsymbol::Symbol& symbol, const qsymbol::Box& box) {
-    return {box.left - symbol.refX, box.top - symbol.refY, box.right - symbol.refX, box.bottom - symbol.refY};
-}
-
 } // namespace
 
 SymbolReach ReachOf(const qsymbol::Symbol& symbol) {
@@ -126,8 +122,8 @@ SymbolReach ReachOf(const qsymbol::Symbol& symbol) {
     reach.box = reach.drawn;
     reach.box.Include(0, 0);
     reach.box.Include(symbol.width, symbol.height);
-    reach.box = About(symbol, reach.box);
-    reach.drawn = About(symbol, reach.drawn);
+    reach.box = qsymbol::SeenFrom(Reference(symbol), reach.box);
+    reach.drawn = qsymbol::SeenFrom(Reference(symbol), reach.drawn);
     reach.isHitWithin = true; // by its outline
     return reach;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qsymbol/model/element_extent.h"
+#include "qmath/box.h"
 #include "qsymbol/model/symbol.h"
 
 #include <limits>
@@ -10,9 +10,9 @@ namespace qplan {
 /// How far a symbol reaches from its reference point, unturned and unscaled: nothing of it is hit, caught or drawn
 /// beyond. It may be larger than the truth, never smaller.
 struct SymbolReach {
-    qsymbol::Box box;   ///< logical units, the reference point is (0, 0); empty: nothing is ever there
-    qsymbol::Box drawn; ///< the part of it that drawing counts on
-    double pixels = 0;  ///< what drawing adds on every side, whatever the scale: texts have a least height
+    qmath::Box box;    ///< logical units, the reference point is (0, 0); empty: nothing is ever there
+    qmath::Box drawn;  ///< the part of it that drawing counts on
+    double pixels = 0; ///< what drawing adds on every side, whatever the scale: texts have a least height
     /// The largest of what the box has around points: radii, pens, texts. A map of the host may show lengths larger than
     /// it shows distances along one of its axes.
     double length = 0;

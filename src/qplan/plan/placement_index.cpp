@@ -11,7 +11,7 @@ namespace qplan {
 namespace {
 
 /// The upright box around a reach that is scaled and turned about the insertion point.
-WorldBox Placed(const qsymbol::Box& reach, const qsymbol::SymbolPosition& position, double factor) {
+WorldBox Placed(const qmath::Box& reach, const qsymbol::SymbolPosition& position, double factor) {
     constexpr double kRounding = 1;
     const qsymbol::Turn& turn = qsymbol::TurnBy(position.angle);
     const double cosine = turn.cosine * factor;
@@ -72,7 +72,7 @@ void PlacementIndex::Update(const PlacementList& placements, const SymbolTable& 
 void PlacementIndex::Add(std::size_t slot, const Placement& placement, const SymbolReach& reach) {
     if (reach.box.IsEmpty())
         return;
-    qsymbol::Box box = reach.box;
+    qmath::Box box = reach.box;
     // With the reference point it holds the boxes of all smaller factors.
     box.Include(0, 0);
     if (mirrored_) {

@@ -23,10 +23,6 @@ SymbolTable::Entry EntryOf(std::u16string name, std::shared_ptr<const PlacedSymb
     return {std::move(name), std::move(symbol), edition, reach};
 }
 
-bool IsSame(const qsymbol::Box& a, const qsymbol::Box& b) {
-    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
-}
-
 } // namespace
 
 void SymbolTable::SetSource(std::shared_ptr<SymbolSource> source) {
@@ -103,7 +99,7 @@ bool SymbolTable::Refresh() const {
         const SymbolReach reach = symbol->Reach();
         if (!isStillThere())
             return true;
-        moved |= !IsSame(reach.box, entries_[i].reach.box);
+        moved |= reach.box != entries_[i].reach.box;
         NoteMost(reach);
         entries_[i].edition = edition;
         entries_[i].reach = reach;

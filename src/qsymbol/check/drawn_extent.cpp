@@ -6,7 +6,7 @@
 
 namespace qsymbol {
 
-Box DrawnExtent(const Symbol& symbol) {
+qmath::Box DrawnExtent(const Symbol& symbol) {
     const auto isText = [](const ElementRecord& element) { return element.type == ElementType::Text; };
     if (std::none_of(symbol.elements.begin(), symbol.elements.end(), isText))
         return symbol.elements.Extent().drawn;

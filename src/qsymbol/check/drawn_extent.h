@@ -6,13 +6,6 @@ namespace qsymbol {
 
 /// The smallest box around lines, circles and the sweeps of arcs with half their pens, texts aside; empty when nothing
 /// of that is drawn.
-Box DrawnExtent(const Symbol& symbol);
-
-inline double WidthOf(const Box& box) {
-    return box.right - box.left;
-}
-inline double HeightOf(const Box& box) {
-    return box.bottom - box.top;
-}
+qmath::Box DrawnExtent(const Symbol& symbol);
 
 } // namespace qsymbol

@@ -16,7 +16,7 @@ namespace {
 /// What a rule sees.
 struct Subject {
     const Symbol& symbol;
-    Box drawn; ///< what lines reach to
+    qmath::Box drawn; ///< what lines reach to
 };
 
 using Found = std::vector<Finding>;
@@ -91,25 +91,25 @@ void CheckSizeMismatch(const Subject& subject, Found& found) {
         return;
     constexpr double kTolerance = 0.05;
     const double allowed = kTolerance * std::max(width, height);
-    const Box& drawn = subject.drawn;
-    if (std::abs(WidthOf(drawn) - width) > allowed || std::abs(HeightOf(drawn) - height) > allowed)
+    const qmath::Box& drawn = subject.drawn;
+    if (std::abs(drawn.Width() - width) > allowed || std::abs(drawn.Height() - height) > allowed)
         Warn(found, "size-mismatch",
              "the nominal size is " + Size(width, height) + ", what is drawn measures " +
-                 Size(WidthOf(drawn), HeightOf(drawn)));
+                 Size(drawn.Width(), drawn.Height()));
 }
 
 void CheckReference(const Subject& subject, Found& found) {
     if (subject.drawn.IsEmpty())
         return;
-    const Box& drawn = subject.drawn;
+    const qmath::Box& drawn = subject.drawn;
     const double x = subject.symbol.refX;
     const double y = subject.symbol.refY;
     const double distance = std::hypot(std::max({drawn.left - x, x - drawn.right, 0.0}),
                                        std::max({drawn.top - y, y - drawn.bottom, 0.0}));
-    if (distance > std::max(WidthOf(drawn), HeightOf(drawn)))
+    if (distance > std::max(drawn.Width(), drawn.Height()))
         Warn(found, "reference-far",
              "the reference point is " + Rounded(distance) + " mm away from what is drawn, which measures " +
-                 Size(WidthOf(drawn), HeightOf(drawn)));
+                 Size(drawn.Width(), drawn.Height()));
 }
 
 void CheckColours(const Subject& subject, Found& found) {
@@ -138,7 +138,7 @@ void CheckTextSizes(const Subject& subject, Found& found) {
     constexpr double kUnitsPerPoint = 1000.0 / 30;
     double height = subject.symbol.height;
     if (height <= 0 && !subject.drawn.IsEmpty())
-        height = HeightOf(subject.drawn);
+        height = subject.drawn.Height();
     if (height <= 0)
         return;
     WarnOfElements(found, "dxf-text-size", subject.symbol, [&](const ElementRecord& element) -> std::string {

@@ -41,7 +41,7 @@ struct Cursor {
 /// The largest distances of any point from the reference point along both axes.
 struct Far {
     explicit Far(const Symbol& symbol) {
-        const Box& points = symbol.elements.Extent().points;
+        const qmath::Box& points = symbol.elements.Extent().points;
         x = std::max(std::abs(points.left - symbol.refX), std::abs(points.right - symbol.refX));
         y = std::max(std::abs(points.top - symbol.refY), std::abs(points.bottom - symbol.refY));
     }
@@ -112,7 +112,7 @@ bool IsOutOfReach(const Far& far, const SymbolPosition& position, double screenF
     } catch (const base::Error&) {
         return false;
     }
-    Box pixels;
+    qmath::Box pixels;
     for (const qmath::Point corner : corners)
         pixels.Include(corner.x, corner.y, 1);
     return pixels.left - cursor.x >= cursor.range || cursor.x - pixels.right >= cursor.range ||

@@ -23,7 +23,7 @@ std::int32_t Whole(double value) {
 } // namespace
 
 qmath::Rect SymbolExtent(const Symbol& symbol, const base::TextMeasure* texts) {
-    Box box = symbol.elements.Extent().drawn;
+    qmath::Box box = symbol.elements.Extent().drawn;
     if (texts != nullptr)
         for (const ElementRecord& element : symbol.elements)
             if (element.type == ElementType::Text)

@@ -22,7 +22,7 @@ double FontHeight(const ElementRecord& text) {
 
 } // namespace
 
-void IncludeText(Box& box, const ElementRecord& text, const base::TextMeasure& measure) {
+void IncludeText(qmath::Box& box, const ElementRecord& text, const base::TextMeasure& measure) {
     if (text.text.empty() || text.points.empty() || !text.font)
         return;
     const FontRecord& font = *text.font;

@@ -44,8 +44,7 @@ void CatalogueDrawing::Add(std::u16string_view name, std::u16string_view categor
                               [&](const Category& known) { return known.name == wanted; });
     if (place == categories_.end())
         place = categories_.insert(place, {.name = std::u16string(wanted), .entries = {}});
-    place->entries.push_back(
-        {.block = block, .name = std::u16string(name), .reference = {symbol.refX, symbol.refY}});
+    place->entries.push_back({.block = block, .name = std::u16string(name), .reference = Reference(symbol)});
 }
 
 std::string CatalogueDrawing::Compose() {
@@ -63,7 +62,7 @@ CatalogueDrawing::Sheet CatalogueDrawing::Measure() const {
     double count = 0;
     for (const Category& category : categories_)
         for (const Entry& entry : category.entries) {
-            const Extent& bounds = drawing_.BoundsOf(entry.block);
+            const qmath::Box& bounds = drawing_.BoundsOf(entry.block);
             sides += std::max(bounds.Width(), bounds.Height());
             ++count;
         }
@@ -105,11 +104,11 @@ double CatalogueDrawing::Place(const Category& category, double top, const Sheet
         }
         const double ground = top + height;
         for (double left = 0; first != last; ++first) {
-            const Extent& bounds = drawing_.BoundsOf(first->block);
+            const qmath::Box& bounds = drawing_.BoundsOf(first->block);
             const double cell = CellWidth(*first, sheet);
             const double centre = left + (cell - sheet.gap) / 2;
-            const double x = bounds.IsEmpty() ? 0 : (bounds.Left() + bounds.Right()) / 2 - first->reference.x;
-            const double y = bounds.IsEmpty() ? 0 : bounds.Bottom() - first->reference.y;
+            const double x = bounds.IsEmpty() ? 0 : (bounds.left + bounds.right) / 2 - first->reference.x;
+            const double y = bounds.IsEmpty() ? 0 : bounds.bottom - first->reference.y;
             drawing_.Insert(first->block, layer,
                             {.at = {OnSheet(centre - x), OnSheet(ground - y)}, .angle = 0});
             Label(first->name, centre, ground + 2 * sheet.lettering, sheet.lettering, true);

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "base/byte_sink.h"
+#include "qmath/box.h"
 #include "qsymbol/drawing/drawing_unit.h"
 #include "qsymbol/drawing/dxf_tags.h"
 #include "qsymbol/drawing/text_styles.h"
-#include "qsymbol/picture/extent.h"
 
 #include <string>
 #include <vector>
@@ -23,7 +23,7 @@ struct DxfBlock {
 /// Everything of a drawing that is not the same in every file.
 struct DxfContents {
     DrawingUnit unit = DrawingUnit::Millimetre;
-    Extent bounds; ///< in the drawing's unit, y upwards
+    qmath::Box bounds; ///< in the drawing's unit, y upwards
     std::vector<std::string> layers;
     std::vector<TextStyles::Style> styles;
     std::vector<DxfBlock> blocks;

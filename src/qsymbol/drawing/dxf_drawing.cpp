@@ -5,10 +5,10 @@
 #include "qsymbol/draw/symbol_drawing.h"
 #include "qsymbol/drawing/dxf_contents.h"
 #include "qsymbol/drawing/dxf_text.h"
+#include "qsymbol/geometry/placed_box.h"
 #include "qsymbol/geometry/plain_transformation.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace qsymbol {
@@ -17,22 +17,6 @@ namespace {
 
 /// Entities of a block on this layer take the layer of the insert.
 constexpr const char* kLayerOfInsert = "0";
-
-/// Around the corners of a block's bounds where an insert puts them.
-Extent Placed(const Extent& bounds, qmath::Point base, const SymbolPosition& position) {
-    Extent placed;
-    if (bounds.IsEmpty())
-        return placed;
-    const double cosine = std::cos(position.angle);
-    const double sine = std::sin(position.angle);
-    for (const double cornerX : {bounds.Left(), bounds.Right()})
-        for (const double cornerY : {bounds.Top(), bounds.Bottom()}) {
-            const double x = cornerX - base.x;
-            const double y = cornerY - base.y;
-            placed.Include({position.at.x + cosine * x + sine * y, position.at.y + cosine * y - sine * x});
-        }
-    return placed;
-}
 
 } // namespace
 
@@ -56,10 +40,10 @@ DxfDrawing::Layer DxfDrawing::AddLayer(std::u16string_view name) {
 DxfDrawing::Block DxfDrawing::AddBlock(std::u16string_view name, const Symbol& symbol) {
     BlockEntry block;
     block.record = context_->NewHandle();
-    block.base = {symbol.refX, symbol.refY};
+    block.base = Reference(symbol);
     block.surface = std::make_unique<DxfSurface>(*context_, block.record, kLayerOfInsert);
     DrawSymbol(symbol, {.at = block.base, .angle = 0}, *block.surface,
-               PlainTransformation(qmath::Transform()), {.printer = 1, .screen = 1});
+               PlainTransformation(qmath::Transform()), kUnscaled);
     block.name = blockNames_.Take(name);
     blocks_.push_back(std::move(block));
     return blocks_.size() - 1;
@@ -73,7 +57,7 @@ void DxfDrawing::Insert(Block block, Layer layer, const SymbolPosition& position
                                           .layer = static_cast<std::uint32_t>(layer),
                                           .handle = context_->NewHandle()});
     const BlockEntry& entry = blocks_[block];
-    inserted_.Include(Placed(entry.surface->Bounds(), entry.base, position));
+    inserted_.Include(PlacedBox(SeenFrom(entry.base, entry.surface->Bounds()), position));
 }
 
 void DxfDrawing::Append(DxfTags& out, const PlacedBlock& insert) const {
@@ -135,14 +119,14 @@ void DxfDrawing::Compose(const base::ByteSink& sink) const {
                                    .baseX = context_->Length(block.base.x),
                                    .baseY = context_->Length(-static_cast<double>(block.base.y)),
                                    .entities = block.surface->Entities()});
-    Extent bounds = inserted_;
+    qmath::Box bounds = inserted_;
     for (const Part& part : modelSpace_)
         if (part.surface)
             bounds.Include(part.surface->Bounds());
     contents.modelSpace = [this](const base::ByteSink& out) { ComposeModelSpace(out); };
     if (!bounds.IsEmpty()) {
-        contents.bounds.Include({context_->Length(bounds.Left()), context_->Length(-bounds.Bottom())});
-        contents.bounds.Include({context_->Length(bounds.Right()), context_->Length(-bounds.Top())});
+        contents.bounds.Include(context_->Length(bounds.left), context_->Length(-bounds.bottom));
+        contents.bounds.Include(context_->Length(bounds.right), context_->Length(-bounds.top));
     }
     ComposeDxf(contents, sink);
 }

@@ -35,7 +35,7 @@ public:
     /// The name that the block has got.
     const std::u16string& NameOf(Block block) const { return blocks_[block].name; }
     /// Around the block's drawing in the symbol's own coordinates.
-    const Extent& BoundsOf(Block block) const { return blocks_[block].surface->Bounds(); }
+    const qmath::Box& BoundsOf(Block block) const { return blocks_[block].surface->Bounds(); }
 
     /// Places a block in the model space, on top of what stands there.
     void Insert(Block block, Layer layer, const SymbolPosition& position);
@@ -81,7 +81,7 @@ private:
     std::vector<BlockEntry> blocks_;
     std::vector<LayerEntry> layers_;
     std::vector<Part> modelSpace_;
-    Extent inserted_;
+    qmath::Box inserted_;
     DxfHandle modelRecord_ = 0;
     DxfHandle paperRecord_ = 0;
 };

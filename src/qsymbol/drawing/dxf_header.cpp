@@ -25,9 +25,9 @@ void Corner(DxfTags& out, std::string_view name, double x, double y, bool flat) 
 } // namespace
 
 void AppendHeader(DxfTags& out, const DxfContents& contents, const DxfHandles& handles) {
-    Extent bounds = contents.bounds;
+    qmath::Box bounds = contents.bounds;
     if (bounds.IsEmpty())
-        bounds.Include({0, 0});
+        bounds.Include(0, 0);
     out.Text(0, "SECTION");
     out.Text(2, "HEADER");
     Variable(out, "$ACADVER", 1, "AC1018");
@@ -44,10 +44,10 @@ void AppendHeader(DxfTags& out, const DxfContents& contents, const DxfHandles& h
     Variable(out, "$TEXTSTYLE", 7, "Standard");
     Variable(out, "$CLAYER", 8, "0");
     Corner(out, "$INSBASE", 0, 0, false);
-    Corner(out, "$EXTMIN", bounds.Left(), bounds.Top(), false);
-    Corner(out, "$EXTMAX", bounds.Right(), bounds.Bottom(), false);
-    Corner(out, "$LIMMIN", bounds.Left(), bounds.Top(), true);
-    Corner(out, "$LIMMAX", bounds.Right(), bounds.Bottom(), true);
+    Corner(out, "$EXTMIN", bounds.left, bounds.top, false);
+    Corner(out, "$EXTMAX", bounds.right, bounds.bottom, false);
+    Corner(out, "$LIMMIN", bounds.left, bounds.top, true);
+    Corner(out, "$LIMMAX", bounds.right, bounds.bottom, true);
     out.Text(0, "ENDSEC");
     out.Text(0, "SECTION");
     out.Text(2, "CLASSES");

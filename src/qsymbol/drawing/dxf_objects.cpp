@@ -28,13 +28,13 @@ struct Layout {
     DxfHandle record = 0;
     int tab = 0;
     int flags = 0;
-    Extent bounds;
+    qmath::Box bounds;
 };
 
 void AppendLayout(DxfTags& out, const Layout& layout, DxfHandle owner) {
     constexpr double kPaperWidth = 420; // A3
     constexpr double kPaperHeight = 297;
-    const Extent& bounds = layout.bounds;
+    const qmath::Box& bounds = layout.bounds;
     out.Text(0, "LAYOUT");
     out.Handle(5, layout.handle);
     out.Handle(330, owner);
@@ -63,10 +63,10 @@ void AppendLayout(DxfTags& out, const Layout& layout, DxfHandle owner) {
     out.Whole(70, 1);
     out.Whole(71, layout.tab);
     const bool empty = bounds.IsEmpty();
-    const double right = empty ? kPaperWidth : bounds.Right();
-    const double top = empty ? kPaperHeight : bounds.Bottom();
-    const double left = empty ? 0 : bounds.Left();
-    const double bottom = empty ? 0 : bounds.Top();
+    const double right = empty ? kPaperWidth : bounds.right;
+    const double top = empty ? kPaperHeight : bounds.bottom;
+    const double left = empty ? 0 : bounds.left;
+    const double bottom = empty ? 0 : bounds.top;
     out.Real(10, left);
     out.Real(20, bottom);
     out.Real(11, right);

@@ -45,7 +45,7 @@ private:
 };
 
 /// The window in which the whole drawing is seen first.
-void AppendViewport(DxfTags& out, const Extent& bounds, DxfHandles& handles) {
+void AppendViewport(DxfTags& out, const qmath::Box& bounds, DxfHandles& handles) {
     constexpr double kAround = 1.05;
     const bool empty = bounds.IsEmpty();
     const double aspect = 1.6;
@@ -59,8 +59,7 @@ void AppendViewport(DxfTags& out, const Extent& bounds, DxfHandles& handles) {
     };
     pair(10, 0, 0);
     pair(11, 1, 1);
-    pair(12, empty ? 0 : (bounds.Left() + bounds.Right()) / 2,
-         empty ? 0 : (bounds.Top() + bounds.Bottom()) / 2);
+    pair(12, empty ? 0 : (bounds.left + bounds.right) / 2, empty ? 0 : (bounds.top + bounds.bottom) / 2);
     pair(13, 0, 0);
     pair(14, 10, 10);
     pair(15, 10, 10);

@@ -16,12 +16,12 @@ double HalfPen(const ElementRecord& element) {
 }
 
 /// The rim's point in a direction.
-void IncludeRim(Box& box, const ElementRecord& arc, double dx, double dy) {
+void IncludeRim(qmath::Box& box, const ElementRecord& arc, double dx, double dy) {
     const double radius = std::abs(static_cast<double>(arc.radius)) / std::hypot(dx, dy);
     box.Include(arc.points[0].x + radius * dx, arc.points[0].y + radius * dy, HalfPen(arc));
 }
 
-void IncludeArc(Box& box, const ElementRecord& arc) {
+void IncludeArc(qmath::Box& box, const ElementRecord& arc) {
     const qmath::Arc shape{arc.points[0], arc.points[1], arc.points[2]};
     for (const qmath::Way end : {shape.StartRay(), shape.EndRay()})
         IncludeRim(box, arc, static_cast<double>(end.x), static_cast<double>(end.y));
@@ -30,7 +30,7 @@ void IncludeArc(Box& box, const ElementRecord& arc) {
             IncludeRim(box, arc, static_cast<double>(axis.x), static_cast<double>(axis.y));
 }
 
-void Include(Box& box, const ElementRecord& element) {
+void Include(qmath::Box& box, const ElementRecord& element) {
     const double pen = HalfPen(element);
     switch (element.type) {
     case ElementType::Poly:

@@ -2,6 +2,7 @@
 
 #include "qmath/math_util.h"
 #include "qsymbol/draw/surface_constants.h"
+#include "qsymbol/picture/arc_bounds.h"
 #include "qsymbol/picture/font_metrics.h"
 
 #include <algorithm>
@@ -95,7 +96,7 @@ void VectorSurface::Poly(std::span<const qmath::Point> points, bool closed) {
     if (points.size() < 2 || (!paint.line && !paint.fill))
         return;
     for (const qmath::Point point : points)
-        bounds_.Include({static_cast<double>(point.x), static_cast<double>(point.y)}, paint.width / 2);
+        bounds_.Include(point.x, point.y, paint.width / 2);
     OnPoly(points, closed, paint);
 }
 
@@ -107,16 +108,17 @@ void VectorSurface::Ellipse(const qmath::Rect& box) {
     // A pen that draws inside stays within the box; one as wide as the circle leaves nothing but itself.
     const bool inside = drawStyle_ == kDrawStyleInsideSolid && paint.line;
     const double reach = inside ? 0 : paint.width / 2;
-    bounds_.Include(CentreOf(box), radius + reach);
+    const qmath::Vector centre = CentreOf(box);
+    bounds_.Include(centre.x, centre.y, radius + reach);
     if (!inside || paint.width <= 0)
-        return OnCircle(CentreOf(box), radius, paint);
+        return OnCircle(centre, radius, paint);
     Paint fill;
     fill.fill = paint.fill;
     if (paint.width >= 2 * radius) {
         fill.fill = paint.line;
-        return OnCircle(CentreOf(box), radius, fill);
+        return OnCircle(centre, radius, fill);
     }
-    OnCircle(CentreOf(box), radius - paint.width / 2, paint);
+    OnCircle(centre, radius - paint.width / 2, paint);
 }
 
 void VectorSurface::Arc(const qmath::Rect& box, qmath::Point start, qmath::Point end) {
@@ -129,7 +131,7 @@ void VectorSurface::Arc(const qmath::Rect& box, qmath::Point start, qmath::Point
     const double to = Direction(centre, end);
     const double sweep = to > from ? to - from : to - from + qmath::kTwoPi;
     // Seen with y downwards the arc grows from its end back to its start.
-    bounds_.IncludeArc(centre, radius, -(from + sweep), sweep, paint.width / 2);
+    bounds_.Include(ArcBounds(centre, radius, -(from + sweep), sweep, paint.width / 2));
     OnArc(centre, radius, from, sweep, paint);
 }
 
@@ -161,7 +163,7 @@ void VectorSurface::IncludeText(const PictureText& text, double ascent, double d
     for (const double x : {left, left + text.width})
         for (const double y : {-ascent, descent}) {
             const qmath::Vector corner = Turned(x, y, text.degrees);
-            bounds_.Include({text.baseline.x + corner.x, text.baseline.y + corner.y});
+            bounds_.Include(text.baseline.x + corner.x, text.baseline.y + corner.y);
         }
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "qmath/box.h"
+#include "qmath/vector.h"
 #include "qsymbol/draw/surface.h"
-#include "qsymbol/picture/extent.h"
 #include "qsymbol/picture/paint.h"
 #include "qsymbol/picture/picture_text.h"
 
@@ -17,7 +18,7 @@ namespace qsymbol {
 class VectorSurface : public Surface {
 public:
     /// Around everything that was drawn: sweeps of arcs, half the pens, estimated widths of texts.
-    const Extent& Bounds() const { return bounds_; }
+    const qmath::Box& Bounds() const { return bounds_; }
 
     SurfaceKind Kind() override { return SurfaceKind::PictureBox; }
     std::u16string Name() override { return {}; }
@@ -61,7 +62,7 @@ private:
     void Poly(std::span<const qmath::Point> points, bool closed);
     void IncludeText(const PictureText& text, double ascent, double descent);
 
-    Extent bounds_;
+    qmath::Box bounds_;
     std::int32_t drawWidth_ = 1;
     std::int32_t drawStyle_ = 0;
     std::int32_t foreColor_ = 0;

@@ -29,15 +29,15 @@ std::string Number(double value) {
 } // namespace
 
 void DrawToSvg(const Symbol& symbol, SvgSurface& surface) {
-    DrawSymbol(symbol, {.at = {symbol.refX, symbol.refY}, .angle = 0}, surface,
-               PlainTransformation(qmath::Transform()), {.printer = 1, .screen = 1});
+    DrawSymbol(symbol, {.at = Reference(symbol), .angle = 0}, surface,
+               PlainTransformation(qmath::Transform()), kUnscaled);
 }
 
 SvgView ViewOf(const SvgSurface& surface, double emptyWidth, double emptyHeight) {
-    const Extent& bounds = surface.Bounds();
+    const qmath::Box& bounds = surface.Bounds();
     SvgView view{.width = emptyWidth, .height = emptyHeight};
     if (!bounds.IsEmpty())
-        view = {bounds.Left(), bounds.Top(), bounds.Width(), bounds.Height()};
+        view = {bounds.left, bounds.top, bounds.Width(), bounds.Height()};
     for (double* value : {&view.left, &view.top, &view.width, &view.height})
         *value /= SvgSurface::kUnitsPerMillimetre;
     Widen(view.left, view.width);
