@@ -1,5 +1,7 @@
 #include "base/utf8.h"
 
+#include "base/utf16_unit.h"
+
 #include <cstddef>
 
 namespace base {
@@ -63,9 +65,9 @@ std::string ToUtf8(std::u16string_view text) {
     out.resize(plain);
     for (std::size_t i = plain; i < text.size(); ++i) {
         const char16_t unit = text[i];
-        if ((unit & 0xF800) != 0xD800) {
+        if (!IsSurrogate(unit)) {
             AppendUtf8(out, unit);
-        } else if (unit < 0xDC00 && i + 1 < text.size() && (text[i + 1] & 0xFC00) == 0xDC00) {
+        } else if (IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
             AppendUtf8(out, 0x10000U + ((unit & 0x3FFU) << 10) + (text[i + 1] & 0x3FFU));
             ++i;
         } else {

@@ -3,6 +3,7 @@
 #include "base/error.h"
 
 #include <algorithm>
+#include <random>
 
 namespace base {
 
@@ -22,21 +23,26 @@ void Try(Step&& step) noexcept {
     }
 }
 
-/// A name in the same folder that no file has.
-std::u16string FreeNameBeside(FileSystem& files, const std::u16string& path) {
-    std::u16string name = path + u".~";
-    while (files.FileExists(name))
-        name += u'~';
+/// A name in the same folder that no file has, short enough wherever the path's own name is.
+std::u16string FreeNameBeside(FileSystem& files, std::u16string_view path) {
+    constexpr std::u16string_view kDigits = u"0123456789abcdef";
+    constexpr std::u16string_view kSeparators = u"/\\:";
+    constexpr int kLength = 8;
+    const std::u16string_view folder = path.substr(0, path.find_last_of(kSeparators) + 1);
+    std::random_device random; // others may be writing into this folder
+    std::u16string name;
+    do {
+        name = folder;
+        name += u".~";
+        std::random_device::result_type bits = random();
+        for (int i = 0; i < kLength; ++i, bits >>= 4)
+            name += kDigits[bits & 15U];
+        name += u".tmp";
+    } while (files.FileExists(name));
     return name;
 }
 
 } // namespace
-
-void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, const Composer& compose) {
-    const std::unique_ptr<File> file = files.Open(path, mode);
-    compose([&](std::string_view bytes) { Write(*file, bytes); });
-    file->Close();
-}
 
 void WriteInPlace(FileSystem& files, const std::u16string& path, std::string_view bytes, Tail tail) {
     const bool existed = files.FileExists(path);
@@ -71,12 +77,13 @@ void WriteBeside(FileSystem& files, const std::u16string& path, std::string_view
     WriteBeside(files, path, [&](const ByteSink& sink) { sink(bytes); });
 }
 
-void WriteBeside(FileSystem& files, const std::u16string& path, const Composer& compose) {
+void WriteBeside(FileSystem& files, const std::u16string& path, const Composer& compose, Flush flush) {
     const std::u16string beside = FreeNameBeside(files, path);
     std::unique_ptr<File> file = files.Open(beside, OpenMode::Replace);
     try {
         compose([&](std::string_view bytes) { Write(*file, bytes); });
-        file->Flush();
+        if (flush == Flush::Yes)
+            file->Flush();
         file->Close();
         files.Rename(beside, path);
     } catch (...) {

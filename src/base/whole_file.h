@@ -8,9 +8,6 @@
 
 namespace base {
 
-/// Writes bytes that come piece by piece and closes the file. Errors of FileSystem::Open, File and `compose`.
-void WriteWholeFile(FileSystem& files, const std::u16string& path, OpenMode mode, const Composer& compose);
-
 /// What becomes of that part of an old file that is longer than the new content.
 enum class Tail { Cut, Keep };
 
@@ -20,10 +17,14 @@ enum class Tail { Cut, Keep };
 /// content as it was, and no file where none was. Errors of FileSystem::Open and File.
 void WriteInPlace(FileSystem& files, const std::u16string& path, std::string_view bytes, Tail tail);
 
+/// Whether a file is handed to the device before it counts as written; that takes a while for each.
+enum class Flush { Yes, No };
+
 /// Writes the bytes into a new file beside, which then takes the name: any error leaves the old file whole.
 /// Errors of FileSystem and File.
 void WriteBeside(FileSystem& files, const std::u16string& path, std::string_view bytes);
 /// The same for bytes that come piece by piece. Errors of `compose` too.
-void WriteBeside(FileSystem& files, const std::u16string& path, const Composer& compose);
+void WriteBeside(FileSystem& files, const std::u16string& path, const Composer& compose,
+                 Flush flush = Flush::Yes);
 
 } // namespace base

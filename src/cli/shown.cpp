@@ -1,5 +1,6 @@
 #include "cli/shown.h"
 
+#include "base/utf16_unit.h"
 #include "base/utf8.h"
 
 #include <algorithm>
@@ -8,9 +9,14 @@ namespace cli {
 
 std::string Shown(std::u16string_view text) {
     std::u16string line(text);
-    const auto isControl = [](char16_t unit) { return unit < 0x20 || (unit >= 0x7F && unit < 0xA0); };
-    std::replace_if(line.begin(), line.end(), isControl, u'?');
+    std::ranges::replace_if(line, base::IsControl, u'?');
     return base::ToUtf8(line);
+}
+
+std::string Counted(std::size_t number, std::string_view noun) {
+    std::string text = std::to_string(number) + ' ';
+    text += noun;
+    return number == 1 ? text : text + 's';
 }
 
 } // namespace cli

@@ -6,7 +6,6 @@
 #include "qmath/str_util.h"
 
 #include <filesystem>
-#include <random>
 
 namespace cli {
 
@@ -20,36 +19,6 @@ std::u16string OneSpelling(const std::u16string& path) {
     constexpr bool kCaseMatters = fs::path::preferred_separator == '/';
     return kCaseMatters ? plain : base::LowerCase(plain);
 }
-
-/// A name that is short enough wherever the target's own name is.
-std::u16string NameBeside() {
-    constexpr std::u16string_view kDigits = u"0123456789abcdef";
-    std::random_device random;
-    std::u16string name = u".qsymbol-";
-    for (unsigned bits = random(), i = 0; i < 8; ++i, bits >>= 4)
-        name += kDigits[bits & 15U];
-    return name + u".tmp";
-}
-
-/// A file that is gone at the end, unless it was renamed before.
-class Passing {
-public:
-    explicit Passing(fs::path path) : path_(std::move(path)) {}
-    Passing(const Passing&) = delete;
-    Passing& operator=(const Passing&) = delete;
-    ~Passing() {
-        std::error_code ignored;
-        if (!path_.empty())
-            fs::remove(path_, ignored);
-    }
-    void Rename(const fs::path& target) {
-        fs::rename(path_, target);
-        path_.clear();
-    }
-
-private:
-    fs::path path_;
-};
 
 /// The file that a link leads to, else the path itself: what is renamed would take the link's place.
 fs::path BehindLinks(const fs::path& path) {
@@ -73,20 +42,11 @@ void MakeSureItMayBeWritten(const std::u16string& path, bool overwrite, const st
         throw RunTime(base::RunTimeError::PermissionDenied);
 }
 
-void WriteBesideAndRename(const std::u16string& path, const base::Composer& compose,
-                          base::FileSystem& files) {
+void WriteBehindLinks(const std::u16string& path, const base::Composer& compose, base::FileSystem& files) {
     const fs::path target = BehindLinks(fs::path(path));
-    const fs::path folder = target.parent_path();
-    if (!folder.empty())
-        fs::create_directories(folder);
-    const fs::path beside = folder / fs::path(NameBeside());
-    Passing passing(beside);
-    base::WriteWholeFile(files, beside.u16string(), base::OpenMode::Replace, compose);
-    std::error_code none;
-    const fs::file_status old = fs::status(target, none);
-    if (fs::exists(old))
-        fs::permissions(beside, old.permissions());
-    passing.Rename(target);
+    if (target.has_parent_path())
+        fs::create_directories(target.parent_path());
+    base::WriteBeside(files, target.u16string(), compose, base::Flush::No);
 }
 
 /// Does work on a target; what fails is told of the target and not of the source.
@@ -116,7 +76,7 @@ void Targets::Write(const std::u16string& path, std::string_view bytes) const {
 }
 
 void Targets::Write(const std::u16string& path, const base::Composer& compose) const {
-    OnTarget(path, [&] { WriteBesideAndRename(path, compose, run_.OnSystem().files); });
+    OnTarget(path, [&] { WriteBehindLinks(path, compose, run_.OnSystem().files); });
 }
 
 std::u16string TargetIn(const std::u16string& folder, const SourceFile& source,

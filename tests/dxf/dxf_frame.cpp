@@ -1,7 +1,6 @@
 #include "dxf/dxf_frame.h"
 
-#include "base/whole_file.h"
-
+#include <memory>
 #include <string_view>
 
 namespace support {
@@ -27,16 +26,20 @@ constexpr std::string_view kHead = "0\nSECTION\n2\nHEADER\n"
                                    "0\nENDSEC\n"
                                    "0\nSECTION\n2\nENTITIES\n";
 
+void Put(base::FileSystem& files, const std::u16string& path, base::OpenMode mode, std::string_view bytes) {
+    const std::unique_ptr<base::File> file = files.Open(path, mode);
+    file->Write(bytes.data(), bytes.size());
+    file->Close();
+}
+
 } // namespace
 
 void BeginDxf(base::FileSystem& files, const std::u16string& path) {
-    base::WriteWholeFile(files, path, base::OpenMode::Replace,
-                         [](const base::ByteSink& sink) { sink(kHead); });
+    Put(files, path, base::OpenMode::Replace, kHead);
 }
 
 void EndDxf(base::FileSystem& files, const std::u16string& path) {
-    base::WriteWholeFile(files, path, base::OpenMode::Append,
-                         [](const base::ByteSink& sink) { sink("0\nENDSEC\n0\nEOF\n"); });
+    Put(files, path, base::OpenMode::Append, "0\nENDSEC\n0\nEOF\n");
 }
 
 } // namespace support

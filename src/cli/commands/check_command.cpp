@@ -70,12 +70,9 @@ std::string FindingsAsText(const std::u16string& path, const std::vector<Finding
 }
 
 std::string Summary(const Counts& counts) {
-    const auto count = [](std::size_t number, const char* one) {
-        return std::to_string(number) + ' ' + one + (number == 1 ? "" : "s");
-    };
-    std::string text = count(counts.files, "file");
-    text.append(", ").append(count(counts.errors, "error"));
-    text.append(", ").append(count(counts.warnings, "warning"));
+    std::string text = Counted(counts.files, "file");
+    text.append(", ").append(Counted(counts.errors, "error"));
+    text.append(", ").append(Counted(counts.warnings, "warning"));
     return text += '\n';
 }
 

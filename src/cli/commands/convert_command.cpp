@@ -2,6 +2,7 @@
 #include "cli/commands/command.h"
 #include "cli/for_each.h"
 #include "cli/paths.h"
+#include "cli/shown.h"
 #include "cli/symbol_files.h"
 #include "cli/symbol_io.h"
 #include "cli/targets.h"
@@ -38,7 +39,7 @@ void Convert(const ConvertArguments& arguments, Run& run) {
         targets.Write(path, Compose(ReadSymbol(source.path, run), path, run));
         ++written;
     });
-    run.Remark(std::to_string(written) + (written == 1 ? " file written\n" : " files written\n"));
+    run.Remark(Counted(written, "file") + " written\n");
 }
 
 } // namespace

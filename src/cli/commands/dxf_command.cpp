@@ -1,11 +1,8 @@
 #include "base/utf8.h"
 #include "cli/commands/command.h"
 #include "cli/commands/drawing_units.h"
-#include "cli/for_each.h"
+#include "cli/one_target.h"
 #include "cli/paths.h"
-#include "cli/symbol_files.h"
-#include "cli/symbol_io.h"
-#include "cli/targets.h"
 #include "qsymbol/drawing/catalogue_drawing.h"
 
 #include <memory>
@@ -24,26 +21,14 @@ void WriteDrawing(DxfArguments arguments, Run& run) {
     arguments.paths.pop_back();
     if (Extension(path) != u"dxf")
         WrongUsage("dxf: the drawing's name must end in .dxf");
-    Targets targets(run);
-    bool claimed = false;
-    run.Try(path, [&] {
-        targets.Claim(path);
-        claimed = true;
-    });
-    if (!claimed)
-        return;
     qsymbol::CatalogueDrawing drawing(arguments.unit);
-    std::size_t count = 0;
-    const std::vector<SourceFile> files = SymbolFiles(arguments.paths, run.options.recursive);
-    ForEach(files, run, [&](const SourceFile& source) {
-        const qsymbol::Symbol symbol = ReadSymbol(source.path, run);
-        drawing.Add(Name(symbol), source.folder, symbol);
-        ++count;
-    });
-    if (count == 0 && !files.empty())
-        return; // all of them failed
-    run.Try(path, [&] { targets.Write(path, drawing.Compose()); });
-    run.Remark(std::to_string(count) + (count == 1 ? " block\n" : " blocks\n"));
+    WriteOneTarget(
+        {.path = path,
+         .add = [&](const SourceFile& source,
+                    const qsymbol::Symbol& symbol) { drawing.Add(Name(symbol), source.folder, symbol); },
+         .compose = [&] { return drawing.Compose(); },
+         .noun = "block"},
+        arguments.paths, run);
 }
 
 } // namespace

@@ -1,10 +1,7 @@
 #include "base/utf8.h"
 #include "cli/commands/command.h"
-#include "cli/for_each.h"
+#include "cli/one_target.h"
 #include "cli/paths.h"
-#include "cli/symbol_files.h"
-#include "cli/symbol_io.h"
-#include "cli/targets.h"
 #include "qsymbol/gallery/gallery_page.h"
 
 #include <algorithm>
@@ -32,29 +29,18 @@ void WriteGallery(const GalleryArguments& arguments, Run& run) {
     const std::u16string path = base::FromUtf8(arguments.page);
     if (const std::u16string extension = Extension(path); extension != u"html" && extension != u"htm")
         WrongUsage("gallery: the page's name must end in .html");
-    Targets targets(run);
-    bool claimed = false;
-    run.Try(path, [&] {
-        targets.Claim(path);
-        claimed = true;
-    });
-    if (!claimed)
-        return;
     const std::u16string title = LastPart(base::FromUtf8(arguments.folder));
     qsymbol::GalleryPage page(title);
-    std::size_t count = 0;
-    const std::vector<SourceFile> files = SymbolFiles({arguments.folder}, run.options.recursive);
-    ForEach(files, run, [&](const SourceFile& source) {
-        const qsymbol::Symbol symbol = ReadSymbol(source.path, run);
-        std::u16string category = source.folder.empty() ? title : source.folder;
-        std::replace(category.begin(), category.end(), u'\\', u'/');
-        page.Add(Name(symbol), category, LastPart(source.path), symbol);
-        ++count;
-    });
-    if (count == 0 && !files.empty())
-        return; // all of them failed
-    run.Try(path, [&] { targets.Write(path, page.Compose()); });
-    run.Remark(std::to_string(count) + (count == 1 ? " symbol\n" : " symbols\n"));
+    WriteOneTarget({.path = path,
+                    .add =
+                        [&](const SourceFile& source, const qsymbol::Symbol& symbol) {
+                            std::u16string category = source.folder.empty() ? title : source.folder;
+                            std::replace(category.begin(), category.end(), u'\\', u'/');
+                            page.Add(Name(symbol), category, LastPart(source.path), symbol);
+                        },
+                    .compose = [&] { return page.Compose(); },
+                    .noun = "symbol"},
+                   {arguments.folder}, run);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "cli/commands/drawing_units.h"
 #include "cli/commands/symbols_by_name.h"
 #include "cli/paths.h"
+#include "cli/shown.h"
 #include "cli/targets.h"
 #include "qplan/export/plan_dxf.h"
 #include "qplan/export/plan_svg.h"
@@ -48,7 +49,7 @@ void WritePlan(const PlanArguments& arguments, Run& run) {
         if (!dxf.empty())
             targets.Write(dxf,
                           [&](const base::ByteSink& sink) { ComposePlanDxf(plan, arguments.unit, sink); });
-        run.Remark(std::to_string(plan.Count()) + (plan.Count() == 1 ? " symbol\n" : " symbols\n"));
+        run.Remark(Counted(plan.Count(), "symbol") + '\n');
     });
 }
 

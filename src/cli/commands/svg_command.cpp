@@ -1,6 +1,7 @@
 #include "base/utf8.h"
 #include "cli/commands/command.h"
 #include "cli/for_each.h"
+#include "cli/shown.h"
 #include "cli/symbol_files.h"
 #include "cli/symbol_io.h"
 #include "cli/targets.h"
@@ -23,7 +24,7 @@ void WritePictures(std::vector<std::string> paths, Run& run) {
         targets.Write(path, qsymbol::SymbolSvg(ReadSymbol(source.path, run)));
         ++written;
     });
-    run.Remark(std::to_string(written) + (written == 1 ? " picture written\n" : " pictures written\n"));
+    run.Remark(Counted(written, "picture") + " written\n");
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "base/letter_case.h"
 
+#include "base/utf16_unit.h"
+
 #include <clocale>
 #include <cwctype>
 
@@ -23,7 +25,7 @@ std::u16string Mapped(std::u16string_view text, char16_t first, int step, Map ma
                 unit = static_cast<char16_t>(unit + step);
             continue;
         }
-        if ((unit & 0xF800) == 0xD800)
+        if (base::IsSurrogate(unit))
             continue;
         const auto mapped = map(static_cast<wint_t>(unit), UnicodeLocale());
         if (mapped < 0x10000)

@@ -1,5 +1,7 @@
 #include "platform/posix/windows_1252.h"
 
+#include "base/utf16_unit.h"
+
 #include <array>
 
 namespace platform {
@@ -28,7 +30,7 @@ std::string Windows1252::Encode(std::u16string_view text) const {
     bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool pair =
-            (text[i] & 0xFC00) == 0xD800 && i + 1 < text.size() && (text[i + 1] & 0xFC00) == 0xDC00;
+            base::IsHighSurrogate(text[i]) && i + 1 < text.size() && base::IsLowSurrogate(text[i + 1]);
         bytes += EncodeOne(text[i]);
         i += pair ? 1 : 0;
     }

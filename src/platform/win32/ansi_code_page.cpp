@@ -1,6 +1,7 @@
 #include "platform/win32/ansi_code_page.h"
 
 #include "base/checked.h"
+#include "base/utf16_unit.h"
 #include "platform/wide/wide_text.h"
 
 #include <windows.h>
@@ -25,7 +26,7 @@ std::u16string WithoutPairs(std::u16string_view text) {
     std::u16string single;
     for (const char16_t unit : text) {
         const bool second =
-            (unit & 0xFC00) == 0xDC00 && !single.empty() && (single.back() & 0xFC00) == 0xD800;
+            base::IsLowSurrogate(unit) && !single.empty() && base::IsHighSurrogate(single.back());
         if (second)
             single.back() = u'\uFFFD';
         else

@@ -1,7 +1,7 @@
 #include "qsymbol/drawing/drawing_names.h"
 
 #include "base/letter_case.h"
-#include "qsymbol/drawing/dxf_text.h"
+#include "qsymbol/drawing/drawing_text.h"
 
 namespace qsymbol {
 

@@ -3,8 +3,8 @@
 #include "base/letter_case.h"
 #include "qmath/math_util.h"
 #include "qsymbol/draw/symbol_drawing.h"
+#include "qsymbol/drawing/drawing_text.h"
 #include "qsymbol/drawing/dxf_contents.h"
-#include "qsymbol/drawing/dxf_text.h"
 #include "qsymbol/geometry/placed_box.h"
 #include "qsymbol/geometry/plain_transformation.h"
 
@@ -33,7 +33,7 @@ DxfDrawing::Layer DxfDrawing::AddLayer(std::u16string_view name) {
                                     [&](const LayerEntry& layer) { return layer.key == key; });
     if (known != layers_.end())
         return static_cast<Layer>(known - layers_.begin());
-    layers_.push_back({std::move(key), DxfText(legal)});
+    layers_.push_back({std::move(key), DrawingText(legal)});
     return layers_.size() - 1;
 }
 
@@ -68,7 +68,7 @@ void DxfDrawing::Append(DxfTags& out, const PlacedBlock& insert) const {
     out.Text(100, "AcDbEntity");
     out.Text(8, layers_[insert.layer].name);
     out.Text(100, "AcDbBlockReference");
-    out.Text(2, DxfText(blocks_[insert.block].name));
+    out.Text(2, DrawingText(blocks_[insert.block].name));
     out.Place(10, context_->Length(position.at.x), context_->Length(-static_cast<double>(position.at.y)));
     if (position.angle != 0)
         out.Real(50, qmath::RadToDeg(position.angle));
@@ -114,7 +114,7 @@ void DxfDrawing::Compose(const base::ByteSink& sink) const {
     for (const LayerEntry& layer : layers_)
         contents.layers.push_back(layer.name);
     for (const BlockEntry& block : blocks_)
-        contents.blocks.push_back({.name = DxfText(block.name),
+        contents.blocks.push_back({.name = DrawingText(block.name),
                                    .record = block.record,
                                    .baseX = context_->Length(block.base.x),
                                    .baseY = context_->Length(-static_cast<double>(block.base.y)),

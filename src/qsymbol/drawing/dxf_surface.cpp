@@ -1,7 +1,8 @@
 #include "qsymbol/drawing/dxf_surface.h"
 
+#include "base/utf16_unit.h"
 #include "qmath/math_util.h"
-#include "qsymbol/drawing/dxf_text.h"
+#include "qsymbol/drawing/drawing_text.h"
 #include "qsymbol/drawing/line_weight.h"
 #include "qsymbol/picture/font_metrics.h"
 
@@ -114,7 +115,7 @@ void DxfSurface::OnText(const PictureText& text) {
     double offset = -PartLeftOf(text.side) * text.width;
     for (std::size_t at = 0; at < text.text.size();) {
         std::size_t count = std::min(kLongestPiece, text.text.size() - at);
-        if ((text.text[at + count - 1] & 0xFC00) == 0xD800 && count > 1)
+        if (base::IsHighSurrogate(text.text[at + count - 1]) && count > 1)
             --count;
         const std::u16string_view piece = text.text.substr(at, count);
         const double width = TextWidth(piece, *text.font);
@@ -134,7 +135,7 @@ void DxfSurface::PutTextPiece(const PictureText& text, TextSide side, double off
     };
     std::string value = font.underline ? "%%u" : "";
     value += font.strikethrough ? "%%k" : "";
-    value += DxfShownText(piece);
+    value += ShownDrawingText(piece);
 
     Begin("TEXT", text.colour);
     out_.Text(100, "AcDbText");

@@ -1,7 +1,7 @@
 #include "qsymbol/drawing/text_styles.h"
 
 #include "base/letter_case.h"
-#include "qsymbol/drawing/dxf_text.h"
+#include "qsymbol/drawing/drawing_text.h"
 #include "qsymbol/picture/font_metrics.h"
 
 namespace qsymbol {
@@ -28,8 +28,8 @@ const std::string& TextStyles::StyleFor(const base::FontRequest& font) {
         std::u16string name = family;
         name += font.bold ? u" fett" : u"";
         name += font.italic ? u" kursiv" : u"";
-        Style style{.name = DxfText(names_.Take(name)),
-                    .family = DxfText(family),
+        Style style{.name = DrawingText(names_.Take(name)),
+                    .family = DrawingText(family),
                     .file = {},
                     .bold = font.bold,
                     .italic = font.italic,

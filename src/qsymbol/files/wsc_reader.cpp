@@ -1,6 +1,7 @@
 #include "qsymbol/files/wsc_reader.h"
 
 #include "base/error.h"
+#include "base/utf16_unit.h"
 #include "qsymbol/files/library_error.h"
 #include "qsymbol/files/line_cursor.h"
 #include "qsymbol/files/memory_budget.h"
@@ -105,7 +106,7 @@ std::u16string Shown(std::string_view line, const base::CodePage& codePage) {
     std::u16string text = codePage.Decode(line.substr(0, kLongestCharacter * (kCharacters + 1)));
     if (text.size() <= kCharacters)
         return text;
-    const bool halved = (text[kCharacters] & 0xFC00) == 0xDC00;
+    const bool halved = base::IsLowSurrogate(text[kCharacters]);
     text.resize(kCharacters - (halved ? 1 : 0));
     return text + u'…';
 }

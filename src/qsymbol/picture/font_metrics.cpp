@@ -1,6 +1,7 @@
 #include "qsymbol/picture/font_metrics.h"
 
 #include "base/letter_case.h"
+#include "base/utf16_unit.h"
 
 #include <algorithm>
 #include <array>
@@ -75,7 +76,7 @@ constexpr double kWideAdvance = 1000;
 constexpr double kOtherAdvance = 600;
 
 double AdvanceOf(char16_t unit) {
-    if (unit < 0x20 || unit == 0x7F || (unit & 0xFC00) == 0xDC00)
+    if (unit < 0x20 || unit == 0x7F || base::IsLowSurrogate(unit))
         return 0;
     if (unit < 0x7F)
         return kAdvances[unit - 0x20U];

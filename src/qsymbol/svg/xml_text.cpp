@@ -1,5 +1,6 @@
 #include "qsymbol/svg/xml_text.h"
 
+#include "base/utf16_unit.h"
 #include "base/utf8.h"
 
 #include <cstddef>
@@ -22,14 +23,6 @@ std::string_view EscapeOf(char16_t unit) {
     }
 }
 
-bool IsHighSurrogate(char16_t unit) {
-    return (unit & 0xFC00) == 0xD800;
-}
-
-bool IsLowSurrogate(char16_t unit) {
-    return (unit & 0xFC00) == 0xDC00;
-}
-
 } // namespace
 
 void AppendXmlText(std::string& out, std::u16string_view text) {
@@ -37,12 +30,12 @@ void AppendXmlText(std::string& out, std::u16string_view text) {
         const char16_t unit = text[i];
         if (const std::string_view escape = EscapeOf(unit); !escape.empty()) {
             out += escape;
-        } else if (IsHighSurrogate(unit) && i + 1 < text.size() && IsLowSurrogate(text[i + 1])) {
+        } else if (base::IsHighSurrogate(unit) && i + 1 < text.size() && base::IsLowSurrogate(text[i + 1])) {
             out += base::ToUtf8(text.substr(i, 2));
             ++i;
-        } else if (unit >= 0x20 && unit < 0x7F) {
+        } else if (unit < 0x80 && !base::IsControl(unit)) {
             out += static_cast<char>(unit);
-        } else if (unit >= 0xA0 && unit < 0xFFFE && !IsHighSurrogate(unit) && !IsLowSurrogate(unit)) {
+        } else if (unit < 0xFFFE && !base::IsControl(unit) && !base::IsSurrogate(unit)) {
             out += base::ToUtf8(text.substr(i, 1));
         }
     }

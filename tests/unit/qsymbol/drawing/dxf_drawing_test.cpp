@@ -2,7 +2,7 @@
 
 #include "qmath/math_util.h"
 #include "qsymbol/drawing/catalogue_drawing.h"
-#include "qsymbol/drawing/dxf_text.h"
+#include "qsymbol/drawing/drawing_text.h"
 #include "qsymbol/drawing/line_weight.h"
 #include "support/elements.h"
 #include "support/error_number_of.h"
@@ -209,12 +209,12 @@ TEST(CatalogueDrawing, HoldsSymbolsOfAnySizeAndNone) {
     EXPECT_NE(catalogue.Compose().find("riesig_2"), std::string::npos);
 }
 
-TEST(DxfText, HoldsAnyText) {
+TEST(DrawingText, HoldsAnyText) {
     const char16_t odd[] = {u'a', 0, 0x1B, 0x7F, 0xDC00};
-    EXPECT_EQ(qsymbol::DxfText({odd, 5}), "a^@^[\\U+007F\\U+DC00");
-    EXPECT_EQ(qsymbol::DxfText(u"Höhe ≤ 90\n€^x"), "H\xF6he \\U+2264 90^J\\U+20AC^ x");
-    EXPECT_EQ(qsymbol::DxfText(u"\\U+0041 \\P"), "\\U+005CU+0041 \\P");
-    EXPECT_EQ(qsymbol::DxfShownText(u"50 % %%d %"), "50 % %%%%%%d %");
+    EXPECT_EQ(qsymbol::DrawingText({odd, 5}), "a^@^[\\U+007F\\U+DC00");
+    EXPECT_EQ(qsymbol::DrawingText(u"Höhe ≤ 90\n€^x"), "H\xF6he \\U+2264 90^J\\U+20AC^ x");
+    EXPECT_EQ(qsymbol::DrawingText(u"\\U+0041 \\P"), "\\U+005CU+0041 \\P");
+    EXPECT_EQ(qsymbol::ShownDrawingText(u"50 % %%d %"), "50 % %%%%%%d %");
 }
 
 TEST(LegalDxfName, HasNothingThatANameCannotHave) {
