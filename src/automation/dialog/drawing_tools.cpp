@@ -1,6 +1,7 @@
 #include "automation/dialog/drawing_tools.h"
 
 #include "base/error.h"
+#include "platform/win32/pen_and_brush.h"
 
 #include <oleauto.h>
 #include <olectl.h>
@@ -11,35 +12,11 @@ namespace dialog {
 
 namespace {
 
-// Values of DrawStyle; below are the GDI's solid, dashed and dotted pens.
-constexpr LONG kInvisible = 5;
-constexpr LONG kInsideSolid = 6;
-// Values of FillStyle; above are the GDI's hatches.
-constexpr LONG kSolid = 0;
-constexpr LONG kTransparent = 1;
-constexpr LONG kFirstHatch = 2;
-
 COLORREF Colour(LONG value) {
     COLORREF colour = 0;
     if (FAILED(OleTranslateColor(static_cast<OLE_COLOR>(value), nullptr, &colour)))
         base::Raise(base::RunTimeError::InvalidCall);
     return colour;
-}
-
-int PenStyle(LONG drawStyle, LONG width) {
-    switch (drawStyle) {
-    case kInvisible: return PS_NULL;
-    case kInsideSolid: return PS_INSIDEFRAME;
-    default: return width > 1 ? PS_SOLID : static_cast<int>(drawStyle); // only thin lines can be dashed
-    }
-}
-
-HGDIOBJ Brush(LONG fillStyle, COLORREF colour) {
-    switch (fillStyle) {
-    case kSolid: return CreateSolidBrush(colour);
-    case kTransparent: return GetStockObject(NULL_BRUSH);
-    default: return CreateHatchBrush(fillStyle - kFirstHatch, colour);
-    }
 }
 
 } // namespace
@@ -58,13 +35,13 @@ void DrawingTools::Replace(HDC context, HGDIOBJ& current, HGDIOBJ fresh) {
 
 void DrawingTools::Select(HDC context, const DrawingStyle& style) {
     if (style.drawMode < R2_BLACK || style.drawMode > R2_WHITE || style.drawWidth < 1 ||
-        style.drawStyle < 0 || style.drawStyle > kInsideSolid || style.fillStyle < 0 ||
-        style.fillStyle > kFirstHatch + HS_DIAGCROSS)
+        style.drawStyle < 0 || style.drawStyle > platform::kLastDrawStyle || style.fillStyle < 0 ||
+        style.fillStyle > platform::kLastFillStyle)
         base::Raise(base::RunTimeError::InvalidCall);
     const COLORREF fore = Colour(style.foreColor);
     const COLORREF fill = Colour(style.fillColor);
-    Replace(context, pen_, CreatePen(PenStyle(style.drawStyle, style.drawWidth), style.drawWidth, fore));
-    Replace(context, brush_, Brush(style.fillStyle, fill));
+    Replace(context, pen_, platform::NewPen(style.drawStyle, style.drawWidth, fore));
+    Replace(context, brush_, platform::NewBrush(style.fillStyle, fill));
     SetTextColor(context, fore);
     SetROP2(context, style.drawMode);
 }

@@ -2,6 +2,7 @@
 
 #include "automation/qplan/ole_colour.h"
 #include "base/error.h"
+#include "platform/win32/pen_and_brush.h"
 
 #include <utility>
 
@@ -16,12 +17,9 @@ struct Range {
 
 constexpr LONG kWidestPen = 0x7FFF;
 /// In the order of the properties; a colour is whatever it is.
-constexpr Range kRanges[] = {{R2_BLACK, R2_WHITE},  {LONG_MIN, LONG_MAX},       {LONG_MIN, LONG_MAX},
-                             {0, 2 + HS_DIAGCROSS}, {PS_SOLID, PS_INSIDEFRAME}, {1, kWidestPen}};
-
-// Values of FillStyle; from 2 on the GDI's hatches.
-constexpr LONG kSolid = 0;
-constexpr LONG kHollow = 1;
+constexpr Range kRanges[] = {{R2_BLACK, R2_WHITE},          {LONG_MIN, LONG_MAX},
+                             {LONG_MIN, LONG_MAX},          {0, platform::kLastFillStyle},
+                             {0, platform::kLastDrawStyle}, {1, kWidestPen}};
 
 } // namespace
 
@@ -63,28 +61,18 @@ void DrawingTools::Apply(Property property) {
     case DrawMode: SetROP2(context_, static_cast<int>(values_[DrawMode])); break; // numbered as the GDI does
     case ForeColor: SetTextColor(context_, ColourOr(values_[ForeColor], 0)); [[fallthrough]];
     case DrawStyle:
-    case DrawWidth: Use(pen_, MakePen()); break;
+    case DrawWidth: UsePen(); break;
     case FillColor:
-    case FillStyle: Use(brush_, MakeBrush()); break;
+    case FillStyle: UseBrush(); break;
     }
 }
 
-HPEN DrawingTools::MakePen() const {
-    LONG style = values_[DrawStyle];
-    if (values_[DrawWidth] > 1 && style < PS_NULL)
-        style = PS_SOLID; // only thin lines can be dashed
-    // This function gives thick lines round ends and corners.
-    return CreatePen(static_cast<int>(style), static_cast<int>(values_[DrawWidth]),
-                     ColourOr(values_[ForeColor], 0));
+void DrawingTools::UsePen() {
+    Use(pen_, platform::NewPen(values_[DrawStyle], values_[DrawWidth], ColourOr(values_[ForeColor], 0)));
 }
 
-HBRUSH DrawingTools::MakeBrush() const {
-    const COLORREF colour = ColourOr(values_[FillColor], 0);
-    switch (const LONG style = values_[FillStyle]) {
-    case kSolid: return CreateSolidBrush(colour);
-    case kHollow: return static_cast<HBRUSH>(GetStockObject(NULL_BRUSH));
-    default: return CreateHatchBrush(static_cast<int>(style) - 2, colour);
-    }
+void DrawingTools::UseBrush() {
+    Use(brush_, platform::NewBrush(values_[FillStyle], ColourOr(values_[FillColor], 0)));
 }
 
 /// Deletes the pen or brush that the next one replaces; stock objects survive that.

@@ -30,8 +30,8 @@ private:
     };
     explicit DrawingTools(Bare bare) : context_(bare.context) {}
     void Apply(Property property);
-    HPEN MakePen() const;
-    HBRUSH MakeBrush() const;
+    void UsePen();
+    void UseBrush();
     void Use(HGDIOBJ& current, HGDIOBJ next);
 
     HDC context_;
