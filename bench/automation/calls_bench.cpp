@@ -4,6 +4,7 @@
 #include "automation/gdi_recording.h"
 #include "automation/host_calls.h"
 #include "automation/memory_context.h"
+#include "automation/new_object.h"
 #include "automation/run_benchmarks.h"
 #include "automation/sample_symbols.h"
 #include "com/bstr.h"
@@ -23,14 +24,6 @@ constexpr double kScale = 20; // world units to a pixel
 constexpr int kTexts = 10;
 
 std::vector<com::ComPtr<_CSymbol>> g_symbols;
-
-template <class Class, class Interface>
-com::ComPtr<Interface> New() {
-    com::ComPtr<Interface> object;
-    com::Check(CoCreateInstance(__uuidof(Class), nullptr, CLSCTX_INPROC_SERVER, __uuidof(Interface),
-                                object.PutVoid()));
-    return object;
-}
 
 template <class Class>
 com::ComPtr<IClassFactory> Factory() {

@@ -1,6 +1,7 @@
 // The shipped libraries with files: a folder of 10,000 binary symbols beside the bare reading of the same files, and a
 // plan of 10,000 placed symbols as DXF beside the bare writing of the same bytes, both in the same process.
 
+#include "automation/new_object.h"
 #include "automation/run_benchmarks.h"
 #include "automation/sample_symbols.h"
 #include "com/bstr.h"
@@ -87,9 +88,7 @@ private:
 
 /// Seconds for loading the folder; the catalogue goes away outside of them.
 double LoadOnce(const Folder& folder) {
-    com::ComPtr<_CSymbolColl> catalogue;
-    com::Check(CoCreateInstance(__uuidof(CSymbolColl), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CSymbolColl),
-                                catalogue.PutVoid()));
+    const auto catalogue = New<CSymbolColl, _CSymbolColl>();
     const com::Bstr path = Text(folder.Path());
     const double seconds = Seconds([&] { com::Check(catalogue->ReadKatalog(path.Get())); });
     LONG count = 0;

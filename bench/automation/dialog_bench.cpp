@@ -1,15 +1,14 @@
 #include "automation/bare_list.h"
 #include "automation/idle_owner.h"
-#include "automation/narrow_arguments.h"
+#include "automation/new_object.h"
+#include "automation/run_benchmarks.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
-#include "com/module.h"
 
 #include <QSymbol.h>
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -24,42 +23,31 @@ std::vector<std::u16string> g_names;
 com::ComPtr<_CSymbolColl> g_catalogue;
 
 com::ComPtr<_CSymElementColl> Outline() {
-    com::ComPtr<_CPtList> points;
-    com::Check(CoCreateInstance(__uuidof(CPtList), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CPtList),
-                                points.PutVoid()));
+    const auto points = New<CPtList, _CPtList>();
     for (const POINT corner : {POINT{0, 0}, {2000, 0}, {2000, 1000}, {0, 1000}, {500, 250}, {1500, 750}}) {
-        com::ComPtr<_CPt> point;
-        com::Check(
-            CoCreateInstance(__uuidof(CPt), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CPt), point.PutVoid()));
+        auto point = New<CPt, _CPt>();
         com::Check(point->put_X(corner.x));
         com::Check(point->put_Y(corner.y));
         com::Check(points->AddPoint(point.Get()));
     }
-    com::ComPtr<_CSymElement> element;
-    com::Check(CoCreateInstance(__uuidof(CSymElement), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CSymElement),
-                                element.PutVoid()));
+    auto element = New<CSymElement, _CSymElement>();
     com::Check(element->put_ElementType(symPoly));
     com::Check(element->put_LineClosed(VARIANT_TRUE));
     com::Check(element->put_FillColor(RGB(222, 184, 135)));
     com::Check(element->putref_PtList(points.Get()));
-    com::ComPtr<_CSymElementColl> elements;
-    com::Check(CoCreateInstance(__uuidof(CSymElementColl), nullptr, CLSCTX_INPROC_SERVER,
-                                __uuidof(_CSymElementColl), elements.PutVoid()));
+    const auto elements = New<CSymElementColl, _CSymElementColl>();
     _CSymElement* handedOver = element.Detach();
     com::Check(elements->AppendRef(&handedOver));
     return elements;
 }
 
 void FillCatalogue() {
-    com::Check(CoCreateInstance(__uuidof(CSymbolColl), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CSymbolColl),
-                                g_catalogue.PutVoid()));
+    g_catalogue = New<CSymbolColl, _CSymbolColl>();
     const com::ComPtr<_CSymElementColl> outline = Outline();
     for (int i = 0; i < kSymbols; ++i) {
         const std::string number = std::to_string(i);
         const std::u16string name = u"Symbol " + std::u16string(number.begin(), number.end());
-        com::ComPtr<_CSymbol> symbol;
-        com::Check(CoCreateInstance(__uuidof(CSymbol), nullptr, CLSCTX_INPROC_SERVER, __uuidof(_CSymbol),
-                                    symbol.PutVoid()));
+        auto symbol = New<CSymbol, _CSymbol>();
         com::Check(symbol->put_FilePath(com::Bstr(u"C:\\Katalog\\" + name + u".syb").Get()));
         com::Check(symbol->CreateNew(0, 0, 2000, 1000, outline.Get()));
         _CSymbol* handedOver = symbol.Detach();
@@ -122,19 +110,10 @@ BENCHMARK(MoveInBareList)->Unit(benchmark::kMillisecond)->Iterations(3000);
 
 } // namespace
 
-int wmain(int argc, wchar_t** wideArguments) {
-    NarrowArguments arguments(argc, wideArguments);
-    benchmark::Initialize(&argc, arguments.Data());
-    CoInitialize(nullptr);
-    com::TheModule().Start(GetModuleHandleW(nullptr), {});
-    try {
+int wmain(int argc, wchar_t** arguments) {
+    return RunBenchmarks(argc, arguments, [] {
         FillCatalogue();
         benchmark::RunSpecifiedBenchmarks();
         g_catalogue.Reset();
-    } catch (const base::Error& error) {
-        std::printf("%s\n", error.what());
-        return 1;
-    }
-    CoUninitialize();
-    return 0;
+    });
 }

@@ -2,6 +2,7 @@
 #include "automation/gdi_recording.h"
 #include "automation/host_calls.h"
 #include "automation/memory_context.h"
+#include "automation/new_object.h"
 #include "automation/ratio_reporter.h"
 #include "automation/run_benchmarks.h"
 #include "automation/sample_symbols.h"
@@ -24,14 +25,6 @@ using Symbols = std::vector<com::ComPtr<_CSymbol>>;
 
 Symbols g_symbols;
 com::ComPtr<_CSymbolColl> g_catalogue; ///< the same symbols
-
-template <class Class, class Interface>
-com::ComPtr<Interface> New() {
-    com::ComPtr<Interface> object;
-    com::Check(CoCreateInstance(__uuidof(Class), nullptr, CLSCTX_INPROC_SERVER, __uuidof(Interface),
-                                object.PutVoid()));
-    return object;
-}
 
 com::ComPtr<_CSymbolColl> CatalogueOf(const Symbols& symbols) {
     auto catalogue = New<CSymbolColl, _CSymbolColl>();

@@ -1,14 +1,12 @@
-#include "automation/narrow_arguments.h"
+#include "automation/run_benchmarks.h"
 #include "com/bstr.h"
 #include "com/com_ptr.h"
 #include "com/error_info.h"
-#include "com/module.h"
 
 #include <QSymbol.h>
 #include <benchmark/benchmark.h>
 
 #include <array>
-#include <cstdio>
 
 // Members that give new objects of QMath, beside making the same objects from class objects that the client
 // holds and filling them through the same interfaces.
@@ -118,16 +116,6 @@ BENCHMARK(ElementsFromClassObjects);
 
 } // namespace
 
-int wmain(int argc, wchar_t** wideArguments) {
-    NarrowArguments arguments(argc, wideArguments);
-    benchmark::Initialize(&argc, arguments.Data());
-    CoInitialize(nullptr);
-    com::TheModule().Start(GetModuleHandleW(nullptr), {});
-    try {
-        benchmark::RunSpecifiedBenchmarks();
-    } catch (const base::Error& error) {
-        std::printf("%s\n", error.what());
-        return 1;
-    }
-    return 0; // the class objects end with the process
+int wmain(int argc, wchar_t** arguments) {
+    return RunBenchmarks(argc, arguments, [] { benchmark::RunSpecifiedBenchmarks(); });
 }

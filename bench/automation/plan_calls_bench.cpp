@@ -3,6 +3,7 @@
 
 #include "automation/counting_box.h"
 #include "automation/memory_context.h"
+#include "automation/new_object.h"
 #include "automation/run_benchmarks.h"
 #include "automation/sample_symbols.h"
 #include "com/bstr.h"
@@ -23,14 +24,6 @@ constexpr int kPlacements = 100'000;
 constexpr LONG kSide = 47'400'000; // 474 m: a symbol every one and a half metres
 constexpr int kWindow = 1000;      // pixels, which show two hundred symbols
 constexpr double kScale = kSide * 0.0447 / kWindow;
-
-template <class Class, class Interface>
-com::ComPtr<Interface> New() {
-    com::ComPtr<Interface> object;
-    com::Check(CoCreateInstance(__uuidof(Class), nullptr, CLSCTX_INPROC_SERVER, __uuidof(Interface),
-                                object.PutVoid()));
-    return object;
-}
 
 /// The plan, a view into its middle, and pixels there.
 struct Scene {
