@@ -78,6 +78,25 @@ TEST(PlanExport, WithoutASheetThePictureIsAroundItsSymbols) {
     EXPECT_THAT(Svg(plan), HasSubstr("viewBox=\"98.9 198.9 102.2 2.2\""));
 }
 
+TEST(PlanExport, APictureHasOnlyWhatIsPlacedAndDraws) {
+    Plan plan = House();
+    const auto catalogue = std::make_shared<OwnCatalogue>();
+    catalogue->Put(u"Leer", {});
+    qsymbol::Symbol label;
+    label.elements = {support::Text({0, 0}, u"WC")};
+    label.elements[0].textBkMode = 2;
+    catalogue->Put(u"Schild", label);
+    plan.SetSymbols(catalogue);
+    const std::int32_t gone = plan.Add(u"Schild", {});
+    plan.Add(u"Leer", {{10000, 10000}, 0});
+    EXPECT_THAT(Svg(plan), HasSubstr("<filter")) << "a text that hides what is below it";
+    plan.RemoveById(gone);
+    const std::string left = Svg(plan);
+    EXPECT_EQ(CountOf("<title>Schild", left) + CountOf("<filter", left), 0U);
+    EXPECT_EQ(CountOf("<title>Leer", left), 1U);
+    EXPECT_THAT(left, HasSubstr("viewBox=\"0 0 1 1\"")) << "nothing is drawn";
+}
+
 TEST(PlanExport, ADrawingHasABlockForEachSymbolAndAnInsertForEachPlacement) {
     Plan plan = House();
     EXPECT_EQ(CountOf("EOF", Dxf(plan)), 1U);

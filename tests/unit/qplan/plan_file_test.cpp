@@ -110,6 +110,8 @@ TEST(PlanFile, SaysWhatIsWrongWithItsLine) {
          "321 Zeile 2: \"21474836.48\" ist keine Länge in Millimetern, die auf ein Blatt passt."},
         {"SYMBOL;Tür;1.234;2;3",
          "321 Zeile 2: \"1.234\" ist keine Länge in Millimetern, die auf ein Blatt passt."},
+        {"SYMBOL;Tür;1.x;2;3",
+         "321 Zeile 2: \"1.x\" ist keine Länge in Millimetern, die auf ein Blatt passt."},
         {"SYMBOL;Tür;1;2;nan", "321 Zeile 2: \"nan\" ist kein Winkel in Grad."},
         {"SYMBOL;Tür;1;2;9e999", "321 Zeile 2: \"9e999\" ist kein Winkel in Grad."},
         {"SYMBOL;Tür;1;2;", "321 Zeile 2: \"\" ist kein Winkel in Grad."},
@@ -159,6 +161,16 @@ TEST(PlanFile, AFailureLeavesPlanAndFileAsTheyWere) {
     ReadPlan(plan, files, u"/d/alt.plan");
     EXPECT_EQ(EncodePlan(plan), kPlan);
     EXPECT_GT(plan.ByPos(1)->id, last) << "ids go on";
+}
+
+TEST(PlanFile, ANameThatIsNoTextIsNotWritten) {
+    const auto catalogue = std::make_shared<OwnCatalogue>();
+    const std::u16string half = u"\xD83D";
+    catalogue->Put(half, support::WashRoom());
+    Plan plan;
+    plan.SetSymbols(catalogue);
+    plan.Add(half, {});
+    EXPECT_EQ(CaughtFrom([&] { EncodePlan(plan); }).number, 5);
 }
 
 TEST(PlanFile, AnglesReadBackAsTheyWereOrAsTheirNeighbours) {

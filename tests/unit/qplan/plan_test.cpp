@@ -4,6 +4,7 @@
 #include "support/allocation_counter.h"
 #include "support/elements.h"
 #include "support/error_number_of.h"
+#include "support/opaque_transformation.h"
 #include "support/recording_surface.h"
 #include "support/scaled_transformation.h"
 
@@ -38,11 +39,13 @@ qsymbol::Symbol Square(std::int32_t side) {
 class Meddler final : public PlacedSymbol {
 public:
     std::function<void()> onQuestion = [] {};
+    std::function<void()> onReach = [] {};
+    std::uint64_t edition = 0;
     bool answer = false;
     mutable int questions = 0;
 
-    std::uint64_t Edition() const override { return Asked(), 0; }
-    SymbolReach Reach() const override { return SymbolReach::Unlimited(); }
+    std::uint64_t Edition() const override { return Asked(), edition; }
+    SymbolReach Reach() const override { return onReach(), SymbolReach::Unlimited(); }
     bool IsHitAt(const SymbolPosition&, const View&, qmath::Point) const override { return Asked(); }
     bool IsHitBy(const SymbolPosition&, const View&, const qmath::Rect&) const override { return Asked(); }
     std::optional<qsymbol::CaughtPoint> CatchPt(const SymbolPosition&, const View&, float, float,
@@ -73,8 +76,10 @@ public:
     std::map<std::u16string, std::shared_ptr<const PlacedSymbol>, std::less<>> symbols;
     mutable std::uint64_t edition = 0;
     bool knowsItsEdition = true;
+    std::function<void()> onFind = [] {};
 
     std::shared_ptr<const PlacedSymbol> Find(std::u16string_view name) override {
+        onFind();
         const auto found = symbols.find(name);
         return found == symbols.end() ? nullptr : found->second;
     }
@@ -144,6 +149,7 @@ TEST_F(PlanOfSquares, TheLastLiesOnTop) {
     EXPECT_THAT(plan.HitRect(view, {0, 0, 1, 1}), ElementsAre(below, above));
     EXPECT_THAT(plan.HitRect(view, {501, 0, 600, 1}), IsEmpty());
     EXPECT_EQ(plan.Extent(1), (qmath::Rect{-500, -500, 500, 500}));
+    EXPECT_EQ(plan.Extent(2), (qmath::Rect{-1000, -1000, 1000, 1000}));
     // Of corners that are equally near that of the topmost symbol.
     Add(u"Klein", 20, 100); // its corner is (-30, 50)
     EXPECT_EQ(plan.CatchPt(view, -40, 50, 30)->world, (qmath::Point{-30, 50}));
@@ -168,6 +174,82 @@ TEST_F(PlanOfSquares, TheNextCallSeesEveryChange) {
     plan.SetSymbols(other);
     EXPECT_FALSE(plan.HitTest(view, {5400, 0}));
     EXPECT_EQ(plan.Extent(1)->right, 5005);
+}
+
+TEST_F(PlanOfSquares, TheNextCallSeesASymbolGrowToAnySide) {
+    const std::int32_t id = Add(u"Klein", 0, 0);
+    for (const qmath::Point far : {qmath::Point{-900, 0}, {900, 0}, {0, -900}, {0, 900}}) {
+        EXPECT_FALSE(plan.HitTest(view, far));
+        qsymbol::Symbol grown = Square(100);
+        grown.elements.push_back(support::Circle({50 + far.x, 50 + far.y}, 1));
+        catalogue->Put(u"Klein", grown);
+        EXPECT_THAT(plan.Visible(map, qmath::Rect{far.x, far.y, far.x + 1, far.y + 1}), ElementsAre(id));
+        catalogue->Put(u"Klein", Square(100));
+    }
+}
+
+TEST_F(PlanOfSquares, ASymbolThatIsExchangedInItsSourceIsTakenByTheNextPlacement) {
+    const auto source = std::make_shared<Source>();
+    source->symbols[u"Tür"] = std::make_shared<OwnSymbol>(Square(100));
+    plan.SetSymbols(source);
+    const std::int32_t old = Add(u"Tür", 0, 0);
+    source->symbols[u"Tür"] = std::make_shared<OwnSymbol>(Square(1000));
+    const std::int32_t fresh = Add(u"Tür", 10000, 0);
+    EXPECT_FALSE(plan.HitTest(view, {400, 0})) << "what is placed stays";
+    EXPECT_THAT(plan.HitTest(view, {10400, 0}), Optional(fresh));
+    plan.SetSymbols(source); // the same once more changes nothing
+    EXPECT_THAT(plan.HitTest(view, {0, 0}), Optional(old));
+    EXPECT_FALSE(plan.HitTest(view, {400, 0}));
+}
+
+TEST_F(PlanOfSquares, WhatIsMovedOverAndOverIsFoundAndDoesNotPileUp) {
+    const std::int32_t stays = Add(u"Klein", -5000, 0);
+    const std::int32_t goes = Add(u"Klein", 0, 0);
+    plan.Move(goes, {{50, 0}, 0}); // before anything was asked
+    EXPECT_THAT(plan.HitTest(view, {100, 0}), Optional(goes));
+    for (std::int32_t i = 0; i < 5; ++i)
+        plan.Move(goes, {{1000 * i, 0}, 0}); // more often than there are placements
+    EXPECT_THAT(plan.HitTest(view, {4050, 0}), Optional(goes));
+    EXPECT_FALSE(plan.HitTest(view, {100, 0}));
+    const support::AllocationCounter counter;
+    for (std::int32_t i = 0; i < 5000; ++i) {
+        plan.Move(goes, {{1000 * i, 0}, 0});
+        ASSERT_THAT(plan.HitTest(view, {1000 * i + 50, 0}), Optional(goes)) << i;
+    }
+    EXPECT_LT(counter.Peak(), 300000U);
+    plan.Move(goes, {{0, 0}, 0});
+    plan.RemoveById(goes);
+    EXPECT_FALSE(plan.HitTest(view, {0, 0}));
+    EXPECT_THAT(plan.HitTest(view, {-5000, 0}), Optional(stays));
+}
+
+TEST_F(PlanOfSquares, AMapOfAHostHidesNothing) {
+    const std::int32_t id = Add(u"Klein", 0, 0);
+    // Pixels outside of what can be led back, to each side.
+    const support::OpaqueTransformation same{qmath::Transform()};
+    constexpr std::int32_t kFar = 2000000000;
+    for (const qmath::Rect& rect : {qmath::Rect{-kFar, -9, 9, 9}, qmath::Rect{-9, -kFar, 9, 9},
+                                    qmath::Rect{-9, -9, kFar, 9}, qmath::Rect{-9, -9, 9, kFar}})
+        EXPECT_THAT(plan.HitRect(View{same}, rect), ElementsAre(id));
+    // One that cannot tell how long the widest line is.
+    qmath::Transform near;
+    near.SetScale(1e-9);
+    EXPECT_THAT(plan.Visible(support::OpaqueTransformation(near), qmath::Rect{500, 500, 600, 600}),
+                ElementsAre(id));
+}
+
+TEST_F(PlanOfSquares, ShowsAtEveryFactor) {
+    qsymbol::Symbol shifted = Square(100);
+    shifted.refX = shifted.refY = -1000;
+    catalogue->Put(u"Klein", shifted);
+    const std::int32_t id = Add(u"Klein", 0, 0);
+    constexpr double kEndless = std::numeric_limits<double>::infinity();
+    EXPECT_THAT(plan.Visible(map, qmath::Rect{-3, -3, 3, 3}), IsEmpty());
+    EXPECT_THAT(plan.Visible(map, qmath::Rect{-3, -3, 3, 3}, 0), ElementsAre(id)) << "all in one point";
+    EXPECT_THAT(plan.Visible(map, qmath::Rect{500, 500, 550, 550}, 0.5), ElementsAre(id));
+    EXPECT_THAT(plan.Visible(map, qmath::Rect{-2100, -2100, -2000, -2000}, -2), ElementsAre(id));
+    EXPECT_THAT(plan.Visible(map, qmath::Rect{-9, -9, 2000000000, 2000000000}, 1e6 + 1), ElementsAre(id));
+    EXPECT_THAT(plan.Visible(map, qmath::Rect{-3, -3, 3, 3}, kEndless), ElementsAre(id)) << "nobody knows";
 }
 
 TEST_F(PlanOfSquares, DrawsWhatShowsAndAsksForNothingElse) {
@@ -278,6 +360,60 @@ TEST(Plan, ASymbolThatChangesThePlanLetsTheOnesBelowBeFound) {
         plan.Add(u"Fest", {}); // above: not asked any more
     };
     EXPECT_THAT(plan.HitTest(View{map}, {0, 0}), Optional(lowest));
+}
+
+TEST(Plan, WhatASymbolRemovesWhileItIsAskedIsNotAskedAnyMore) {
+    const qsymbol::PlainTransformation map = support::ScaledTransformation(1);
+    const View view{map};
+    support::RecordingSurface surface;
+    const auto source = std::make_shared<Source>();
+    const auto first = std::make_shared<Meddler>();
+    const auto second = std::make_shared<Meddler>();
+    source->symbols = {{u"A", first}, {u"B", second}};
+    const std::vector<std::function<void(Plan&)>> questions{
+        [&](Plan& plan) {
+            plan.HitRect(view, {0, 0, 9, 9});
+        },
+        [&](Plan& plan) { plan.CatchPt(view, 5, 5, 5); },
+        [&](Plan& plan) { plan.Extent(1); },
+        [&](Plan& plan) {
+            plan.Draw(surface, map, qmath::Rect{0, 0, 9, 9});
+        },
+    };
+    for (std::size_t question = 0; question < questions.size(); ++question) {
+        Plan plan;
+        plan.SetSymbols(source);
+        plan.Add(u"A", {});
+        const std::int32_t gone = plan.Add(u"B", {});
+        first->onQuestion = [&] {
+            if (plan.ById(gone) != nullptr)
+                plan.RemoveById(gone);
+        };
+        second->questions = 0;
+        questions[question](plan);
+        first->onQuestion = [] {};
+        EXPECT_EQ(second->questions, 0) << question;
+        EXPECT_EQ(plan.Count(), 1) << question;
+    }
+}
+
+TEST(Plan, StandsSourcesAndReachesThatEmptyItWhileTheyAreAsked) {
+    const auto source = std::make_shared<Source>();
+    const auto symbol = std::make_shared<Meddler>();
+    source->symbols[u"Fremd"] = symbol;
+    Plan plan;
+    plan.SetSymbols(source);
+    plan.Add(u"Fremd", {});
+    symbol->edition = ++source->edition;
+    symbol->onReach = [&] { plan.Clear(); };
+    EXPECT_FALSE(plan.Extent(1));
+    EXPECT_EQ(plan.Count(), 0);
+    symbol->onReach = [] {};
+    plan.Add(u"Fremd", {});
+    const auto other = std::make_shared<Source>(*source);
+    other->onFind = [&] { plan.Clear(); };
+    EXPECT_EQ(ErrorNumberOf([&] { plan.SetSymbols(other); }), 5);
+    EXPECT_EQ(plan.Symbols(), source);
 }
 
 TEST(Plan, PositionsAndIdsHoldWhileManyGo) {

@@ -21,3 +21,17 @@ TEST(PlacementList, GoesOnBehindWhatWasRemoved) {
     EXPECT_EQ(list.ByPos(list.Count())->id, 2000);
     EXPECT_EQ(list.NextAfter(2000), nullptr);
 }
+
+TEST(PlacementList, ItsLastBlockMayBeFull) {
+    qplan::PlacementList list;
+    for (std::int32_t id = 1; id <= 1025; ++id)
+        list.Append({.id = id, .symbol = 0, .position = {}});
+    for (std::size_t slot = 0; slot < 512; ++slot)
+        ASSERT_FALSE(list.Remove(slot));
+    EXPECT_TRUE(list.Remove(512));
+    EXPECT_EQ(list.SlotCount(), 512U);
+    EXPECT_EQ(list.ByPos(512)->id, 1025);
+    ASSERT_FALSE(list.Remove(0));
+    EXPECT_EQ(list.ByPos(511)->id, 1025);
+    EXPECT_EQ(list.NextAfter(0)->id, 515);
+}

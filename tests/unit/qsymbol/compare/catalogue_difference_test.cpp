@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <limits>
 #include <numbers>
 
 namespace {
@@ -80,6 +81,7 @@ TEST(SymbolDifference, TellsBothTexts) {
 TEST(CatalogueDifference, ElementsWithoutAKindDoNotTellSymbolsApart) {
     Symbol more = Of({1});
     more.elements.push_back(Element(ElementType::Undefined, 7));
+    more.elements.push_back(Element(static_cast<ElementType>(9), 7));
     const auto found = Compare({Named(u"Alt", Of({1}), true)}, {Named(u"Neu", more, true)});
     ASSERT_EQ(found.size(), 1u);
     EXPECT_EQ(found[0].before + u">" + found[0].after, u"Alt>Neu");
@@ -96,6 +98,22 @@ TEST(SymbolDifference, TextFilesKeepHundredthsOfDegreesAndWholeFontSizes) {
     EXPECT_EQ(Compare(before, after, Precision::Exact).elements.size(), 2u);
 }
 
+TEST(SymbolDifference, APointLessIsToldAndAnAngleThatIsNoNumberEqualsItself) {
+    Symbol before = Of({5, 500});
+    before.elements[1].textAngle = std::numeric_limits<double>::quiet_NaN();
+    Symbol after = before;
+    EXPECT_TRUE(Compare(before, after, Precision::Exact).IsEmpty());
+    after.elements[1].textAngle = 1;
+    after.elements[0].points.pop_back();
+    const SymbolDifference found = Compare(before, after, Precision::Exact);
+    ASSERT_EQ(found.elements.size(), 2u);
+    EXPECT_THAT(found.elements[0].changes,
+                ElementsAre(Change{"points", ValueOf(qmath::Point{5, 100}), FieldValue(), 2}));
+    ASSERT_EQ(found.elements[1].changes.size(), 1u);
+    EXPECT_EQ(found.elements[1].changes[0].field, "textAngle");
+    EXPECT_EQ(Compare(after, before, Precision::Exact).elements.size(), 2u);
+}
+
 TEST(SymbolDifference, VeryManyElementsAreComparedPlaceByPlace) {
     Symbol before;
     Symbol after;
@@ -104,6 +122,8 @@ TEST(SymbolDifference, VeryManyElementsAreComparedPlaceByPlace) {
         after.elements.push_back(Element(ElementType::Poly, i + 10000));
     }
     EXPECT_EQ(Compare(before, after, Precision::Exact).elements.size(), 3000u);
+    after.elements[1000] = before.elements[1000];
+    EXPECT_EQ(Compare(before, after, Precision::Exact).elements.size(), 2999u);
 }
 
 TEST(CatalogueDifference, MatchesByNameThenByContent) {

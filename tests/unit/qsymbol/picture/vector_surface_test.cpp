@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <span>
 
 namespace {
 
@@ -35,6 +36,28 @@ TEST(VectorSurface, DrawsItsOwnLineAndNoHandles) {
     EXPECT_EQ(surface.Bounds().Height(), 200);
 }
 
+TEST(VectorSurface, WhatHasNeitherLineNorFillOrNoSizeLeavesNothing) {
+    qsymbol::SvgSurface surface;
+    const qmath::Rect box{0, 0, 100, 100};
+    const qmath::Point corners[] = {{0, 0}, {100, 0}, {0, 100}};
+    surface.Ellipse({5, 5, 5, 5});
+    surface.Arc({5, 5, 5, 5}, {9, 5}, {5, 9});
+    surface.Polyline(std::span(corners).first(1));
+    surface.PutDrawStyle(5); // no line
+    surface.PutFillStyle(1); // no fill
+    surface.Polygon(corners);
+    surface.Polyline(corners);
+    surface.Ellipse(box);
+    surface.Arc(box, {100, 50}, {50, 0});
+    EXPECT_TRUE(surface.Bounds().IsEmpty());
+    EXPECT_EQ(surface.Elements(), "");
+    surface.PutDrawStyle(6); // inside
+    surface.PutFillStyle(0);
+    surface.PutDrawWidth(0);
+    surface.Ellipse(box);
+    EXPECT_EQ(surface.Bounds().Width(), 100);
+}
+
 TEST(VectorSurface, WritesInTheStandardFontWithoutAnother) {
     qsymbol::SvgSurface surface;
     surface.SetTextAlign(24);
@@ -52,6 +75,7 @@ TEST(FontMetrics, MeasureKnownFamiliesInAnyCase) {
     EXPECT_DOUBLE_EQ(width(u"Bett", u"Arial", true), 1.06 * (667 + 556 + 278 + 278));
     EXPECT_DOUBLE_EQ(width(u"Bett", u"Courier New", true), 4 * 600);
     EXPECT_DOUBLE_EQ(width(u"ü漢\n\U0001F6BF", u"Arial"), 600 + 1000 + 1000);
+    EXPECT_DOUBLE_EQ(width(u"a\n\x7F", u"Courier New"), 600) << "controls have no width in any font";
 }
 
 TEST(ShortNumber, HasNoNeedlessDigits) {
