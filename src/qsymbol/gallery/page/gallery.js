@@ -34,6 +34,23 @@
 
   const count = (n) => (n === 1 ? "1 Symbol" : `${n} Symbole`);
 
+  // A section outside of the window is not drawn; its height is said beforehand, so that nothing jumps when it is. One
+  // of very many cards leaves out card by card.
+  for (const section of sections) section.classList.toggle("long", section.querySelectorAll("li").length > 240);
+  function sizeSections() {
+    if (shown.length === 0) return;
+    const { item, section: first } = shown[0];
+    const list = item.parentElement;
+    const look = getComputedStyle(list);
+    const columns = look.gridTemplateColumns.split(" ").length;
+    const gap = parseFloat(look.rowGap);
+    const row = item.getBoundingClientRect().height + gap;
+    const head = list.getBoundingClientRect().top - first.getBoundingClientRect().top;
+    const inside = new Map();
+    for (const card of shown) inside.set(card.section, (inside.get(card.section) ?? 0) + 1);
+    for (const [section, n] of inside) section.style.setProperty("--high", `${head + Math.ceil(n / columns) * row - gap}px`);
+  }
+
   function setTabStop(card) {
     if (tabStop) tabStop.button.tabIndex = -1;
     tabStop = card;
@@ -60,6 +77,7 @@
     byId("nothing").hidden = shown.length > 0;
     reset.hidden = !filtered;
     setTabStop(shown.includes(tabStop) ? tabStop : shown[0]);
+    sizeSections();
   }
 
   function choose(chip) {
@@ -172,15 +190,16 @@
     if (key === "Home") return shown[0];
     if (key === "End") return shown[shown.length - 1];
     const down = key === "ArrowDown";
-    const { offsetLeft: x, offsetTop: y } = card.item;
+    const { left: x, top: y } = card.item.getBoundingClientRect();
     let row = null;
     let best = null;
+    let nearest = 0;
     for (let i = at + (down ? 1 : -1); i >= 0 && i < shown.length; i += down ? 1 : -1) {
-      const { offsetLeft: left, offsetTop: top } = shown[i].item;
+      const { left, top } = shown[i].item.getBoundingClientRect();
       if (top === y) continue;
       row ??= top;
       if (top !== row) break;
-      if (!best || Math.abs(left - x) < Math.abs(best.item.offsetLeft - x)) best = shown[i];
+      if (!best || Math.abs(left - x) < Math.abs(nearest - x)) [best, nearest] = [shown[i], left];
     }
     return best;
   }
@@ -233,6 +252,8 @@
   byId("close").addEventListener("click", () => view.close());
   view.addEventListener("click", (event) => { if (event.target === view) view.close(); });
   view.addEventListener("close", () => focusOn(current));
+
+  addEventListener("resize", sizeSections);
 
   for (const card of cards) card.button.tabIndex = -1;
   filter();
