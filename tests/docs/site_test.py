@@ -36,6 +36,19 @@ def built():
     return run.returncode == 0 or run.stdout + run.stderr
 
 
+def pictured():
+    """Each class has a page with a picture; those made by the script of the pictures are small, and none is left over."""
+    faults, drawn = [], set(re.findall(r'Save "(\w+)"', (ROOT / "docs/images/classes.vbs").read_text()))
+    for page in ROOT.glob("docs/classes/C*.md"):
+        shown = [page.parent / name for name in re.findall(r"!\[[^\]]+\]\(([^)]+\.(?:png|svg))\)", page.read_text("utf-8"))]
+        if not shown or not all(path.is_file() for path in shown):
+            faults.append(f"{page.name} shows nothing")
+    kept = {path.stem: path.stat().st_size for path in ROOT.glob("docs/images/classes/*.png")}
+    faults += [f"{name}.png: made or kept, not both" for name in drawn ^ kept.keys()]
+    faults += [f"{name}.png: {size} bytes" for name, size in kept.items() if not 500 < size < 30000]
+    return not faults or faults
+
+
 def searched():
     page = f"file://{SITE}/search.html?q=Etagenbreite"
     with tempfile.TemporaryDirectory() as profile:
@@ -46,6 +59,7 @@ def searched():
 
 
 CASES = {"builds, and all links lead somewhere": built, "search without a server": searched,
+         "a picture a class": pictured,
          "good links": lambda: links(GOOD) == (0, "links: all lead somewhere")}
 for name, (file, text, wanted) in BROKEN.items():
     CASES[name] = lambda files=GOOD | {file: text}, wanted=wanted: links(files) == (1, wanted) or links(files)
