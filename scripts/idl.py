@@ -15,6 +15,7 @@ class Argument:
     type: str  # as Basic calls it
     by_ref: bool = False
     optional: bool = False
+    default: str = dataclasses.field(default="0", compare=False)  # what stands for it when it is left out
 
 
 @dataclasses.dataclass(frozen=True)
@@ -45,8 +46,9 @@ def basic_type(idl_type):
 def _argument(text):
     flags, declared, name = re.fullmatch(r"\[([^\]]*)\]\s*([\w ]+?\s*\**)\s*(\w+)", text.strip()).groups()
     words = {word.split("(")[0].strip() for word in flags.split(",")}
+    omitted = re.search(r"defaultvalue\(([^)]*)\)", flags)
     return words, Argument(name, basic_type(declared), "out" in words and "retval" not in words,
-                           bool({"optional", "defaultvalue"} & words))
+                           bool({"optional", "defaultvalue"} & words), omitted.group(1) if omitted else "0")
 
 
 def _member(flags, name, arguments):
@@ -64,7 +66,7 @@ def _member(flags, name, arguments):
 def read(path):
     text = re.sub(r"//[^\n]*", "", path.read_text(encoding="utf-8"))
     text = re.sub(r"^#.*$", "", text, flags=re.M)
-    text = re.sub(r"\s*OMITTED\([^)]*\)", "", text)
+    text = re.sub(r"\s*OMITTED\(([^)]*)\)", r", defaultvalue(\1)", text)
     interfaces = {}
     for flags, name, body in re.findall(r"\[([^\]]*)\]\s*interface (_C\w+) : IDispatch \{(.*?)\n\}", text, re.S):
         members = re.findall(r"\[((?:[^\]\"]|\"[^\"]*\")*)\]\s*HRESULT (\w+)\((.*?)\);", body, re.S)

@@ -14,9 +14,9 @@ Const UsageError = 1001, DifferenceError = 1002
 
 On Error Resume Next
 Main
-If Err.Number = 429 Then
+If Err.Number = 429 Or Err.Number = &H80040154 Then
     WScript.Echo "Die Bibliotheken sind fuer diesen Skripthost nicht registriert. In ihrem Ordner: " & _
-        "regsvr32 QMath.dll, dann QSymbol.dll (" & Err.Description & ")"
+        "regsvr32 QMath.dll, QSymbol.dll, QPlan.dll (" & Err.Description & ")"
     WScript.Quit 1
 ElseIf Err.Number <> 0 Then
     WScript.Echo "Fehler " & Err.Number & " in " & Err.Source & ": " & Err.Description

@@ -16,14 +16,10 @@ static int Failed(const char* step, HRESULT status) {
     IErrorInfo* info = NULL;
     BSTR source = NULL, text = NULL;
     if (SUCCEEDED(status)) return 0;
-    if (GetErrorInfo(0, &info) == S_OK) {
-        IErrorInfo_GetSource(info, &source);
-        IErrorInfo_GetDescription(info, &text);
-        IErrorInfo_Release(info);
-    }
+    if (GetErrorInfo(0, &info) == S_OK)
+        IErrorInfo_GetSource(info, &source), IErrorInfo_GetDescription(info, &text), IErrorInfo_Release(info);
     if (status == REGDB_E_CLASSNOTREG)
-        printf("%s: not registered for %d-bit programs: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll\n", step,
-               (int)sizeof(void*) * 8);
+        printf("%s: not registered for %d bits: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll\n", step, (int)sizeof(void*) * 8);
     else /* the libraries' numbers are packed as 0x800A0000 + number */
         printf("%s: error %ld in %ls: %ls\n", step, status & 0xFFFF, source ? source : L"?", text ? text : L"?");
     SysFreeString(source);

@@ -2,21 +2,29 @@
 // kinderzimmer_msvc.exe CATALOGUE OUTFOLDER
 // cl /EHsc /std:c++17 /I include kinderzimmer_msvc.cpp        with the type libraries in include or registered
 #import "QMath.tlb"
-#import "QSymbol.tlb" rename("RGB", "SymRGB")
+#import "QSymbol.tlb"
 #import "QPlan.tlb"
 #include <comdef.h>
-
 #include <cstdio>
 #include <filesystem>
 
 namespace fs = std::filesystem;
 
-void Furnish(const fs::path& catalogue, const fs::path& target) {
+void Tell(const _com_error& error) {
+    if (error.Error() == REGDB_E_CLASSNOTREG)
+        std::printf("not registered for this bitness: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll\n");
+    else
+        std::printf("error %ld in %ls: %ls\n", error.Error() & 0xFFFF, static_cast<const wchar_t*>(error.Source()),
+                    static_cast<const wchar_t*>(error.Description()));
+}
+
+bool Furnish(const fs::path& catalogue, const fs::path& target) {
     QSymbol::_CSymbolCollPtr symbols(__uuidof(QSymbol::CSymbolColl)); // throws _com_error
     symbols->ReadKatalog(catalogue.c_str());
     for (const auto& entry : fs::recursive_directory_iterator(catalogue))
         if (entry.is_directory()) symbols->ReadKatalog(entry.path().c_str());
-    if (symbols->Count == 0) throw _com_error(HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND)); // see qsymbol convert
+    if (symbols->Count == 0)
+        return std::printf("no *.syb below %ls: qsymbol convert -r --to syb TEXTFOLDER CATALOGUE\n", catalogue.c_str()) < 0;
 
     QPlan::_CPlanPtr plan(__uuidof(QPlan::CPlan));
     plan->PutRefSymbols(symbols);
@@ -35,22 +43,14 @@ void Furnish(const fs::path& catalogue, const fs::path& target) {
     if (const QPlan::_CPlacementPtr hit = plan->HitTest(map, 500, 60))
         std::printf("hit: %ls\n", static_cast<const wchar_t*>(hit->SymbolName));
     plan->RemoveById(chair->Id);
-    plan->Add(L"Einhorn", 0, 0, 0.0);
+    try { plan->Add(L"Einhorn", 0, 0, 0.0); } catch (const _com_error& error) { Tell(error); }
+    return true;
 }
 
 int wmain(int count, wchar_t** values) {
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    int status = 0;
-    try {
-        if (count == 3) Furnish(values[1], values[2]);
-    } catch (const _com_error& error) {
-        status = 1;
-        if (error.Error() == REGDB_E_CLASSNOTREG)
-            std::printf("not registered for this bitness: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll\n");
-        else
-            std::printf("error %ld in %ls: %ls\n", error.Error() & 0xFFFF, static_cast<const wchar_t*>(error.Source()),
-                        static_cast<const wchar_t*>(error.Description()));
-    }
+    bool done = false;
+    try { done = count == 3 && Furnish(values[1], values[2]); } catch (const _com_error& error) { Tell(error); }
     CoUninitialize();
-    return status;
+    return done ? 0 : 1;
 }

@@ -16,21 +16,25 @@ static class Buero
     static int Main(string[] arguments)
     {
         if (arguments.Length != 2) { Console.WriteLine("Buero.exe CATALOGUE OUTFOLDER"); return 2; }
-        try { Furnish(arguments[0], arguments[1]); return 0; }
+        try { return Furnish(arguments[0], arguments[1]) ? 0 : 1; }
         catch (COMException error) when ((uint)error.ErrorCode == 0x80040154)
         {
-            Console.WriteLine("Not registered for {0} bits, and not named by a manifest: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll",
+            Console.WriteLine("Not registered for {0} bits: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll (or a manifest)",
                               IntPtr.Size * 8);
             return 1;
         }
     }
 
-    static void Furnish(string catalogue, string target)
+    static bool Furnish(string catalogue, string target)
     {
         var symbols = (_CSymbolColl)new CSymbolColl();
         symbols.ReadKatalog(catalogue);
         foreach (var folder in Directory.GetDirectories(catalogue, "*", SearchOption.AllDirectories)) symbols.ReadKatalog(folder);
-        if (symbols.Count == 0) { Console.WriteLine("No *.syb below " + catalogue); return; }
+        if (symbols.Count == 0)
+        {
+            Console.WriteLine("No *.syb below {0}: qsymbol convert -r --to syb SOURCE {0}", catalogue);
+            return false;
+        }
 
         var plan = (_CPlan)new CPlan();
         plan.Symbols = symbols;
@@ -50,5 +54,6 @@ static class Buero
         try { plan.Add("Einhorn", 0, 0, 0); }
         catch (COMException error) { Console.WriteLine("error {0} in {1}: {2}", error.ErrorCode & 0xFFFF, error.Source, error.Message); }
         catch (ArgumentException error) { Console.WriteLine("error 5 in {0}: {1}", error.Source, error.Message); }
+        return true;
     }
 }

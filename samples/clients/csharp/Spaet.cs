@@ -1,41 +1,60 @@
 // A host in C#, late bound: no types, names only, as a script. A terrace.
-// csc Spaet.cs /r:Microsoft.CSharp.dll         then   Spaet.exe CATALOGUE OUTFOLDER
+// csc Spaet.cs         then   Spaet.exe CATALOGUE OUTFOLDER
 using System;
 using System.IO;
+using System.Reflection;
 using System.Runtime.InteropServices;
+// An object known by names. In .NET Framework, and from .NET 5 on, `dynamic` does the same.
+sealed class Late
+{
+    public readonly object Target;
+    public Late(object target) { Target = target; }
+    public static Late Create(string progId)
+    {
+        var type = Type.GetTypeFromProgID(progId);
+        if (type == null) throw new InvalidOperationException(string.Format(
+            "{0} is not registered for {1} bits: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll", progId, IntPtr.Size * 8));
+        return new Late(Activator.CreateInstance(type));
+    }
+
+    public object Ask(string name, BindingFlags kind, params object[] values)
+    {
+        try { return Target.GetType().InvokeMember(name, kind, null, Target, values); }
+        catch (TargetInvocationException error) { throw error.InnerException; } // the library's own words
+    }
+    public object Call(string name, params object[] values) { return Ask(name, BindingFlags.InvokeMethod, values); }
+    public object Get(string name) { return Ask(name, BindingFlags.GetProperty); }
+    public void Set(string name, Late value) { Ask(name, BindingFlags.SetProperty, value.Target); }
+}
 
 static class Spaet
 {
-    static dynamic Create(string progId)
+    [STAThread]
+    static int Main(string[] arguments)
     {
-        var type = Type.GetTypeFromProgID(progId);
-        if (type != null) return Activator.CreateInstance(type);
-        throw new InvalidOperationException(progId + " is not registered for this bitness: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll");
+        if (arguments.Length != 2) { Console.WriteLine("Spaet.exe CATALOGUE OUTFOLDER"); return 2; }
+        try { Furnish(arguments[0], arguments[1]); return 0; }
+        catch (InvalidOperationException error) { Console.WriteLine(error.Message); return 1; }
     }
 
-    [STAThread]
-    static void Main(string[] arguments)
+    static void Furnish(string folder, string target)
     {
-        try
-        {
-            dynamic catalogue = Create("QSymbol.CSymbolColl"), plan = Create("QPlan.CPlan"), picture = Create("QPlan.CPicture"), map = Create("QMath.CTrans");
-            catalogue.ReadKatalog(arguments[0]);
-            foreach (var folder in Directory.GetDirectories(arguments[0])) catalogue.ReadKatalog(folder);
-            if (catalogue.Count == 0) throw new FileNotFoundException("No *.syb in " + arguments[0]);
-            plan.Symbols = catalogue;
-            plan.Add("Gartentisch", 150000, 150000, 0.0);
-            plan.Add("Sonnenschirm", 250000, 250000, 0.0);
-            plan.Add("Liegestuhl", 400000, 60000, 0.2);
-            map.SetScale(600);
-            picture.Create(800, 600);
-            plan.Draw(picture, map);
-            picture.Write2File(Path.Combine(arguments[1], "terrasse.png"));
-            plan.WriteDxf(Path.Combine(arguments[1], "terrasse.dxf"));
-            dynamic hit = plan.HitTest(map, 250, 250);
-            Console.WriteLine(hit == null ? "nothing" : hit.SymbolName);
-            plan.RemoveById(99);
-        }
-        catch (COMException error) { Console.WriteLine("error {0} in {1}: {2}", error.ErrorCode & 0xFFFF, error.Source, error.Message); }
-        catch (Exception error) { Console.WriteLine(error.Message); }
+        Late symbols = Late.Create("QSymbol.CSymbolColl"), plan = Late.Create("QPlan.CPlan"), picture = Late.Create("QPlan.CPicture"), map = Late.Create("QMath.CTrans");
+        symbols.Call("ReadKatalog", folder);
+        foreach (var inner in Directory.GetDirectories(folder)) symbols.Call("ReadKatalog", inner);
+        if ((int)symbols.Get("Count") == 0) throw new InvalidOperationException("No *.syb in " + folder + ": qsymbol convert -r --to syb SOURCE " + folder);
+        plan.Set("Symbols", symbols);
+        plan.Call("Add", "Gartentisch", 150000, 150000, 0.0);
+        plan.Call("Add", "Sonnenschirm", 250000, 250000, 0.0);
+        plan.Call("Add", "Liegestuhl", 400000, 60000, 0.2);
+        map.Call("SetScale", 600.0);
+        picture.Call("Create", 800, 600);
+        plan.Call("Draw", picture.Target, map.Target);
+        picture.Call("Write2File", Path.Combine(target, "terrasse.png"));
+        plan.Call("WriteDxf", Path.Combine(target, "terrasse.dxf"));
+        var hit = plan.Call("HitTest", map.Target, 250, 250);
+        Console.WriteLine("hit: " + (hit == null ? "nothing" : new Late(hit).Get("SymbolName")));
+        try { plan.Call("RemoveById", 99); }
+        catch (Exception error) { Console.WriteLine("error {0} in {1}: {2}", Marshal.GetHRForException(error) & 0xFFFF, error.Source, error.Message); }
     }
 }

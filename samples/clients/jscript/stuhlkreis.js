@@ -18,7 +18,7 @@ function create(progId) {
 
 var argument = WScript.Arguments;
 if (argument.length < 2) quit("Aufruf: cscript //nologo stuhlkreis.js AUSGABEORDNER KATALOGORDNER...");
-var symbols = create("QSymbol.CSymbolColl");
+var map = create("QMath.CTrans"), symbols = create("QSymbol.CSymbolColl");
 for (var folder = 1; folder < argument.length; ++folder) symbols.ReadKatalog(argument(folder));
 if (symbols.Count == 0) quit("Keine *.syb in " + argument(1) + "; aus Textdateien: qsymbol convert -r --to syb TEXTE KATALOG");
 
@@ -32,7 +32,6 @@ for (var i = 0; i < 6; ++i) {
 }
 plan.Add("Pflanze", 1.6 * METRE, 1.6 * METRE, 0);
 
-var map = create("QMath.CTrans");
 map.SetScale(METRE / 200);
 var picture = create("QPlan.CPicture");
 picture.Create(640, 640, 0xF0F8FF);                // the background: blue, green, red

@@ -1,8 +1,6 @@
 Attribute VB_Name = "Wohnung"
-' Excel: places the symbols that columns A to D list (name, x and y in millimetres, degrees), puts the plan beside them as a
-' picture and tells in column E what does not work.
-' Tools, References: "Tessera - Geometrie", "Tessera - Symbolbibliothek", "Tessera - Planbibliothek". A 32-bit Excel needs
-' the x86 libraries.
+' Excel: places what columns A to D list (name, x and y in mm, degrees), shows the plan beside them, and what fails in column E.
+' Tools, References: the three libraries "Tessera - ..."; a 32-bit Excel needs the x86 ones.
 Option Explicit
 
 Private Const CatalogueFolder As String = "C:\Users\Public\Documents\QSymbol\Katalog\"
@@ -33,11 +31,8 @@ Public Sub PlanAsPicture()
     If Not Hit Is Nothing Then MsgBox "In der Mitte liegt: " & Hit.SymbolName
     Exit Sub
 Failed:
-    If Err.Number = 429 Then
-        MsgBox "Die Bibliotheken dieser Bitzahl fehlen: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll"
-    Else
-        MsgBox "Fehler " & Err.Number & " in " & Err.Source & ": " & Err.Description
-    End If
+    MsgBox "Fehler " & Err.Number & " in " & Err.Source & ": " & Err.Description & _
+        IIf(Err.Number = 429, vbLf & "Fuer diese Bitzahl: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll", "")
 End Sub
 
 Private Function Catalogue() As QSymbol.CSymbolColl

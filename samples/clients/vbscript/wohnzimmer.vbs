@@ -6,6 +6,7 @@ Const HalfTurn = 3.14159265358979                ' angles are radians, counter-c
 Dim Catalogue, Plan, Trans, Picture, Hit, Target
 
 If WScript.Arguments.Count <> 2 Then Fail "Aufruf: cscript //nologo wohnzimmer.vbs KATALOGORDNER AUSGABEORDNER"
+Set Trans = Make("QMath.CTrans")                 ' first: the other libraries need this one
 Set Catalogue = Make("QSymbol.CSymbolColl")
 ReadFolder CreateObject("Scripting.FileSystemObject").GetFolder(WScript.Arguments(0))
 If Catalogue.Count = 0 Then Fail "Keine Symbole (*.syb) in " & WScript.Arguments(0) & _
@@ -20,7 +21,6 @@ Plan.Add "Sessel", 2.5 * Metre, 3.7 * Metre, HalfTurn
 Plan.Add "Stehleuchte", 0.6 * Metre, 0.6 * Metre, 0
 
 Target = WScript.Arguments(1) & "\wohnzimmer"
-Set Trans = Make("QMath.CTrans")
 Trans.SetScale Metre / 160                       ' 160 pixels to a metre
 Set Picture = Make("QPlan.CPicture")
 Picture.Create 800, 640
