@@ -6,6 +6,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -30,7 +31,8 @@ SymbolFolder::SymbolFolder(std::string_view name, std::vector<qsymbol::Symbol> s
         std::string file = Path() + "/Symbol " + std::to_string(i) + ".";
         file += extension;
         symbol.filePath = std::filesystem::path(file).u16string();
-        Write2File(symbol, world_.environment);
+        // Not by Write2File, which waits for the disk at every file.
+        std::ofstream(file, std::ios::binary) << EncodeSymbol(symbol, symbol.filePath, world_.environment);
     }
 }
 
