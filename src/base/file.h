@@ -12,7 +12,7 @@ class File {
 public:
     virtual ~File() = default;
 
-    /// Size in bytes when it was asked, or when the file was opened.
+    /// Size in bytes when it was asked, or when the file was opened. Error 75 for what turns out to be no disk file.
     virtual std::uint64_t Size() = 0;
     /// Reads up to count bytes; the number read, 0 at the end.
     virtual std::size_t Read(char* buffer, std::size_t count) = 0;

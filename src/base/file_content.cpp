@@ -35,8 +35,9 @@ bool ReadUpTo(File& file, std::string& bytes, std::uint64_t size) {
     return all;
 }
 
-std::string ReadLarge(File& file, std::uint64_t size, Reach reach) {
-    std::string bytes;
+/// Goes on with a file whose beginning is already there.
+void ReadLarge(File& file, std::string& bytes, Reach reach) {
+    const std::uint64_t size = std::max<std::uint64_t>(file.Size(), bytes.size());
     bool more = ReadUpTo(file, bytes, reach == nullptr ? size : std::min(size, kBeginning));
     while (reach != nullptr && more && bytes.size() < size) {
         const std::uint64_t needed = reach(bytes);
@@ -44,7 +45,6 @@ std::string ReadLarge(File& file, std::uint64_t size, Reach reach) {
             break;
         more = ReadUpTo(file, bytes, std::min(size, std::max<std::uint64_t>(needed, 2 * bytes.size())));
     }
-    return bytes;
 }
 
 } // namespace
@@ -52,11 +52,14 @@ std::string ReadLarge(File& file, std::uint64_t size, Reach reach) {
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): clearing the place would cost more than reading a small file
 FileContent::FileContent(FileSystem& files, const std::u16string& path, Reach reach) {
     const std::unique_ptr<File> file = files.Open(path, OpenMode::Read);
-    const std::uint64_t size = file->Size();
-    if (size <= kSmall) {
-        bytes_ = {small_.data(), Fill(*file, small_.data(), 0, static_cast<std::size_t>(size))};
-    } else {
-        large_ = ReadLarge(*file, size, reach);
+    // Its size is asked for when it matters only: that costs as much as reading a small file does.
+    const std::size_t filled = Fill(*file, small_.data(), 0, kSmall);
+    bytes_ = {small_.data(), filled};
+    if (filled == 0)
+        file->Size(); // an empty file, or none at all
+    if (filled == kSmall) {
+        large_ = bytes_;
+        ReadLarge(*file, large_, reach);
         bytes_ = large_;
     }
     file->Close();

@@ -13,6 +13,7 @@ DIR* ListedFolder::Open(const std::string& name, std::u16string prefix) {
     if (DIR* const folder = opendir(name.c_str())) {
         folder_.reset(folder);
         prefix_ = std::move(prefix);
+        holdsFilesOnly_ = true;
         return folder;
     }
     return nullptr;
@@ -21,7 +22,7 @@ DIR* ListedFolder::Open(const std::string& name, std::u16string prefix) {
 int ListedFolder::OpenToRead(const std::u16string& path) const {
     const std::size_t size = prefix_.size();
     // Compared as bytes: starts_with goes through UTF-16 character by character, and paths are long.
-    if (folder_ == nullptr || path.size() < size || std::memcmp(path.data(), prefix_.data(), 2 * size) != 0)
+    if (!holdsFilesOnly_ || path.size() < size || std::memcmp(path.data(), prefix_.data(), 2 * size) != 0)
         return -1;
     const std::u16string_view name = std::u16string_view(path).substr(size);
     if (name.find_first_of(std::u16string_view(u"/\0", 2)) != std::u16string_view::npos)

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -53,8 +54,15 @@ std::string ParentFolder(const std::string& path) {
 }
 
 [[noreturn]] void RaiseTransferFailure(int error) {
-    base::Raise(error == ENOSPC || error == EDQUOT || error == EFBIG ? RunTimeError::DiskFull
-                                                                     : RunTimeError::DeviceIo);
+    switch (error) {
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG: base::Raise(RunTimeError::DiskFull);
+    case EISDIR:
+    case EAGAIN: // a pipe or a device that has nothing for us now
+        base::Raise(RunTimeError::PathFileAccess);
+    default: base::Raise(RunTimeError::DeviceIo);
+    }
 }
 
 int OpenFlags(base::OpenMode mode) {
@@ -80,15 +88,16 @@ public:
     /// Takes over what an opening has given, negative where that has failed.
     void Take(int handle) { handle_ = handle; }
     bool IsOpen() const { return handle_ >= 0; }
-    /// Error 75 when it is open on something else than a disk file.
-    void RequireDisk() {
-        struct stat info {};
-        if (fstat(handle_, &info) != 0 || !S_ISREG(info.st_mode))
-            base::Raise(RunTimeError::PathFileAccess);
-        size_ = static_cast<std::uint64_t>(info.st_size);
-    }
 
-    std::uint64_t Size() override { return size_; }
+    std::uint64_t Size() override {
+        if (!size_) {
+            struct stat info {};
+            if (fstat(handle_, &info) != 0 || !S_ISREG(info.st_mode))
+                base::Raise(RunTimeError::PathFileAccess);
+            size_ = static_cast<std::uint64_t>(info.st_size);
+        }
+        return *size_;
+    }
 
     std::size_t Read(char* buffer, std::size_t count) override {
         ssize_t got = -1;
@@ -137,7 +146,7 @@ public:
 
 private:
     int handle_ = -1;
-    std::uint64_t size_ = 0; ///< when it was opened
+    std::optional<std::uint64_t> size_; ///< when it was asked for first
 };
 
 } // namespace
@@ -146,16 +155,16 @@ std::unique_ptr<base::File> PosixFileSystem::Open(const std::u16string& path, ba
     auto file = std::make_unique<PosixFile>(); // before there is a handle that a lack of memory would lose
     if (mode == base::OpenMode::Read)
         file->Take(listed_.OpenToRead(path));
-    if (!file->IsOpen()) {
-        const std::string name = base::ToUtf8(path);
-        if (name.find('\0') != std::string::npos)
-            base::Raise(RunTimeError::BadFileName);
-        // A pipe under that name must not hold the program until somebody opens its other end.
-        file->Take(open(name.c_str(), OpenFlags(mode) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666));
-        if (!file->IsOpen())
-            RaiseOpenFailure(errno, name);
-    }
-    file->RequireDisk();
+    if (file->IsOpen())
+        return file; // the listing said that it is a disk file
+    const std::string name = base::ToUtf8(path);
+    if (name.find('\0') != std::string::npos)
+        base::Raise(RunTimeError::BadFileName);
+    // A pipe under that name must not hold the program until somebody opens its other end.
+    file->Take(open(name.c_str(), OpenFlags(mode) | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0666));
+    if (!file->IsOpen())
+        RaiseOpenFailure(errno, name);
+    file->Size(); // there is none of anything but a disk file
     return file;
 }
 
@@ -179,6 +188,8 @@ std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& 
         const bool unclear = entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK;
         if (unclear ? IsFolder(name + "/" + entry->d_name) : entry->d_type == DT_DIR)
             continue;
+        if (entry->d_type != DT_REG)
+            listed_.NoteOtherThanFiles();
         entries.push_back({prefix + base::FromUtf8(entry->d_name), prefix.size()});
     }
     return entries;

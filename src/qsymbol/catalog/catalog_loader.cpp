@@ -1,7 +1,6 @@
 #include "qsymbol/catalog/catalog_loader.h"
 
 #include "base/letter_case.h"
-#include "qmath/str_util.h"
 #include "qsymbol/catalog/load_symbol_file.h"
 
 namespace qsymbol {
@@ -17,8 +16,9 @@ std::u16string WithoutTrailingSeparator(std::u16string_view folder) {
 }
 
 bool IsBinarySymbol(const base::FolderEntry& entry) {
-    const std::u16string_view extension = qmath::GetExtension(entry.Name());
-    return extension.size() == 3 && base::LowerCase(extension) == u"syb";
+    const std::u16string_view name = entry.Name();
+    return name.size() >= 4 && name[name.size() - 4] == u'.' &&
+           base::LowerCase(name.substr(name.size() - 3)) == u"syb";
 }
 
 /// The key under which a list would name this file: without dot and three-letter extension, upper case.

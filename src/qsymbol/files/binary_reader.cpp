@@ -124,7 +124,7 @@ std::u16string ParseBinary(Symbol& symbol, std::string_view bytes, const FormatR
     if (survey.result == BinarySurvey::Result::Whole) {
         const std::string_view elements =
             bytes.substr(survey.elementsBegin, survey.elementsEnd - survey.elementsBegin);
-        symbol.elements = PackedElements{std::string(elements), count, &rules.codePage, Unpack};
+        symbol.elements = PackedElements(elements, count, rules.codePage, Unpack);
     } else {
         MemoryBudget budget(bytes.size());
         ReadElements(symbol.elements, count, input, budget, rules.codePage);

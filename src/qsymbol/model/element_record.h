@@ -20,8 +20,8 @@ struct ElementRecord {
     std::int32_t lineWidth = 0;
     std::int32_t textAlign = 0;  ///< the GDI's text alignment flags
     std::int32_t textBkMode = 1; ///< the GDI's background mode: 1 transparent, 2 opaque
-    double textAngle = 0;        ///< radians, counter-clockwise
     std::int32_t radius = 0;
+    double textAngle = 0;        ///< radians, counter-clockwise
     std::int32_t mainColor = 0;  ///< packed RGB
     std::int32_t fillColor = -1; ///< packed RGB, negative: not filled
     std::u16string text;

@@ -19,6 +19,7 @@ ElementStore::ElementStore(const ElementStore& other) {
         const std::lock_guard hold(PackedLock());
         if (other.IsPacked()) { // GCOVR_EXCL_LINE: unless another thread was faster, just now
             packed_ = other.packed_;
+            packedCount_ = other.packedCount_;
             isPacked_.store(true, std::memory_order_relaxed);
             return;
         }
@@ -27,14 +28,15 @@ ElementStore::ElementStore(const ElementStore& other) {
 }
 
 ElementStore::ElementStore(ElementStore&& other) noexcept
-    : records_(std::exchange(other.records_, {})), packed_(std::exchange(other.packed_, {})),
-      isPacked_(other.isPacked_.load(std::memory_order_relaxed)) {
+    : records_(std::exchange(other.records_, {})), packed_(std::move(other.packed_)),
+      packedCount_(other.packedCount_), isPacked_(other.isPacked_.load(std::memory_order_relaxed)) {
     other.isPacked_.store(false, std::memory_order_relaxed);
 }
 
 ElementStore& ElementStore::operator=(ElementStore other) noexcept {
     records_.swap(other.records_);
-    std::swap(packed_, other.packed_);
+    packed_ = std::move(other.packed_);
+    packedCount_ = other.packedCount_;
     isPacked_.store(other.isPacked_.load(std::memory_order_relaxed), std::memory_order_relaxed);
     return *this;
 }
@@ -43,8 +45,8 @@ void ElementStore::MakeRecords() const {
     const std::lock_guard hold(PackedLock());
     if (!IsPacked()) // GCOVR_EXCL_LINE: another thread was faster, just now
         return;      // GCOVR_EXCL_LINE: see above
-    records_ = packed_.unpack(packed_.bytes, packed_.count, *packed_.codePage);
-    std::string().swap(packed_.bytes); // assigning an empty one would keep the memory
+    records_ = packed_.Records();
+    packed_ = {};
     isPacked_.store(false, std::memory_order_release);
 }
 

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 #include <vector>
 
@@ -20,13 +21,15 @@ public:
 
     ElementStore() = default;
     explicit ElementStore(Records records) : records_(std::move(records)) {}
-    explicit ElementStore(PackedElements packed) : packed_(std::move(packed)), isPacked_(true) {}
+    explicit ElementStore(PackedElements packed)
+        : packed_(std::move(packed)), packedCount_(static_cast<std::uint32_t>(packed_.Count())),
+          isPacked_(true) {}
     ElementStore(const ElementStore& other);
     ElementStore(ElementStore&& other) noexcept;
     ElementStore& operator=(ElementStore other) noexcept;
     ~ElementStore() = default;
 
-    std::size_t Count() const { return IsPacked() ? packed_.count : records_.size(); }
+    std::size_t Count() const { return IsPacked() ? packedCount_ : records_.size(); }
     bool IsPacked() const { return isPacked_.load(std::memory_order_acquire); }
 
     /// The elements as records.
@@ -44,7 +47,8 @@ private:
     void MakeRecords() const;
 
     mutable Records records_;
-    mutable PackedElements packed_; ///< its bytes go when the records are made
+    mutable PackedElements packed_; ///< goes when the records are made
+    std::uint32_t packedCount_ = 0; ///< stays then: another thread may be asking for it
     mutable std::atomic<bool> isPacked_{false};
 };
 
