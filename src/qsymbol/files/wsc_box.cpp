@@ -24,10 +24,6 @@ double SineOfSteps(std::size_t steps) {
 
 } // namespace
 
-qmath::Point ToSymbol(WscPlace place, std::int32_t height) {
-    return {base::RoundToLong(place.x), base::RoundToLong(height - place.y)};
-}
-
 bool WscBox::IsSquare() const {
     return std::fabs(std::fabs(second.x - first.x) - std::fabs(second.y - first.y)) <= 1.0;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/checked.h"
 #include "qmath/point.h"
 
 #include <cstddef>
@@ -15,7 +16,9 @@ struct WscPlace {
 };
 
 /// The place in the symbol of this height, whose y grows downwards; rounded half to even. Error 6.
-qmath::Point ToSymbol(WscPlace place, std::int32_t height);
+inline qmath::Point ToSymbol(WscPlace place, std::int32_t height) {
+    return {base::RoundToLong(place.x), base::RoundToLong(height - place.y)};
+}
 
 /// The bounding box of an ellipse in an import file, and what is made of the ellipse.
 struct WscBox {

@@ -35,6 +35,12 @@ public:
         return there;
     }
 
+    /// Goes over the first field, which is known to be a keyword.
+    void PassKeyword() {
+        at_ += kKeyLength;
+        Pass();
+    }
+
     /// True when there is another field, be it an empty one.
     bool More() const { return !done_; }
 

@@ -1,7 +1,6 @@
 #include "qsymbol/files/wsc_figures.h"
 
 #include "base/checked.h"
-#include "qsymbol/files/field_cursor.h"
 
 #include <algorithm>
 #include <array>
@@ -18,42 +17,51 @@ constexpr std::size_t kLeastGrowth = 8;
 /// Most points that a continuation line can carry; the counter always grows by them.
 constexpr std::size_t kPointsOfLine = 3;
 
+/// What stands behind the separator of a field that begins with a letter and it, up to the next one.
+std::string_view ValueOf(std::string_view field) {
+    const std::string_view value = field.substr(std::min<std::size_t>(field.size(), 2));
+    return value.substr(0, value.find(wsc_format::kKeySeparator));
+}
+
 } // namespace
 
 ElementRecord& WscFigures::OpenElement(ElementType type) {
     pie_ = false;
-    ElementRecord& element = symbol_.elements[opened_++];
-    element.type = type;
-    return element;
+    current_ = &symbol_.elements[opened_++];
+    current_->type = type;
+    return *current_;
 }
 
 ElementRecord& WscFigures::Current() {
-    if (opened_ == 0)
+    if (current_ == nullptr)
         base::Raise(RunTimeError::SubscriptOutOfRange);
-    return symbol_.elements[opened_ - 1];
+    return *current_;
 }
 
 void WscFigures::OpenLine(WscFields fields) {
-    OpenPolyline(fields, 2);
+    OpenPolyline(fields, 2, 0);
 }
 
-void WscFigures::OpenChain(WscFields fields) {
-    OpenPolyline(fields, 3);
+void WscFigures::OpenChain(WscFields fields, std::size_t continuations) {
+    OpenPolyline(fields, 3, kPointsOfLine * continuations);
     counter_ = 4;
 }
 
-void WscFigures::OpenPolyline(WscFields& fields, std::size_t points) {
+void WscFigures::OpenPolyline(WscFields& fields, std::size_t points, std::size_t more) {
     ElementRecord& element = OpenElement(ElementType::Poly);
-    Resize(element.points, points);
+    Reserve(element.points, points + more);
+    element.points.resize(points);
     ReadKeys(fields, wsc_format::kLineKeys, Colour::Line);
     for (qmath::Point& point : element.points)
         point = ToSymbol(fields.Place(), symbol_.height);
 }
 
-void WscFigures::OpenArea(WscFields fields) {
-    OpenElement(ElementType::Poly).lineClosed = true;
+void WscFigures::OpenArea(WscFields fields, std::size_t continuations) {
+    ElementRecord& element = OpenElement(ElementType::Poly);
+    element.lineClosed = true;
     for (std::string_view field; fields.Next(field);)
         ReadKey(field, Colour::LineAndFill);
+    Reserve(element.points, kPointsOfLine * continuations);
     counter_ = 1;
 }
 
@@ -138,18 +146,15 @@ void WscFigures::ReadKeys(WscFields& fields, int count, Colour colour) {
 }
 
 void WscFigures::ReadKey(std::string_view field, Colour colour) {
-    FieldCursor parts(field, wsc_format::kKeySeparator);
-    std::string_view letter;
-    std::string_view value;
-    parts.Next(letter);
-    parts.Next(value);
+    if (field.empty() || (field.size() > 1 && field[1] != wsc_format::kKeySeparator))
+        return;
     ElementRecord& element = Current();
-    if (letter == "F") {
-        element.mainColor = numbers_.Whole(value);
+    if (field[0] == 'F') {
+        element.mainColor = numbers_.Whole(ValueOf(field));
         if (colour == Colour::LineAndFill)
             element.fillColor = element.mainColor;
-    } else if (letter == "D") {
-        element.lineWidth = numbers_.Hundredths(value);
+    } else if (field[0] == 'D') {
+        element.lineWidth = numbers_.Hundredths(ValueOf(field));
     }
 }
 

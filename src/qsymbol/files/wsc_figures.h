@@ -23,10 +23,10 @@ public:
 
     /// A straight line of two points (STR).
     void OpenLine(WscFields fields);
-    /// A chain with its first three points (STF).
-    void OpenChain(WscFields fields);
-    /// A filled area without points yet (FLA).
-    void OpenArea(WscFields fields);
+    /// A chain with its first three points (STF), and how many lines of points follow it.
+    void OpenChain(WscFields fields, std::size_t continuations);
+    /// A filled area without points yet (FLA), likewise.
+    void OpenArea(WscFields fields, std::size_t continuations);
     /// An ellipse (ELL), filled or not (EFL): a circle when its box is square.
     void OpenEllipse(WscFields fields, bool filled);
     /// An arc (EBO) with its centre only. False for an elliptic one, which cannot be read.
@@ -46,7 +46,8 @@ private:
     enum class Colour { Line, LineAndFill };
 
     ElementRecord& OpenElement(ElementType type);
-    void OpenPolyline(WscFields& fields, std::size_t points);
+    /// With room for so many more.
+    void OpenPolyline(WscFields& fields, std::size_t points, std::size_t more);
     /// The element that the last figure line opened. Error 9 ahead of any.
     ElementRecord& Current();
 
@@ -63,8 +64,9 @@ private:
     Symbol& symbol_;
     WscNumbers& numbers_;
     MemoryBudget& budget_;
-    std::size_t opened_ = 0;  ///< elements so far
-    std::size_t counter_ = 0; ///< where the next continuation line's points go, counted from 1
+    std::size_t opened_ = 0;           ///< elements so far
+    ElementRecord* current_ = nullptr; ///< the last of them
+    std::size_t counter_ = 0;          ///< where the next continuation line's points go, counted from 1
     WscBox box_;
     bool pie_ = false; ///< the current element is a sector and box_ is its own
 };

@@ -20,26 +20,27 @@ namespace {
 /// The pass that reads; the survey has seen every line before.
 class WscReader {
 public:
-    WscReader(Symbol& symbol, std::string_view bytes, const FormatRules& rules)
-        : symbol_(symbol), bytes_(bytes), rules_(rules), numbers_(rules.regional), budget_(bytes.size()),
-          figures_(symbol, numbers_, budget_) {}
+    WscReader(Symbol& symbol, std::string_view bytes, const WscSurvey& survey, const FormatRules& rules)
+        : symbol_(symbol), bytes_(bytes), survey_(survey), rules_(rules), numbers_(rules.regional),
+          budget_(bytes.size()), figures_(symbol, numbers_, budget_) {}
 
     /// False at an elliptic arc, which ends the import.
-    bool Read(std::size_t figureCount) {
+    bool Read() {
         LineCursor lines(bytes_);
         std::string_view line;
         while (lines.Next(line) && line.empty()) {
         }
-        ReadHeader(line, figureCount);
-        while (lines.Next(line))
-            if (!ReadLine(line))
+        ReadHeader(line);
+        // It was the first line: with an empty one ahead of it, it is a foreign line.
+        for (std::size_t i = 0; i < survey_.lines.size(); ++i)
+            if (!ReadLine(i))
                 return false;
         return true;
     }
 
 private:
     /// The header is looked at ahead of the table, so that a foreign file is told from one without figures.
-    void ReadHeader(std::string_view line, std::size_t figureCount) {
+    void ReadHeader(std::string_view line) {
         WscFields fields(line, bytes_, numbers_);
         std::string_view field;
         fields.Next(field);
@@ -47,7 +48,7 @@ private:
                             WscFields::Count(line) == wsc_format::kHeaderFields;
         if (!header && !line.empty())
             Raise(LibraryError::NotASymbolFile, u"CSymbol.ReadFromWSCFile", rules_.strings);
-        SizeElements(figureCount);
+        SizeElements(survey_.figures);
         fields.Next(field);
         symbol_.width = numbers_.Whole(field);
         fields.Next(field);
@@ -63,15 +64,26 @@ private:
         symbol_.elements = ElementList(count);
     }
 
+    /// How many lines of points follow a figure's line.
+    std::size_t ContinuationsOf(std::size_t line) const {
+        const auto continues = [](Keyword keyword) {
+            return keyword == Keyword::ChainPoints || keyword == Keyword::AreaPoints;
+        };
+        std::size_t last = line;
+        while (last + 1 < survey_.lines.size() && continues(survey_.lines[last + 1].Begins()))
+            ++last;
+        return last - line;
+    }
+
     /// False at an elliptic arc, which ends the import.
-    bool ReadLine(std::string_view line) {
-        WscFields fields(line, bytes_, numbers_);
-        std::string_view keyword;
-        fields.Next(keyword);
-        switch (wsc_format::KeywordOf(keyword)) {
+    bool ReadLine(std::size_t number) {
+        const WscLine& line = survey_.lines[number];
+        WscFields fields(line.Text(), bytes_, numbers_);
+        fields.PassKeyword();
+        switch (line.Begins()) {
         case Keyword::Line: figures_.OpenLine(fields); break;
-        case Keyword::Chain: figures_.OpenChain(fields); break;
-        case Keyword::Area: figures_.OpenArea(fields); break;
+        case Keyword::Chain: figures_.OpenChain(fields, ContinuationsOf(number)); break;
+        case Keyword::Area: figures_.OpenArea(fields, ContinuationsOf(number)); break;
         case Keyword::Ellipse: figures_.OpenEllipse(fields, false); break;
         case Keyword::FilledOval: figures_.OpenEllipse(fields, true); break;
         case Keyword::Pie: figures_.OpenPie(fields); break;
@@ -82,13 +94,14 @@ private:
         case Keyword::PiePoints: figures_.SetPieOutline(fields); break;
         case Keyword::Header:
         case Keyword::End:
-        case Keyword::None: break; // also a longer word that only begins with a keyword
+        case Keyword::None: break;
         }
         return true;
     }
 
     Symbol& symbol_;
     std::string_view bytes_;
+    const WscSurvey& survey_;
     const FormatRules& rules_;
     WscNumbers numbers_;
     MemoryBudget budget_;
@@ -118,14 +131,14 @@ std::u16string ParseWsc(Symbol& symbol, std::string_view bytes, const FormatRule
     if (survey.unknown)
         return u"Folgende Zeile kann nicht verarbeitet werden: " + Shown(*survey.unknown, rules.codePage) +
                u" --> Abbruch";
-    const bool whole = WscReader(symbol, bytes, rules).Read(survey.figures);
+    const bool whole = WscReader(symbol, bytes, survey, rules).Read();
     return whole ? u"" : u"Ellipsenbögen können nicht verarbeitet werden --> Abbruch";
 }
 
 std::uint64_t WscReach(std::string_view beginning) {
     // The last line may go on behind the beginning.
     const std::string_view whole = beginning.substr(0, beginning.rfind('\n') + 1);
-    return !whole.empty() && SurveyWsc(whole).unknown ? beginning.size() : UINT64_MAX;
+    return !whole.empty() && SurveyWsc(whole, WscLines::Passed).unknown ? beginning.size() : UINT64_MAX;
 }
 
 } // namespace qsymbol
