@@ -106,7 +106,10 @@ def kept(ratio, yardstick):
 def main(folder):
     results = {}
     for path in pathlib.Path(folder).glob("*.json"):
-        results[path.stem] = json.loads(path.read_text(encoding="utf-8"))["benchmarks"]
+        try:
+            results[path.stem] = json.loads(path.read_text(encoding="utf-8"))["benchmarks"]
+        except ValueError:
+            continue  # of a program that did not come to its end: its rows say so
     lines = [("operation", "ours", "peer", "ratio", "yardstick", "")]
     for operation, program, ours_name, peer_name, what, yardstick in ROWS:
         if peer_name == "":
