@@ -7,7 +7,8 @@ namespace qsymbol {
 
 PackedElements::PackedElements(std::string_view bytes, std::size_t count, const base::CodePage& codePage,
                                Unpack unpack)
-    : block_(std::make_unique_for_overwrite<char[]>(sizeof(Head) + bytes.size())) { // NOLINT(*-avoid-c-arrays): see there
+    // NOLINTNEXTLINE(*-avoid-c-arrays): see there
+    : block_(std::make_unique_for_overwrite<char[]>(sizeof(Head) + bytes.size())) {
     const Head head{bytes.size(), count, &codePage, unpack};
     std::memcpy(block_.get(), &head, sizeof head);
     if (!bytes.empty())
