@@ -47,6 +47,10 @@ def main(clr):
     clients_test.unregister()
     for name in ("Buero", "Spaet"):
         results[f"{name} without registration"] = faults_of(lambda: first_failure(start("Buero", name, "C:\\Katalog"), "regsvr32 QMath"))
+    clients_test.register_other_bitness()
+    for name in ("Buero", "Spaet"):
+        results[f"{name}, registered for the other bitness"] = faults_of(
+            lambda: first_failure(start("Buero", name, "C:\\Katalog"), "64 bits: regsvr32 QMath"))
     for path in (DRIVE / "Plan").glob("buero.*"):
         path.unlink()
     results["by manifest"] = faults_of(lambda: client_faults("buero", start("Beside", "Buero", "C:\\Katalog"), WANTED["buero"]))

@@ -11,10 +11,10 @@ sealed class Late
     public Late(object target) { Target = target; }
     public static Late Create(string progId)
     {
-        var type = Type.GetTypeFromProgID(progId);
-        if (type == null) throw new InvalidOperationException(string.Format(
-            "{0} is not registered for {1} bits: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll", progId, IntPtr.Size * 8));
-        return new Late(Activator.CreateInstance(type));
+        // The name alone tells nothing: it is known as well when only the libraries of the other bitness are registered.
+        try { return new Late(Activator.CreateInstance(Type.GetTypeFromProgID(progId, true))); }
+        catch (COMException) { throw new InvalidOperationException(string.Format(
+            "{0} is not registered for {1} bits: regsvr32 QMath.dll, QSymbol.dll, QPlan.dll", progId, IntPtr.Size * 8)); }
     }
 
     public object Ask(string name, BindingFlags kind, params object[] values)
