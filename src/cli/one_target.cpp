@@ -10,17 +10,18 @@ namespace cli {
 
 void WriteOneTarget(const OneTarget& target, const std::vector<std::string>& sources, Run& run) {
     Targets targets(run);
-    if (run.Try(target.path, [&] { targets.Claim(target.path); }))
+    Target claimed;
+    if (run.Try(target.path, [&] { claimed = targets.Claim(target.path); }))
         return;
     std::size_t count = 0;
-    const std::vector<SourceFile> files = SymbolFiles(sources, run.options.recursive);
+    const std::vector<SourceFile> files = SymbolFiles(sources, run);
     ForEach(files, run, [&](const SourceFile& source) {
         target.add(source, ReadSymbol(source.path, run));
         ++count;
     });
     if (count == 0 && !files.empty())
         return; // all of them failed
-    run.Try(target.path, [&] { targets.Write(target.path, target.compose()); });
+    run.Try(target.path, [&] { targets.Write(claimed, target.compose()); });
     run.Remark(Counted(count, target.noun) + '\n');
 }
 

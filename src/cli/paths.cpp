@@ -9,12 +9,29 @@ namespace cli {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr bool kIsWindows = fs::path::preferred_separator == '\\';
+constexpr char16_t kSeparator = kIsWindows ? u'\\' : u'/';
+constexpr std::u16string_view kSeparators = kIsWindows ? u"\\/:" : u"/";
+
+bool EndsWithSeparator(std::u16string_view path) {
+    return !path.empty() && kSeparators.find(path.back()) != std::u16string_view::npos;
+}
+
+std::u16string InOneCase(std::u16string&& path) {
+    return kIsWindows ? base::LowerCase(path) : std::move(path);
+}
+
+} // namespace
+
 std::u16string Extension(std::u16string_view path) {
     return base::LowerCase(qmath::GetExtension(path));
 }
 
 bool IsReadable(std::u16string_view path) {
-    return IsWritable(path) || Extension(path) == u"wsc";
+    const std::u16string extension = Extension(path);
+    return extension == u"syt" || extension == u"syb" || extension == u"wsc";
 }
 
 bool IsWritable(std::u16string_view path) {
@@ -23,7 +40,30 @@ bool IsWritable(std::u16string_view path) {
 }
 
 std::u16string Join(std::u16string_view folder, std::u16string_view name) {
-    return (fs::path(folder) / fs::path(name)).u16string();
+    std::u16string path(folder);
+    if (!folder.empty() && !EndsWithSeparator(folder))
+        path += kSeparator;
+    return path += name;
+}
+
+std::u16string_view FolderOf(std::u16string_view path) {
+    return path.substr(0, path.find_last_of(kSeparators) + 1);
+}
+
+std::u16string PlaceOf(std::u16string_view folder) {
+    const fs::path path(folder.empty() ? std::u16string_view(u".") : folder);
+    std::error_code failed;
+    fs::path place = fs::weakly_canonical(path, failed);
+    if (failed)
+        place = fs::absolute(path).lexically_normal();
+    std::u16string text = place.u16string();
+    while (EndsWithSeparator(text))
+        text.pop_back();
+    return InOneCase(std::move(text));
+}
+
+std::u16string InPlace(const std::u16string& place, std::u16string_view name) {
+    return InOneCase(place + kSeparator + std::u16string(name));
 }
 
 Kind KindOf(const std::u16string& path) {

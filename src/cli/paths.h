@@ -20,6 +20,15 @@ std::u16string Extension(std::u16string_view path);
 /// The path under a folder.
 std::u16string Join(std::u16string_view folder, std::u16string_view name);
 
+/// The path up to its name, the separator included; "" for a name alone.
+std::u16string_view FolderOf(std::u16string_view path);
+
+/// One spelling for all ways to write a folder, there or not: from the root, links followed, without a separator at
+/// its end; in one case where the system's files have none. It costs some calls of the system.
+std::u16string PlaceOf(std::u16string_view folder);
+/// The same for a name in a place.
+std::u16string InPlace(const std::u16string& place, std::u16string_view name);
+
 /// What stands under a path.
 enum class Kind { Missing, File, Folder, Other };
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <unordered_set>
+#include <utility>
 
 namespace cli {
 
@@ -14,20 +15,24 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A name and what it is sorted by: without regard to case, so that the order is the same everywhere.
-struct Named {
-    std::u16string folded;
-    std::u16string name;
+/// A listed name and what it is sorted by: without regard to case, so that the order is the same everywhere.
+class Named {
+public:
+    explicit Named(base::FolderEntry&& listed) : entry(std::move(listed)) {
+        // High bytes first: bytes compare as the units would, and faster.
+        for (const char16_t unit : base::UpperCase(entry.Name()))
+            key_.append({static_cast<char>(unit >> 8), static_cast<char>(unit & 0xFF)});
+    }
 
-    explicit Named(std::u16string&& fileName)
-        : folded(base::UpperCase(fileName)), name(std::move(fileName)) {}
-    auto operator<=>(const Named&) const = default;
-};
+    bool operator<(const Named& other) const {
+        const int order = key_.compare(other.key_);
+        return order != 0 ? order < 0 : entry.path < other.entry.path;
+    }
 
-struct Listing {
-    std::vector<Named> files;
-    std::vector<Named> folders;
-    std::vector<std::u16string> nameless; ///< as far as their names can be shown
+    base::FolderEntry entry;
+
+private:
+    std::string key_;
 };
 
 /// The file's name, or nothing where it is not made of characters: some systems take any bytes.
@@ -44,31 +49,9 @@ std::u16string Shown(const fs::path& name) {
     return base::FromUtf8({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
 }
 
-Listing List(const std::u16string& folder) {
-    Listing listing;
-    for (const fs::directory_entry& entry : fs::directory_iterator(fs::path(folder))) {
-        std::error_code ignored;
-        std::optional<std::u16string> name = NameOf(entry.path());
-        const bool isFolder = entry.is_directory(ignored);
-        if (!name) {
-            if (std::u16string shown = Shown(entry.path().filename()); isFolder || IsReadable(shown))
-                listing.nameless.push_back(std::move(shown));
-        } else if (isFolder) {
-            // Linked folders are left alone, for they may lead back to where they are.
-            if (!entry.is_symlink(ignored))
-                listing.folders.emplace_back(std::move(*name));
-        } else if (IsReadable(*name)) {
-            listing.files.emplace_back(std::move(*name));
-        }
-    }
-    std::sort(listing.files.begin(), listing.files.end());
-    std::sort(listing.folders.begin(), listing.folders.end());
-    return listing;
-}
-
 class Finder {
 public:
-    explicit Finder(bool recursive) : recursive_(recursive) {}
+    explicit Finder(const Run& run) : files_(run.OnSystem().files), recursive_(run.options.recursive) {}
 
     void Look(const std::u16string& path) {
         try {
@@ -79,7 +62,7 @@ public:
             case Kind::File:
                 if (!IsReadable(path))
                     throw UnusableExtension();
-                Add(path, u"");
+                LookAt(path);
                 break;
             }
         } catch (const base::Error& error) {
@@ -90,37 +73,87 @@ public:
     std::vector<SourceFile> found;
 
 private:
-    void LookInto(const std::u16string& folder, const std::u16string& below) {
-        Listing listing;
-        try {
-            listing = List(folder);
-        } catch (const fs::filesystem_error& failure) {
-            found.push_back({folder, below, ErrorOf(failure.code())});
-            return;
+    void LookAt(const std::u16string& path) {
+        const std::u16string_view folder = FolderOf(path);
+        if (place_.empty() || folder != placed_) {
+            placed_ = folder;
+            place_ = PlaceOf(folder);
         }
-        for (const Named& file : listing.files)
-            Add(Join(folder, file.name), below);
-        for (const std::u16string& name : listing.nameless)
-            found.push_back({Join(folder, name), below, RunTime(base::RunTimeError::BadFileName)});
-        if (recursive_)
-            for (const Named& sub : listing.folders)
-                LookInto(Join(folder, sub.name), below.empty() ? sub.name : Join(below, sub.name));
+        if (!folders_.contains(place_) && single_.insert(InPlace(place_, path.substr(folder.size()))).second)
+            found.push_back({path, u"", std::nullopt});
     }
 
-    void Add(std::u16string&& path, const std::u16string& below) {
-        if (known_.insert(fs::path(path).lexically_normal().u16string()).second)
-            found.push_back({std::move(path), below, std::nullopt});
+    void LookInto(const std::u16string& folder, const std::u16string& below) {
+        const std::u16string place = PlaceOf(folder);
+        if (!folders_.insert(place).second)
+            return;
+        try {
+            LookAtFiles(folder, below, place);
+            if (recursive_)
+                LookIntoSubfolders(folder, below);
+        } catch (const base::Error& error) {
+            found.push_back({folder, below, error});
+            folders_.erase(place); // a file of it may be found by its own path all the same
+        }
     }
-    void Add(const std::u16string& path, const std::u16string& below) { Add(std::u16string(path), below); }
 
+    void LookAtFiles(const std::u16string& folder, const std::u16string& below, const std::u16string& place) {
+        std::vector<Named> files;
+        for (base::FolderEntry& entry : files_.ListFiles(folder))
+            if (IsReadable(entry.Name()))
+                files.emplace_back(std::move(entry));
+        std::sort(files.begin(), files.end());
+        found.reserve(found.size() + files.size());
+        for (Named& file : files) {
+            base::FolderEntry& entry = file.entry;
+            if (!single_.empty() && single_.contains(InPlace(place, entry.Name())))
+                continue;
+            if (IsNameless(entry))
+                found.push_back({std::move(entry.path), below, RunTime(base::RunTimeError::BadFileName)});
+            else
+                found.push_back({std::move(entry.path), below, std::nullopt});
+        }
+    }
+
+    /// Nothing is there under a name in which other characters had to stand for bytes that are none.
+    bool IsNameless(const base::FolderEntry& entry) {
+        return entry.Name().find(u'\uFFFD') != std::u16string_view::npos && !files_.FileExists(entry.path);
+    }
+
+    void LookIntoSubfolders(const std::u16string& folder, const std::u16string& below) {
+        std::vector<Named> folders;
+        try {
+            for (const fs::directory_entry& entry : fs::directory_iterator(fs::path(folder))) {
+                std::error_code ignored;
+                // Linked folders are left alone, for they may lead back to where they are.
+                if (!entry.is_directory(ignored) || entry.is_symlink(ignored))
+                    continue;
+                if (std::optional<std::u16string> name = NameOf(entry.path()))
+                    folders.emplace_back(base::FolderEntry{*std::move(name)});
+                else
+                    found.push_back({Join(folder, Shown(entry.path().filename())), below,
+                                     RunTime(base::RunTimeError::BadFileName)});
+            }
+        } catch (const fs::filesystem_error& failure) {
+            throw ErrorOf(failure.code());
+        }
+        std::sort(folders.begin(), folders.end());
+        for (const Named& sub : folders)
+            LookInto(Join(folder, sub.entry.path), Join(below, sub.entry.path));
+    }
+
+    base::FileSystem& files_;
     bool recursive_;
-    std::unordered_set<std::u16string> known_;
+    std::unordered_set<std::u16string> folders_; ///< whose files have been found
+    std::unordered_set<std::u16string> single_;  ///< files that were found by their own path
+    std::u16string placed_;                      ///< the folder of the last of them
+    std::u16string place_;                       ///< and where that is
 };
 
 } // namespace
 
-std::vector<SourceFile> SymbolFiles(const std::vector<std::string>& paths, bool recursive) {
-    Finder finder(recursive);
+std::vector<SourceFile> SymbolFiles(const std::vector<std::string>& paths, const Run& run) {
+    Finder finder(run);
     for (const std::string& path : paths)
         finder.Look(base::FromUtf8(path));
     return std::move(finder.found);

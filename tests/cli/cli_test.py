@@ -70,6 +70,10 @@ def one_array_holds_all_paths_and_bad_ones_are_told_of():
     assert re.fullmatch(r"qsymbol: a[/\\]schlecht\.syt: error 3501: Keine gültige Symboldatei\.", lines[2]), errors
     assert len(lines) == 3
     assert len(as_json("info", "--decimal", "point", "a", status=1)) == 1, "without -r no subfolders"
+    for again in ("a", "a/", "./a", "b/../a", os.path.abspath("a")):
+        pathlib.Path("b").mkdir(exist_ok=True)
+        for paths in (("a", again), ("a/x.syt", again), (again, "a/x.syt")):
+            assert len(as_json("info", "--decimal", "point", *paths, status=1)) == 1, f"{paths} are met once"
     pathlib.Path("leer").mkdir()
     assert as_json("info", "leer") == [] and as_json("check", "leer") == []
 
@@ -138,6 +142,8 @@ def converting_is_whole_and_never_overwrites_unasked():
     run("convert", "-f", "--decimal", "comma", "z/neu/Tür.syb", "back.syt")
     assert pathlib.Path("back.syt").read_bytes() == COMMA
     assert "error 3503" in run("convert", "back.syt", "back.wsc", status=1)[1]
+    run("convert", "--decimal", "comma", "back.syt", "ordner/", "--to", "syb"), run("convert", "--decimal", "comma", "back.syt", "z", "--to", "syb")
+    assert pathlib.Path("ordner/back.syb").exists() and pathlib.Path("z/back.syb").exists()
     put("zwei/a.syt"), put("zwei/a.wsc", CHAIN)
     _, errors = run("convert", "--decimal", "point", "-f", "zwei", "eins", "--to", "syb", status=1)
     assert re.fullmatch(r"qsymbol: zwei[/\\]a\.wsc: error 58: Datei existiert bereits\n", errors), errors
@@ -159,6 +165,8 @@ def diff_tells_changes_and_nothing_of_formats():
         {"symbol": "Tür", "change": "element-changed", "element": 1, "type": "poly", "oldElement": 1, "field": "points",
          "point": 2, "from": [300, 200], "to": [300, 100]}]  # fmt: skip
     assert "element 1 (poly) point 2: (3, 2) -> (3, 1)" in run("diff", "alt/Tür.syt", "neu/Tür.syt", status=1)[0]
+    put("neu/Alt.syt", b"kaputt")
+    assert "Alt" not in {change["symbol"] for change in as_json("diff", "alt", "neu", status=1)}, "neither gone nor renamed"
     assert as_json("diff", "/dev/null", old, status=1) == [{"symbol": "Tür", "change": "symbol-added"}]
 
 
@@ -231,7 +239,7 @@ def wrong_usage_is_status_2():
     plain = {"info": "x.syt", "check": "x.syt", "convert": "x.syt y.syb", "svg": "x.syt .", "gallery": ". y.html",
              "dxf": "x.syt y.dxf", "diff": "x.syt x.syt", "plan": "x.plan . --svg y.svg"}  # fmt: skip
     wrong = ["", "help", "-r", "--nein", "convert . y", "convert x.syt y.syb --to wsc", "convert x.syt y.syb --to syt",
-             "diff x.syt .", "diff . x.syt", "gallery . y.txt", "dxf x.syt y.txt", "dxf x.syt y.dxf --units km", "svg x.syt",
+             "diff x.syt .", "diff . x.syt", "gallery . y.txt", "dxf x.syt y.txt", "dxf x.syt y.dxf --units km", "dxf x.syt y.dxf --units 1", "info x.syt --decimal 1", "svg x.syt",
              "plan x.plan .", "plan x.plan . --svg y.dxf", "plan x.plan . --dxf y.svg", "plan x.plan . --svg"]  # fmt: skip
     for command, words in plain.items():
         wrong += [command, f"{command} {words} -x", f"{command} {words} --decimal", f"{command} {words} --decimal x",
@@ -350,7 +358,7 @@ def names_may_be_unusual():
         pathlib.Path(os.fsdecode(path)).write_bytes(DOOR)
     if bad:
         os.mkdir(b"k/o\xffo")
-    said = "".join(f"qsymbol: k/{name}: error 52: Dateiname oder -nummer falsch\n" for name in (["k\ufffd.syt", "o\ufffdo"] if bad else []))
+    said = "".join(f"qsymbol: k/{name}: error 52: Dateiname oder -nummer falsch\n" for name in (["k\ufffd.syt"] if bad else []))
     for command in (("info", "k"), ("info", "--json", "k"), ("check", "--json", "k"), ("svg", "k", "b"), ("gallery", "k", "g.html"),
                     ("dxf", "k", "d.dxf"), ("convert", "--to", "syb", "k", "c"), ("diff", "--json", "k", "c")):  # fmt: skip
         out, errors = run(*command, "--decimal", "point", status=1 if bad else 0)
@@ -361,6 +369,8 @@ def names_may_be_unusual():
             assert {entry["name"] for entry in json.loads(out)} == set(names)
         elif command[1] == "--json":
             assert [entry for entry in json.loads(out) if entry.get("status") != "ok"][:-2] == [], out
+    if bad:
+        assert "qsymbol: k/o\ufffdo: error 52: " in run("info", "-r", "--decimal", "point", "k", status=1)[1]
     assert {path.stem for path in pathlib.Path("c").iterdir()} == {path.stem for path in pathlib.Path("b").iterdir()} == set(names)
     assert all(ElementTree.parse(path) for path in pathlib.Path("b").iterdir())
     out = run("info", "--decimal", "point", "--", *[f"k/{name}.syt" for name in names])[0]

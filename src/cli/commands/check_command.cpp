@@ -79,20 +79,23 @@ std::string Summary(const Counts& counts) {
 /// Collects the findings of one file after the other and puts them out.
 class Report {
 public:
-    Report(const CheckArguments& arguments, Run& run) : run_(run) {
+    Report(const CheckArguments& arguments, Run& run) : run_(run), settings_(run.Settings()) {
         if (arguments.json)
             array_.emplace(run);
     }
 
     void Check(const SourceFile& file) {
         duplicate_ = names_.Add(file.path);
-        const Reading reading = ReadSymbolFile(file.path, run_.Settings(), run_.OnSystem());
+        qsymbol::SymbolCheck check;
+        const Reading reading =
+            ReadSymbolFile(file.path, settings_, run_.OnSystem(),
+                           [&](const qsymbol::ElementRecord& element) { check.Look(element); });
         std::vector<Finding> findings;
-        if (reading.notice)
-            findings.push_back(qsymbol::ImportStopped(*reading.notice));
+        if (!reading.notice.empty())
+            findings.push_back(qsymbol::ImportStopped(reading.notice));
         AddDuplicate(findings);
-        if (!reading.notice)
-            std::ranges::move(CheckSymbol(reading.symbol), std::back_inserter(findings));
+        if (reading.notice.empty())
+            std::ranges::move(check.Findings(reading.symbol), std::back_inserter(findings));
         Put(file.path, findings);
     }
 
@@ -126,6 +129,7 @@ private:
     }
 
     Run& run_;
+    base::RegionalSettings settings_;
     qsymbol::FileNames names_;
     std::optional<Finding> duplicate_; ///< of the file at hand, until it is put
     Counts counts_;
@@ -135,8 +139,7 @@ private:
 void Check(const CheckArguments& arguments, Run& run) {
     Report report(arguments, run);
     ForEach(
-        SymbolFiles(arguments.paths, run.options.recursive), run,
-        [&](const SourceFile& file) { report.Check(file); },
+        SymbolFiles(arguments.paths, run), run, [&](const SourceFile& file) { report.Check(file); },
         [&](const SourceFile& file, const base::Error& error) { report.PutUnreadable(file, error); });
     report.Finish();
 }

@@ -25,18 +25,19 @@ void Convert(const ConvertArguments& arguments, Run& run) {
     const bool fromFolder = IsFolder(base::FromUtf8(arguments.source));
     if (fromFolder && to.empty())
         WrongUsage("convert: a folder needs --to syt or --to syb");
-    // A file goes under the target's name, or under its own into a folder that is there.
-    const bool intoFolder = fromFolder || (!to.empty() && IsFolder(target));
+    // A file goes under the target's name, or under its own into a folder that is there or ends with a separator.
+    const bool isFolder = IsFolder(target) || (!target.empty() && FolderOf(target) == target);
+    const bool intoFolder = fromFolder || (!to.empty() && isFolder);
     if (!intoFolder && !to.empty() && Extension(target) != to && Exists(base::FromUtf8(arguments.source)))
         WrongUsage("convert: --to and the target's extension differ");
     Targets targets(run);
     std::size_t written = 0;
-    ForEach(SymbolFiles({arguments.source}, run.options.recursive), run, [&](const SourceFile& source) {
+    ForEach(SymbolFiles({arguments.source}, run), run, [&](const SourceFile& source) {
         const std::u16string path = intoFolder ? TargetIn(target, source, to) : target;
         if (!IsWritable(path))
             throw FailureOf(path, UnusableExtension());
-        targets.Claim(path);
-        targets.Write(path, Compose(ReadSymbol(source.path, run), path, run));
+        const Target claimed = targets.Claim(path);
+        targets.Write(claimed, Compose(ReadSymbol(source.path, run), path, run));
         ++written;
     });
     run.Remark(Counted(written, "file") + " written\n");

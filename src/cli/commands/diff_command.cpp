@@ -1,4 +1,5 @@
 #include "base/file_content.h"
+#include "base/letter_case.h"
 #include "base/utf8.h"
 #include "cli/commands/command.h"
 #include "cli/commands/difference_text.h"
@@ -12,6 +13,8 @@
 #include "qsymbol/compare/decimal_separator.h"
 
 #include <memory>
+#include <unordered_set>
+#include <utility>
 
 namespace cli {
 
@@ -19,6 +22,8 @@ namespace {
 
 using qsymbol::CatalogueDifference;
 using qsymbol::CatalogueSymbol;
+
+using Names = std::unordered_set<std::u16string>; ///< in upper case
 
 struct DiffArguments {
     std::string before;
@@ -37,16 +42,33 @@ base::RegionalSettings SettingsFor(const std::u16string& path, const Run& run) {
     return qsymbol::DecimalSeparatorOf(bytes) == ',' ? CommaSettings() : PointSettings();
 }
 
-std::vector<CatalogueSymbol> ReadSide(const std::string& path, Run& run) {
+/// A symbol's name with its subfolder.
+std::u16string NameOf(const SourceFile& file) {
+    return Join(file.folder, qmath::NameWithoutExtension(qmath::FileNamePart(file.path)));
+}
+
+/// The symbols of a path; the names of those that failed go into `failed`.
+std::vector<CatalogueSymbol> ReadSide(const std::string& path, Run& run, Names& failed) {
     std::vector<CatalogueSymbol> side;
     if (path == kNoFile)
         return side;
-    ForEach(SymbolFiles({path}, run.options.recursive), run, [&](const SourceFile& file) {
-        const std::u16string name(qmath::NameWithoutExtension(qmath::FileNamePart(file.path)));
-        side.push_back({file.folder.empty() ? name : Join(file.folder, name), Extension(file.path) == u"syt",
-                        ReadSymbol(file.path, SettingsFor(file.path, run), run.OnSystem())});
-    });
+    ForEach(
+        SymbolFiles({path}, run), run,
+        [&](const SourceFile& file) {
+            const base::RegionalSettings settings = SettingsFor(file.path, run);
+            side.push_back({NameOf(file), Extension(file.path) == u"syt",
+                            ReadWholeSymbolFile(file.path, settings, run.OnSystem()).symbol});
+        },
+        [&](const SourceFile& file, const base::Error&) { failed.insert(base::UpperCase(NameOf(file))); });
     return side;
+}
+
+/// What is there on the other side but could not be read is neither new nor gone on this one.
+void LeaveOut(std::vector<CatalogueSymbol>& side, Names failed, const std::vector<CatalogueSymbol>& other) {
+    for (const CatalogueSymbol& symbol : other)
+        failed.erase(base::UpperCase(symbol.name));
+    std::erase_if(
+        side, [&](const CatalogueSymbol& symbol) { return failed.contains(base::UpperCase(symbol.name)); });
 }
 
 /// Two files are one symbol, whatever their names are.
@@ -72,8 +94,12 @@ bool BothAreFolders(const DiffArguments& arguments) {
 
 void Diff(const DiffArguments& arguments, Run& run) {
     const bool folders = BothAreFolders(arguments);
-    const std::vector<CatalogueSymbol> before = ReadSide(arguments.before, run);
-    const std::vector<CatalogueSymbol> after = ReadSide(arguments.after, run);
+    Names failedBefore;
+    Names failedAfter;
+    std::vector<CatalogueSymbol> before = ReadSide(arguments.before, run, failedBefore);
+    std::vector<CatalogueSymbol> after = ReadSide(arguments.after, run, failedAfter);
+    LeaveOut(before, std::move(failedAfter), after);
+    LeaveOut(after, std::move(failedBefore), before);
     std::vector<CatalogueDifference> differences;
     if (folders)
         differences = Compare(before, after);

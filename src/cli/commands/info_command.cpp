@@ -1,5 +1,6 @@
 #include "base/utf8.h"
 #include "cli/commands/command.h"
+#include "cli/commands/json_line.h"
 #include "cli/commands/json_output.h"
 #include "cli/commands/table.h"
 #include "cli/for_each.h"
@@ -10,7 +11,6 @@
 #include "qsymbol/check/millimetres.h"
 #include "qsymbol/check/symbol_summary.h"
 
-#include <filesystem>
 #include <memory>
 
 namespace cli {
@@ -22,28 +22,30 @@ struct InfoArguments {
     bool json = false;
 };
 
-Json SymbolAsJson(const qsymbol::Symbol& symbol) {
-    const qsymbol::SymbolSummary summary = Summarise(symbol);
-    return {{"path", base::ToUtf8(symbol.filePath)},
-            {"name", base::ToUtf8(Name(symbol))},
-            {"format", base::ToUtf8(Extension(symbol.filePath))},
-            {"width", symbol.width},
-            {"height", symbol.height},
-            {"refX", symbol.refX},
-            {"refY", symbol.refY},
-            {"elements",
-             {{"poly", summary.poly},
-              {"circle", summary.circle},
-              {"arc", summary.arc},
-              {"text", summary.text},
-              {"undefined", summary.undefined}}},
-            {"points", summary.points},
-            {"bytes", std::filesystem::file_size(std::filesystem::path(symbol.filePath))}};
+std::string AsJson(const Reading& reading, const qsymbol::SymbolSummary& summary) {
+    const qsymbol::Symbol& symbol = reading.symbol;
+    JsonLine elements;
+    elements.Put("poly", summary.poly);
+    elements.Put("circle", summary.circle);
+    elements.Put("arc", summary.arc);
+    elements.Put("text", summary.text);
+    elements.Put("undefined", summary.undefined);
+    JsonLine line;
+    line.Put("path", base::ToUtf8(symbol.filePath));
+    line.Put("name", base::ToUtf8(Name(symbol)));
+    line.Put("format", base::ToUtf8(Extension(symbol.filePath)));
+    line.Put("width", symbol.width);
+    line.Put("height", symbol.height);
+    line.Put("refX", symbol.refX);
+    line.Put("refY", symbol.refY);
+    line.Put("elements", elements);
+    line.Put("points", summary.points);
+    line.Put("bytes", reading.bytes);
+    return line.Text();
 }
 
-Table::Line AsLine(const qsymbol::Symbol& symbol) {
+Table::Line AsLine(const qsymbol::Symbol& symbol, const qsymbol::SymbolSummary& summary) {
     using qsymbol::Millimetres;
-    const qsymbol::SymbolSummary summary = Summarise(symbol);
     return {Shown(Name(symbol)),
             base::ToUtf8(Extension(symbol.filePath)),
             Millimetres(symbol.width) + " x " + Millimetres(symbol.height),
@@ -57,17 +59,30 @@ Table::Line AsLine(const qsymbol::Symbol& symbol) {
 }
 
 void Info(const InfoArguments& arguments, Run& run) {
-    const std::vector<SourceFile> files = SymbolFiles(arguments.paths, run.options.recursive);
+    const std::vector<SourceFile> files = SymbolFiles(arguments.paths, run);
+    const base::RegionalSettings settings = run.Settings();
+    const auto forEach = [&](const auto& put) {
+        ForEach(files, run, [&](const SourceFile& file) {
+            qsymbol::SymbolSummary summary;
+            const Reading reading =
+                ReadWholeSymbolFile(file.path, settings, run.OnSystem(),
+                                    [&](const qsymbol::ElementRecord& element) { summary.Count(element); });
+            put(reading, summary);
+        });
+    };
     if (arguments.json) {
         JsonArray array(run);
-        ForEach(files, run,
-                [&](const SourceFile& file) { array.Add(SymbolAsJson(ReadSymbol(file.path, run))); });
+        forEach([&](const Reading& reading, const qsymbol::SymbolSummary& summary) {
+            array.AddText(AsJson(reading, summary));
+        });
         return;
     }
     Table table;
     table.Add({"Name", "Format", "Size in mm", "Reference", "Poly", "Circle", "Arc", "Text", "Undefined",
                "Points"});
-    ForEach(files, run, [&](const SourceFile& file) { table.Add(AsLine(ReadSymbol(file.path, run))); });
+    forEach([&](const Reading& reading, const qsymbol::SymbolSummary& summary) {
+        table.Add(AsLine(reading.symbol, summary));
+    });
     constexpr std::size_t kNameAndFormat = 2;
     run.Print(table.Text(kNameAndFormat));
 }

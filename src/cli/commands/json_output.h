@@ -18,8 +18,11 @@ public:
     JsonArray& operator=(const JsonArray&) = delete;
     ~JsonArray() { run_.Print(any_ ? "\n]\n" : "[]\n"); }
 
-    void Add(const Json& item) {
-        run_.Print((any_ ? ",\n" : "[\n") + item.dump());
+    void Add(const Json& item) { AddText(item.dump()); }
+    /// An item that is JSON already.
+    void AddText(std::string_view item) {
+        run_.Print(any_ ? ",\n" : "[\n");
+        run_.Print(item);
         any_ = true;
     }
 

@@ -10,6 +10,7 @@
 #include "qplan/files/plan_file.h"
 
 #include <memory>
+#include <optional>
 
 namespace cli {
 
@@ -33,21 +34,21 @@ void WritePlan(const PlanArguments& arguments, Run& run) {
     RequireExtension(arguments.dxf, u"dxf");
     if (arguments.svg.empty() && arguments.dxf.empty())
         WrongUsage("plan: --svg FILE or --dxf FILE is required");
-    const std::u16string svg = base::FromUtf8(arguments.svg);
-    const std::u16string dxf = base::FromUtf8(arguments.dxf);
     const std::u16string path = base::FromUtf8(arguments.plan);
     run.Try(path, [&] {
         Targets targets(run);
-        for (const std::u16string& target : {svg, dxf})
-            if (!target.empty())
-                targets.Claim(target);
+        const auto claim = [&](const std::string& file) {
+            return file.empty() ? std::nullopt : std::optional(targets.Claim(base::FromUtf8(file)));
+        };
+        const std::optional<Target> svg = claim(arguments.svg);
+        const std::optional<Target> dxf = claim(arguments.dxf);
         qplan::Plan plan;
         plan.SetSymbols(std::make_shared<SymbolsByName>(base::FromUtf8(arguments.catalogue), run));
         qplan::ReadPlan(plan, run.OnSystem().files, path);
-        if (!svg.empty())
-            targets.Write(svg, [&](const base::ByteSink& sink) { ComposePlanSvg(plan, sink); });
-        if (!dxf.empty())
-            targets.Write(dxf,
+        if (svg)
+            targets.Write(*svg, [&](const base::ByteSink& sink) { ComposePlanSvg(plan, sink); });
+        if (dxf)
+            targets.Write(*dxf,
                           [&](const base::ByteSink& sink) { ComposePlanDxf(plan, arguments.unit, sink); });
         run.Remark(Counted(plan.Count(), "symbol") + '\n');
     });

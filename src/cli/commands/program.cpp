@@ -1,5 +1,6 @@
 #include "cli/commands/program.h"
 
+#include "cli/commands/choice.h"
 #include "cli/commands/command.h"
 
 #include <CLI/Config.hpp>
@@ -7,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
 
 namespace cli {
 
@@ -22,12 +22,9 @@ void AddCommonOptions(CLI::App& application, Options& options) {
     application.add_flag("-r,--recursive", options.recursive, "Also the subfolders of folders");
     application.add_flag("-f,--force", options.overwrite, "Overwrite existing targets");
     application.add_flag("-q,--quiet", options.quiet, "Failures and asked-for results only");
-    const std::map<std::string, Decimal> names = {{"comma", Decimal::Comma}, {"point", Decimal::Point}};
-    application
-        .add_option("--decimal", options.decimal,
-                    "The decimal separator in text files: comma or point; else what the user's settings say")
-        ->transform(CLI::CheckedTransformer(names).description(""))
-        ->type_name("comma|point");
+    AddChoice<Decimal>(application, "--decimal", options.decimal,
+                       {{"comma", Decimal::Comma}, {"point", Decimal::Point}},
+                       "The decimal separator in text files; else what the user's settings say");
 }
 
 void Put(std::FILE* stream, std::string_view text) {

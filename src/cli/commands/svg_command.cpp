@@ -18,10 +18,9 @@ void WritePictures(std::vector<std::string> paths, Run& run) {
     paths.pop_back();
     Targets targets(run);
     std::size_t written = 0;
-    ForEach(SymbolFiles(paths, run.options.recursive), run, [&](const SourceFile& source) {
-        const std::u16string path = TargetIn(folder, source, u"svg");
-        targets.Claim(path);
-        targets.Write(path, qsymbol::SymbolSvg(ReadSymbol(source.path, run)));
+    ForEach(SymbolFiles(paths, run), run, [&](const SourceFile& source) {
+        const Target picture = targets.Claim(TargetIn(folder, source, u"svg"));
+        targets.Write(picture, qsymbol::SymbolSvg(ReadSymbol(source.path, run)));
         ++written;
     });
     run.Remark(Counted(written, "picture") + " written\n");

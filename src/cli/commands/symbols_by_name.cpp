@@ -15,7 +15,7 @@ SymbolsByName::SymbolsByName(const std::u16string& folder, const Run& run) : run
     if (kind != Kind::Folder)
         throw FailureOf(folder, RunTime(kind == Kind::Missing ? base::RunTimeError::FileNotFound
                                                               : base::RunTimeError::PathFileAccess));
-    for (const SourceFile& file : SymbolFiles({base::ToUtf8(folder)}, run.options.recursive)) {
+    for (const SourceFile& file : SymbolFiles({base::ToUtf8(folder)}, run)) {
         if (file.failure)
             throw FailureOf(file.path, *file.failure);
         const std::u16string_view name = qmath::NameWithoutExtension(qmath::FileNamePart(file.path));

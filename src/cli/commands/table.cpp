@@ -24,9 +24,10 @@ std::string Table::Text(std::size_t leftColumns) const {
     std::string text;
     for (const Line& line : lines_) {
         for (std::size_t i = 0; i < line.size(); ++i) {
-            const std::string blanks(widths[i] - WidthOf(line[i]), ' ');
-            text += i == 0 ? "" : "  ";
-            text += i < leftColumns ? line[i] + blanks : blanks + line[i];
+            const std::size_t blanks = widths[i] - WidthOf(line[i]);
+            text.append((i == 0 ? 0 : 2) + (i < leftColumns ? 0 : blanks), ' ');
+            text += line[i];
+            text.append(i < leftColumns ? blanks : 0, ' ');
         }
         text.erase(text.find_last_not_of(' ') + 1);
         text += '\n';

@@ -179,10 +179,10 @@ bool PosixFileSystem::FolderExists(const std::u16string& path) {
 
 std::vector<base::FolderEntry> PosixFileSystem::ListFiles(const std::u16string& folder) {
     const std::string name = base::ToUtf8(folder);
-    const std::u16string prefix = folder + u"/";
+    const std::u16string prefix = folder.ends_with(u'/') ? folder : folder + u"/";
     DIR* const handle = listed_.Open(name, prefix);
     if (handle == nullptr)
-        base::Raise(RunTimeError::PathNotFound);
+        base::Raise(errno == EACCES ? RunTimeError::PermissionDenied : RunTimeError::PathNotFound);
     std::vector<base::FolderEntry> entries;
     while (const dirent* entry = readdir(handle)) {
         const bool unclear = entry->d_type == DT_UNKNOWN || entry->d_type == DT_LNK;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "qsymbol/model/symbol.h"
+#include "qsymbol/model/element_record.h"
 
 #include <cstddef>
 
@@ -15,9 +15,9 @@ struct SymbolSummary {
     std::size_t undefined = 0; ///< also kinds that this library does not know
     std::size_t points = 0;
 
+    void Count(const ElementRecord& element);
+
     friend bool operator==(const SymbolSummary&, const SymbolSummary&) = default;
 };
-
-SymbolSummary Summarise(const Symbol& symbol);
 
 } // namespace qsymbol

@@ -28,8 +28,13 @@ public:
             changes.push_back({field, ValueOf(before), ValueOf(after)});
     }
 
-    void Points(const std::vector<qmath::Point>& before, const std::vector<qmath::Point>& after) {
-        for (std::size_t i = 0; i < std::max(before.size(), after.size()); ++i) {
+    /// Text files keep one point of a circle and of a text, and these are drawn from no other.
+    void Points(const std::vector<qmath::Point>& before, const std::vector<qmath::Point>& after,
+                bool isDrawnFromOne) {
+        std::size_t count = std::max(before.size(), after.size());
+        if (isDrawnFromOne && precision_ == Precision::Text)
+            count = std::min<std::size_t>(count, 1);
+        for (std::size_t i = 0; i < count; ++i) {
             const FieldValue from = i < before.size() ? ValueOf(before[i]) : FieldValue();
             const FieldValue to = i < after.size() ? ValueOf(after[i]) : FieldValue();
             if (!(from == to))
@@ -80,7 +85,7 @@ std::vector<Change> ElementChanges(const ElementRecord& before, const ElementRec
         compare.Field("sizeInHundredths", before.lineClosed, after.lineClosed);
         compare.Font(before.font.value_or(FontRecord()), after.font.value_or(FontRecord()));
     }
-    compare.Points(before.points, after.points);
+    compare.Points(before.points, after.points, isText || type == ElementType::Circle);
     return std::move(compare.changes);
 }
 
