@@ -81,12 +81,17 @@ class Desktop:
             ["wine", os.path.join(self._folder, "window_reader.exe"), NAME],
             stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=self._log, encoding="utf-8")  # fmt: skip
 
-    def windows(self):
-        """All visible windows, the front one first; none before the desktop is there."""
+    def tell_dots(self, dots, area):
+        """Tells the front window that its screen has so many dots to the inch now; area: of its client."""
+        self.windows(f"dots {dots} {' '.join(map(str, area))}")
+
+    def windows(self, order=""):
+        """All visible windows, the front one first; none before the desktop is there. order: what the reader is to do
+        before."""
         if self._reader is None:
             self._start_reader()
         try:
-            self._reader.stdin.write("\n")
+            self._reader.stdin.write(order + "\n")
             self._reader.stdin.flush()
         except BrokenPipeError:
             pass

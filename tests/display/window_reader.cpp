@@ -4,6 +4,8 @@
 //   window  class  text left top right bottom    the client area, in pixels of the screen
 //   control class  text left top right bottom    the whole; the text of a list box is the number of the entry
 //   part    number text                          of the status bar before it
+// The line "dots NUMBER left top right bottom" tells the front window before that its screen has so many dots to the inch
+// now, and that its client area is to be there.
 
 #include <windows.h>
 
@@ -11,7 +13,9 @@
 
 #include <cstdio>
 #include <iostream>
+#include <sstream>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -96,6 +100,34 @@ BOOL CALLBACK PrintWindow(HWND window, LPARAM) {
     return TRUE;
 }
 
+BOOL CALLBACK TakeFirstVisible(HWND window, LPARAM first) {
+    if (!IsWindowVisible(window))
+        return TRUE;
+    *reinterpret_cast<HWND*>(first) = window;
+    return FALSE;
+}
+
+/// The rectangle of the message is read in the window's own process.
+void TellDots(HDESK desktop, std::istringstream numbers) {
+    constexpr UINT kDotsChanged = 0x02E0; // WM_DPICHANGED
+    HWND window = nullptr;
+    EnumDesktopWindows(desktop, TakeFirstVisible, reinterpret_cast<LPARAM>(&window));
+    WORD dots = 0;
+    RECT place{};
+    numbers >> dots >> place.left >> place.top >> place.right >> place.bottom;
+    AdjustWindowRectEx(&place, static_cast<DWORD>(GetWindowLongPtrW(window, GWL_STYLE)),
+                       GetMenu(window) != nullptr,
+                       static_cast<DWORD>(GetWindowLongPtrW(window, GWL_EXSTYLE)));
+    DWORD processId = 0;
+    GetWindowThreadProcessId(window, &processId);
+    const HANDLE process = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_WRITE, FALSE, processId);
+    void* there = VirtualAllocEx(process, nullptr, sizeof place, MEM_COMMIT, PAGE_READWRITE);
+    WriteProcessMemory(process, there, &place, sizeof place, nullptr);
+    Ask(window, kDotsChanged, MAKEWPARAM(dots, dots), reinterpret_cast<LPARAM>(there));
+    VirtualFreeEx(process, there, 0, MEM_RELEASE);
+    CloseHandle(process);
+}
+
 } // namespace
 
 int wmain(int count, wchar_t** values) {
@@ -106,6 +138,9 @@ int wmain(int count, wchar_t** values) {
         return 1;
     }
     for (std::string line; std::getline(std::cin, line);) {
+        constexpr std::string_view kDots = "dots ";
+        if (line.starts_with(kDots))
+            TellDots(desktop, std::istringstream(line.substr(kDots.size())));
         EnumDesktopWindows(desktop, PrintWindow, 0);
         std::printf("\n");
         std::fflush(stdout);

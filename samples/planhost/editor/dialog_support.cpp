@@ -1,25 +1,12 @@
 #include "dialog_support.h"
 
+#include "dpi.h"
+
 #include <algorithm>
 #include <cstring>
 #include <vector>
 
 namespace {
-
-LOGFONTW MessageFont() {
-    NONCLIENTMETRICSW metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    return metrics.lfMessageFont;
-}
-
-/// Of the screen for which the system tells its sizes.
-int SystemDots() {
-    const HDC screen = GetDC(nullptr);
-    const int dots = GetDeviceCaps(screen, LOGPIXELSY);
-    ReleaseDC(nullptr, screen);
-    return dots;
-}
 
 /// A dialog template of the resources with another font. Its head: 26 bytes, menu and class (a word each here), the title,
 /// and then the font: points, weight, two bytes, name.
@@ -36,8 +23,9 @@ std::vector<BYTE> WithMessageFont(int dialog) {
     const auto whole = [](std::size_t at) { return (at + 3) / 4 * 4; }; // controls begin at multiples of four
     const std::size_t controls = whole(afterText(font + 6));
 
-    const LOGFONTW message = MessageFont();
-    const auto points = static_cast<WORD>(MulDiv(std::abs(message.lfHeight), 72, SystemDots()));
+    const LOGFONTW message = MessageFont(DotsOf(nullptr));
+    const auto points =
+        static_cast<WORD>(MulDiv(std::abs(message.lfHeight), 72, static_cast<int>(DotsOf(nullptr))));
     std::vector<BYTE> result(bytes, bytes + font + 6);
     std::memcpy(&result[font], &points, sizeof points);
     const auto* name = reinterpret_cast<const BYTE*>(message.lfFaceName);
@@ -76,10 +64,28 @@ void CentreOverOwner(HWND dialog) {
         0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+LOGFONTW MessageFont(UINT dots) {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+    LOGFONTW font = metrics.lfMessageFont;
+    font.lfHeight = MulDiv(font.lfHeight, static_cast<int>(dots), static_cast<int>(DotsOf(nullptr)));
+    return font;
+}
+
 HFONT MakeMessageFont(UINT dots) {
-    LOGFONTW form = MessageFont();
-    form.lfHeight = MulDiv(form.lfHeight, static_cast<int>(dots), SystemDots());
-    return CreateFontIndirectW(&form);
+    const LOGFONTW font = MessageFont(dots);
+    return CreateFontIndirectW(&font);
+}
+
+int LineHeightOf(HFONT font) {
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HGDIOBJ previous = SelectObject(dc, font);
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(dc, &metrics);
+    SelectObject(dc, previous);
+    DeleteDC(dc);
+    return static_cast<int>(metrics.tmHeight);
 }
 
 std::wstring WindowText(HWND window) {

@@ -26,11 +26,17 @@ void Editor::Paint(HDC dc) {
         Marks::Corners corners;
         std::ranges::transform(view_.Scene().Corners(*hovered_), corners.begin(),
                                [this](POINT corner) { return view_.Map().ToPixel(corner); });
-        DrawHoverFrame(whole.Dc(), corners);
+        DrawHoverFrame(whole.Dc(), corners, view_.Dots());
     }
     if (caught_)
-        DrawCatchMark(whole.Dc(), view_.Map().ToPixel(*caught_->caught), caught_->kind);
+        DrawCatchMark(whole.Dc(), pixels_.cx, view_.Map().ToPixel(*caught_->caught), caught_->kind,
+                      view_.Dots());
     BitBlt(dc, 0, 0, pixels_.cx, pixels_.cy, whole.Dc(), 0, 0, SRCCOPY);
+}
+
+void Editor::UseDots(UINT dots) {
+    if (dots != view_.Dots())
+        ChangeView([&](PlanView& view) { view.UseDots(dots); });
 }
 
 void Editor::Resize(SIZE pixels) {
@@ -116,7 +122,7 @@ void Editor::MouseDown(POINT pixel) {
         tool_->MouseDown(view_, PointerAt(pixel));
         return FinishIfReady();
     }
-    if (IsTurnHandleAt(MarksOf(document_, view_.Scene(), view_.Map()), pixel))
+    if (IsTurnHandleAt(view_.MarksShown(), pixel))
         return StartTurning(pixel);
     const std::vector<std::size_t> below = SymbolsAt(pixel);
     if (below.empty())

@@ -24,6 +24,8 @@ public:
 
     void Paint(HDC dc);
     void Resize(SIZE pixels);
+    /// Draws handles and marks for a screen of so many dots to the inch.
+    void UseDots(UINT dots);
     /// Shows the plan as it is now, the tool's image last.
     void Redraw();
     /// Changes what is to be seen of the plan, with the tool's image upon it.

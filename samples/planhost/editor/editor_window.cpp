@@ -24,7 +24,6 @@ constexpr UINT_PTR kKeepTimer = 1;
 constexpr long kKeepSeconds = 60;
 // In pixels of a screen of 100 %.
 constexpr SIZE kFirstSize{1120, 840};
-constexpr int kPartWidths[] = {220, 150, 80}; // of the status bar's parts behind the first
 
 /// The first size of the window; no larger than there is room.
 SIZE FirstSize() {
@@ -124,9 +123,9 @@ LRESULT CALLBACK EditorWindow::OnMessage(HWND window, UINT message, WPARAM wPara
 LRESULT EditorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     constexpr UINT kDotsChanged = 0x02E0; // WM_DPICHANGED, from Windows 8.1 on
     switch (message) {
-    case WM_CREATE: CreateParts(); return status_ != nullptr ? 0 : -1;
+    case WM_CREATE: return CreateParts() ? 0 : -1;
     case WM_SIZE: Resize(); return 0;
-    case kDotsChanged: TakeDots(*reinterpret_cast<const RECT*>(lParam)); return 0;
+    case kDotsChanged: TakeDots(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam)); return 0;
     case WM_ACTIVATE:
         if (LOWORD(wParam) == WA_INACTIVE)
             focus_ = GetFocus();
@@ -152,6 +151,7 @@ LRESULT EditorWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_QUERYENDSESSION: return MayClose();
     case WM_DESTROY:
         RememberPlace();
+        ForgetDots(window_);
         autosave_.Discard();
         PostQuitMessage(0);
         return 0;
@@ -180,10 +180,9 @@ void EditorWindow::Do(const std::function<void()>& action) {
     ShowState();
 }
 
-void EditorWindow::CreateParts() {
-    status_ = CreateWindowExW(0, STATUSCLASSNAMEW, L"", WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, 0, 0, 0, 0,
-                              window_, nullptr, GetModuleHandleW(nullptr), nullptr);
-    statusTexts_.resize(std::size(kPartWidths) + 1);
+bool EditorWindow::CreateParts() {
+    if (!status_.Create(window_))
+        return false;
     properties_.Create(
         window_,
         [this](const std::vector<PlacedSymbol>& changed) {
@@ -195,27 +194,19 @@ void EditorWindow::CreateParts() {
         [this] { FocusPlan(); });
     plan_.Create(window_, [this](const std::function<void()>& action) { Do(action); });
     palette_ = MakePalette(window_, *this);
+    return true;
 }
 
 void EditorWindow::Resize() {
-    RECT client, bar;
-    SendMessageW(status_, WM_SIZE, 0, 0);
+    RECT client;
     GetClientRect(window_, &client);
-    GetWindowRect(status_, &bar);
     const UINT dots = DotsOf(window_);
-    int ends[std::size(kPartWidths) + 1];
-    int end = client.right;
-    for (std::size_t i = std::size(kPartWidths); i > 0; --i) {
-        ends[i] = i == std::size(kPartWidths) ? -1 : end;
-        end = std::max(0, end - Scaled(kPartWidths[i - 1], dots));
-    }
-    ends[0] = end;
-    SendMessageW(status_, SB_SETPARTS, std::size(ends), reinterpret_cast<LPARAM>(ends));
-    statusTexts_.assign(std::size(ends), {});
+    status_.Arrange(client.right, dots);
     const EditorLayout layout =
         LayOut({client.right, client.bottom},
-               {properties_.Height(dots), palette_ ? palette_->Width(dots) : 0, bar.bottom - bar.top});
+               {properties_.Height(dots), palette_ ? palette_->Width(dots) : 0, status_.Height()});
     properties_.MoveTo(layout.properties, dots);
+    Do([&] { editor_.UseDots(dots); });
     plan_.MoveTo(layout.plan);
     if (palette_) {
         const auto [left, top, right, bottom] = layout.palette;
@@ -224,11 +215,14 @@ void EditorWindow::Resize() {
     ShowState();
 }
 
-/// The window has come to a screen with other dots; proposed: its place there.
-void EditorWindow::TakeDots(const RECT& proposed) {
+/// The window has come to a screen with other dots, or its user has changed them; proposed: its place there.
+void EditorWindow::TakeDots(UINT dots, const RECT& proposed) {
+    TellDots(window_, dots);
     SetWindowPos(window_, nullptr, proposed.left, proposed.top, proposed.right - proposed.left,
                  proposed.bottom - proposed.top, SWP_NOZORDER | SWP_NOACTIVATE);
     Resize();
+    // Parts that have moved bring old pixels along.
+    RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void EditorWindow::RestorePlace() {
@@ -288,26 +282,25 @@ void EditorWindow::ReloadCatalogue() {
         palette_->CatalogueChanged();
 }
 
-void EditorWindow::SetStatus(std::size_t part, const std::wstring& text) {
-    if (statusTexts_[part] == text)
-        return;
-    statusTexts_[part] = text;
-    SendMessageW(status_, SB_SETTEXTW, part, reinterpret_cast<LPARAM>(text.c_str()));
+/// Of the glass, so that a ruler held against it agrees: as the user has measured it, or as the screen tells.
+double EditorWindow::DotsPerMillimetre() const {
+    constexpr double kMillimetresPerInch = 25.4;
+    const double dots = measuredDots_ > 0 ? static_cast<double>(measuredDots_) : MeasuredDotsOf(window_);
+    return dots / kMillimetresPerInch;
 }
 
 /// The scale at which the plan is seen on this screen.
 std::wstring EditorWindow::ZoomText() const {
-    const double dotsPerMillimetre = DotsOf(window_) / 25.4;
-    const double reduced = editor_.View().Map().Scale() / kUnitsPerMillimetre * dotsPerMillimetre;
+    const double reduced = editor_.View().Map().Scale() / kUnitsPerMillimetre * DotsPerMillimetre();
     return reduced >= 0.99 ? L"1:" + std::to_wstring(std::lround(reduced))
                            : std::to_wstring(std::lround(1 / reduced)) + L":1";
 }
 
 void EditorWindow::ShowState() {
-    SetStatus(0, editor_.Hint());
-    SetStatus(1, editor_.PositionText());
-    SetStatus(2, editor_.CountText());
-    SetStatus(3, ZoomText());
+    status_.Show(StatusBar::Hint, editor_.Hint());
+    status_.Show(StatusBar::Position, editor_.PositionText());
+    status_.Show(StatusBar::Marked, editor_.CountText());
+    status_.Show(StatusBar::Zoom, ZoomText());
     properties_.Show(editor_.Document());
     std::wstring title =
         PlanName(editor_.Document()) + (editor_.Document().IsModified() ? L"* – " : L" – ") + kTitle;

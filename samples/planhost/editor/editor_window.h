@@ -4,6 +4,7 @@
 #include "palette.h"
 #include "plan_window.h"
 #include "properties_bar.h"
+#include "status_bar.h"
 
 /// The window with menu, properties, palette, plan and status bar. It runs the commands, shows what failed and goes on.
 class EditorWindow final : PaletteHost {
@@ -38,9 +39,10 @@ private:
     void ReloadCatalogue() override;
     void FocusPlan() override { SetFocus(plan_.Window()); }
 
-    void CreateParts();
+    bool CreateParts();
     void Resize();
-    void TakeDots(const RECT& proposed);
+    void TakeDots(UINT dots, const RECT& proposed);
+    double DotsPerMillimetre() const;
     void RestorePlace();
     void RememberPlace();
     /// Moves what a tool shows to where the mouse is.
@@ -49,7 +51,6 @@ private:
     void PrepareMenu(HMENU menu);
     void ShowContextMenu(POINT at);
     void ShowState();
-    void SetStatus(std::size_t part, const std::wstring& text);
     std::wstring ZoomText() const;
 
     // The commands that are more than a line.
@@ -69,6 +70,7 @@ private:
 
     std::filesystem::path catalogueFolder_;
     Settings settings_;
+    const long measuredDots_ = settings_.Number(L"Ansicht", L"PunkteJeZoll", 0); ///< by the user; 0: not
     Editor editor_;
     PlanWindow plan_;
     PropertiesBar properties_;
@@ -76,7 +78,6 @@ private:
     std::unique_ptr<PaletteStrip> palette_;
     HWND window_ = nullptr;
     HWND focus_ = nullptr; ///< the part that had the keyboard when another window got it
-    HWND status_ = nullptr;
-    std::vector<std::wstring> statusTexts_;
+    StatusBar status_;
     std::wstring title_;
 };

@@ -1,5 +1,7 @@
 #include "marks.h"
 
+#include "dpi.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -7,15 +9,18 @@ namespace {
 
 constexpr COLORREF kMarkColour = RGB(0, 95, 184);
 constexpr COLORREF kHoverColour = RGB(90, 160, 220);
-constexpr int kHandle = 3; // pixels from its middle to its edge
+// In pixels of a screen of 100 %.
+constexpr int kLine = 1;
+constexpr int kHandle = 3; // from its middle to its edge
 constexpr int kTurnHandle = 5;
-constexpr int kStem = 26;    // pixels from the frame to the turn handle
-constexpr int kGrasp = 9;    // pixels from its middle at which it is taken hold of
-constexpr int kGroupGap = 5; // pixels between the frames of the members and that of the group
+constexpr int kStem = 26;    // from the frame to the turn handle
+constexpr int kGrasp = 9;    // from its middle, where it is taken hold of
+constexpr int kGroupGap = 5; // between the frames of the members and that of the group
 
 class Pen {
 public:
-    Pen(HDC dc, int style, COLORREF colour) : dc_(dc), state_(SaveDC(dc)), pen_(CreatePen(style, 1, colour)) {
+    Pen(HDC dc, int style, int width, COLORREF colour)
+        : dc_(dc), state_(SaveDC(dc)), pen_(CreatePen(style, width, colour)) {
         SelectObject(dc, pen_);
         SelectObject(dc, GetStockObject(NULL_BRUSH));
         SetBkMode(dc, TRANSPARENT);
@@ -36,25 +41,27 @@ POINT Middle(POINT one, POINT other) {
     return {(one.x + other.x) / 2, (one.y + other.y) / 2};
 }
 
-void DrawHandles(HDC dc, const Marks::Corners& corners) {
+void DrawHandles(HDC dc, const Marks::Corners& corners, int half) {
     for (const auto& [x, y] : corners)
-        Rectangle(dc, x - kHandle, y - kHandle, x + kHandle + 1, y + kHandle + 1);
+        Rectangle(dc, x - half, y - half, x + half + 1, y + half + 1);
 }
 
 /// Above the upper edge, as the frame is turned.
-POINT TurnHandle(const Marks::Corners& frame, POINT stem) {
+POINT TurnHandle(const Marks::Corners& frame, POINT stem, int away) {
     const double dx = frame[0].x - frame[3].x;
     const double dy = frame[0].y - frame[3].y;
     const double length = std::hypot(dx, dy);
     if (length == 0)
-        return {stem.x, stem.y - kStem};
-    return {stem.x + std::lround(dx / length * kStem), stem.y + std::lround(dy / length * kStem)};
+        return {stem.x, stem.y - away};
+    return {stem.x + std::lround(dx / length * away), stem.y + std::lround(dy / length * away)};
 }
 
 } // namespace
 
-std::optional<Marks> MarksOf(const PlanDocument& document, const PlanScene& scene, const ViewMap& map) {
+std::optional<Marks> MarksOf(const PlanDocument& document, const PlanScene& scene, const ViewMap& map,
+                             UINT dots) {
     Marks marks{};
+    marks.dots = dots;
     std::optional<RECT> all;
     for (const std::size_t place : document.Marks().Places()) {
         Marks::Corners corners;
@@ -66,7 +73,7 @@ std::optional<Marks> MarksOf(const PlanDocument& document, const PlanScene& scen
     if (!all)
         return std::nullopt;
     if (marks.frames.size() > 1) {
-        InflateRect(&*all, kGroupGap, kGroupGap);
+        InflateRect(&*all, Scaled(kGroupGap, dots), Scaled(kGroupGap, dots));
         marks.group = {{{all->left, all->top},
                         {all->right, all->top},
                         {all->right, all->bottom},
@@ -74,7 +81,7 @@ std::optional<Marks> MarksOf(const PlanDocument& document, const PlanScene& scen
     }
     const Marks::Corners& frame = marks.group ? *marks.group : marks.frames.front();
     marks.stem = Middle(frame[0], frame[1]);
-    marks.turnHandle = TurnHandle(frame, marks.stem);
+    marks.turnHandle = TurnHandle(frame, marks.stem, Scaled(kStem, dots));
     return marks;
 }
 
@@ -82,25 +89,27 @@ void DrawMarks(HDC dc, const std::optional<Marks>& marks) {
     if (!marks)
         return;
     if (marks->group) {
-        const Pen dashed(dc, PS_DOT, kMarkColour);
+        const Pen dashed(dc, PS_DOT, 1, kMarkColour); // a wider one would have no dots
         Polygon(dc, marks->group->data(), 4);
     }
-    const Pen pen(dc, PS_SOLID, kMarkColour);
+    const Pen pen(dc, PS_SOLID, Scaled(kLine, marks->dots), kMarkColour);
     for (const Marks::Corners& frame : marks->frames)
         Polygon(dc, frame.data(), 4);
     const POINT stem[] = {marks->stem, marks->turnHandle};
     Polyline(dc, stem, 2);
     SelectObject(dc, GetStockObject(WHITE_BRUSH));
-    DrawHandles(dc, marks->group ? *marks->group : marks->frames.front());
+    DrawHandles(dc, marks->group ? *marks->group : marks->frames.front(), Scaled(kHandle, marks->dots));
     const auto [x, y] = marks->turnHandle;
-    Ellipse(dc, x - kTurnHandle, y - kTurnHandle, x + kTurnHandle + 1, y + kTurnHandle + 1);
+    const int radius = Scaled(kTurnHandle, marks->dots);
+    Ellipse(dc, x - radius, y - radius, x + radius + 1, y + radius + 1);
 }
 
 bool IsTurnHandleAt(const std::optional<Marks>& marks, POINT pixel) {
-    return marks && std::hypot(pixel.x - marks->turnHandle.x, pixel.y - marks->turnHandle.y) <= kGrasp;
+    return marks && std::hypot(pixel.x - marks->turnHandle.x, pixel.y - marks->turnHandle.y) <=
+                        Scaled(kGrasp, marks->dots);
 }
 
-void DrawHoverFrame(HDC dc, const Marks::Corners& corners) {
-    const Pen pen(dc, PS_SOLID, kHoverColour);
+void DrawHoverFrame(HDC dc, const Marks::Corners& corners, UINT dots) {
+    const Pen pen(dc, PS_SOLID, Scaled(kLine, dots), kHoverColour);
     Polygon(dc, corners.data(), 4);
 }

@@ -16,14 +16,16 @@ struct Marks {
     std::optional<Corners> group; ///< round all, where there are several
     POINT turnHandle;             ///< of what is marked
     POINT stem;                   ///< where the turn handle is fastened
+    UINT dots;                    ///< of the screen to the inch
 };
 
-/// Nothing while no symbol is marked.
-std::optional<Marks> MarksOf(const PlanDocument& document, const PlanScene& scene, const ViewMap& map);
+/// Nothing while no symbol is marked. dots: of the screen to the inch.
+std::optional<Marks> MarksOf(const PlanDocument& document, const PlanScene& scene, const ViewMap& map,
+                             UINT dots);
 
 void DrawMarks(HDC dc, const std::optional<Marks>& marks);
 
 bool IsTurnHandleAt(const std::optional<Marks>& marks, POINT pixel);
 
 /// A thin frame round the symbol that the mouse points to.
-void DrawHoverFrame(HDC dc, const Marks::Corners& corners);
+void DrawHoverFrame(HDC dc, const Marks::Corners& corners, UINT dots);

@@ -1,36 +1,13 @@
 #include "palette_look.h"
 
+#include "dialog_support.h"
 #include "dpi.h"
 
 #include <initializer_list>
 
-namespace {
-
-/// The desktop's font for messages, for a screen of so many dots to the inch.
-LOGFONTW MessageFont(UINT dots) {
-    NONCLIENTMETRICSW metrics{};
-    metrics.cbSize = sizeof metrics;
-    SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    LOGFONTW font = metrics.lfMessageFont;
-    font.lfHeight = MulDiv(font.lfHeight, static_cast<int>(dots), static_cast<int>(DotsOf(nullptr)));
-    font.lfQuality = CLEARTYPE_QUALITY;
-    return font;
-}
-
-int LineHeightOf(HFONT font) {
-    const HDC dc = CreateCompatibleDC(nullptr);
-    const HGDIOBJ previous = SelectObject(dc, font);
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(dc, &metrics);
-    SelectObject(dc, previous);
-    DeleteDC(dc);
-    return static_cast<int>(metrics.tmHeight);
-}
-
-} // namespace
-
 PaletteLook::PaletteLook(UINT dots) : dots_(dots) {
     LOGFONTW font = MessageFont(dots);
+    font.lfQuality = CLEARTYPE_QUALITY;
     font_ = CreateFontIndirectW(&font);
     font.lfWeight = FW_BOLD;
     bold_ = CreateFontIndirectW(&font);

@@ -2,7 +2,6 @@
 
 #include "../plan_drawing.h"
 #include "grid.h"
-#include "marks.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,6 +52,11 @@ void PlanView::Resize(SIZE pixels) {
     screen_.emplace(pixels.cx, pixels.cy);
     if (document_ != nullptr)
         isFitted_ ? FitSheet() : Compose();
+}
+
+void PlanView::UseDots(UINT dots) {
+    dots_ = dots;
+    Compose();
 }
 
 void PlanView::FitSheet() {
@@ -123,7 +127,7 @@ void PlanView::Compose() {
         DrawRough(dc);
     if (hasGrid_)
         DrawGrid(*screen_, map_);
-    DrawMarks(dc, MarksOf(*document_, scene_, map_));
+    DrawMarks(dc, MarksShown());
     box_ = PictureBox::Create(dc, pixels_.cx, pixels_.cy, L"PlanBox");
 }
 

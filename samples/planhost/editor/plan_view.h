@@ -1,6 +1,7 @@
 #pragma once
 
 #include "../picture_box.h"
+#include "marks.h"
 #include "plan_document.h"
 #include "plan_scene.h"
 #include "smooth_tiles.h"
@@ -18,6 +19,9 @@ public:
     /// Takes symbols for new that have come from a file again.
     void Forget();
     void Resize(SIZE pixels);
+    /// Of the screen, to the inch: handles grow with them.
+    void UseDots(UINT dots);
+    UINT Dots() const { return dots_; }
     /// False while the window has no room for a picture.
     bool HasPicture() const { return screen_.has_value(); }
 
@@ -37,6 +41,7 @@ public:
 
     const ViewMap& Map() const { return map_; }
     const PlanScene& Scene() const { return scene_; }
+    std::optional<Marks> MarksShown() const { return MarksOf(*document_, scene_, map_, dots_); }
     bool HasGrid() const { return hasGrid_; }
 
     /// What the libraries' tools draw on, and the map that they use; they change whenever the picture does.
@@ -62,6 +67,7 @@ private:
     PlanScene scene_;
     ViewMap map_;
     SIZE pixels_{};
+    UINT dots_ = USER_DEFAULT_SCREEN_DPI;
     bool isFitted_ = true; ///< until the user zooms or pans
     bool hasGrid_ = false;
     SmoothTiles tiles_;

@@ -14,7 +14,7 @@ namespace {
 
 // Pixels of a screen of 100 %.
 constexpr int kBarHeight = 30;
-constexpr int kFieldHeight = 20;
+constexpr int kFieldPadding = 2; // above and below a field's text, together
 constexpr int kGap = 6;
 
 struct FieldForm {
@@ -85,13 +85,15 @@ int PropertiesBar::Height(UINT dots) const {
 void PropertiesBar::MoveTo(const RECT& area, UINT dots) {
     MoveWindow(window_, area.left, area.top, area.right - area.left, area.bottom - area.top, TRUE);
     const HFONT before = std::exchange(font_, MakeMessageFont(dots));
-    const int top = Scaled((kBarHeight - kFieldHeight) / 2, dots);
+    // No higher than its text: a field of one line does not centre it.
+    const int height = LineHeightOf(font_) + 2 * GetSystemMetrics(SM_CYEDGE) + Scaled(kFieldPadding, dots);
+    const int top = (Height(dots) - height) / 2;
     int x = 0;
     for (std::size_t i = 0; i < Count; ++i) {
         for (const auto& [window, width] :
              {std::pair{labels_[i], kForms[i].labelWidth}, {fields_[i], kForms[i].width}}) {
             x += Scaled(kGap, dots);
-            MoveWindow(window, x, top, Scaled(width, dots), Scaled(kFieldHeight, dots), TRUE);
+            MoveWindow(window, x, top, Scaled(width, dots), height, TRUE);
             SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font_), TRUE);
             x += Scaled(width, dots);
         }

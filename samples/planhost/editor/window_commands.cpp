@@ -2,7 +2,6 @@
 
 #include "../text.h"
 #include "clipboard.h"
-#include "dpi.h"
 #include "key_page.h"
 #include "picture_folder.h"
 #include "plan_files.h"
@@ -90,7 +89,8 @@ const EditorWindow::Command EditorWindow::kCommands[] = {
     {IDM_MARK_ALL, Always, [](EditorWindow& w, int) { w.editor_.MarkAll(); }},
     {IDM_CHOOSE, Always,
      [](EditorWindow& w, int) {
-         w.SetStatus(0, L"Bilder aller Symbole kommen nach " + PictureFolder(w.editor_.Document().File()));
+         w.status_.Show(StatusBar::Hint,
+                        L"Bilder aller Symbole kommen nach " + PictureFolder(w.editor_.Document().File()));
          w.editor_.Choose();
      }},
     {IDM_AGAIN, [](const EditorWindow& w) { return w.editor_.CanPlaceAgain(); },
@@ -175,7 +175,6 @@ void EditorWindow::MoveBy() {
 }
 
 void EditorWindow::Zoom(int command) {
-    constexpr double kMillimetresPerInch = 25.4;
     RECT area;
     GetClientRect(plan_.Window(), &area);
     const POINT middle{area.right / 2, area.bottom / 2};
@@ -183,9 +182,8 @@ void EditorWindow::Zoom(int command) {
     case IDM_ZOOM_ALL: return editor_.ChangeView([](PlanView& view) { view.FitSheet(); });
     case IDM_ZOOM_MARKED: return editor_.ChangeView([](PlanView& view) { view.FitMarked(); });
     case IDM_ZOOM_TRUE:
-        return editor_.ChangeView([&](PlanView& view) {
-            view.SetScale(kMillimetresPerInch * kUnitsPerMillimetre / DotsOf(window_));
-        });
+        return editor_.ChangeView(
+            [&](PlanView& view) { view.SetScale(kUnitsPerMillimetre / DotsPerMillimetre()); });
     default: return editor_.Zoom(middle, command == IDM_ZOOM_IN ? 2 : -2);
     }
 }
