@@ -28,7 +28,8 @@ void RegisterWindowClass(WNDPROC onMessage) {
 
 PaletteList::PaletteList(const PaletteModel& model, PaletteListOwner& owner)
     : model_(model), owner_(owner),
-      painter_([&owner](std::size_t number) -> _CSymbol& { return owner.SymbolOf(number); }) {}
+      painter_([&owner](std::size_t number) -> _CSymbol& { return owner.SymbolOf(number); }),
+      accessible_(PaletteAccessible::Create(*this)) {}
 
 void PaletteList::Create(HWND parent) {
     RegisterWindowClass(OnMessage);
@@ -48,6 +49,7 @@ void PaletteList::ModelChanged(bool selectFirst) {
     pressed_.reset();
     top_ = 0;
     Arrange();
+    TellReaders(EVENT_OBJECT_REORDER);
     if (selectFirst)
         SelectFirst();
 }
@@ -61,6 +63,7 @@ void PaletteList::SectionsChanged() {
         const std::size_t fromEnd = before - *selected_;
         selected_ = layout_.Tiles() - std::min(fromEnd, layout_.Tiles());
     }
+    TellReaders(EVENT_OBJECT_REORDER);
     if (top_ > 0)
         ScrollTo(top_ + layout_.Height() - height);
 }
@@ -72,6 +75,27 @@ void PaletteList::SelectFirst() {
 
 std::optional<std::size_t> PaletteList::Selected() const {
     return selected_ ? std::optional(View().SymbolOn(*selected_)) : std::nullopt;
+}
+
+std::wstring PaletteList::NameOf(std::size_t tile) const {
+    return model_.Symbol(View().SymbolOn(tile)).name;
+}
+
+/// What a tile shows besides, and the heading above it.
+std::wstring PaletteList::DescriptionOf(std::size_t tile) const {
+    const std::size_t number = View().SymbolOn(tile);
+    std::wstring text = model_.Symbol(number).size + L", " + model_.Sections()[layout_.SectionOf(tile)].title;
+    if (model_.IsFavourite(number))
+        text += L", Favorit";
+    return text;
+}
+
+/// event: about the whole list, or about the selected tile.
+void PaletteList::TellReaders(DWORD event) const {
+    const LONG child =
+        event == EVENT_OBJECT_REORDER || !selected_ ? CHILDID_SELF : static_cast<LONG>(*selected_) + 1;
+    if (window_ != nullptr)
+        NotifyWinEvent(event, window_, OBJID_CLIENT, child);
 }
 
 SIZE PaletteList::Size() const {
@@ -160,6 +184,9 @@ void PaletteList::Select(std::size_t tile) {
     else if (place.bottom + gap > top_ + seen)
         ScrollTo(place.bottom + gap - seen);
     InvalidateRect(window_, nullptr, FALSE);
+    TellReaders(EVENT_OBJECT_SELECTION);
+    if (GetFocus() == window_)
+        TellReaders(EVENT_OBJECT_FOCUS);
 }
 
 void PaletteList::MoveSelection(std::size_t tile) {
@@ -303,7 +330,10 @@ LRESULT PaletteList::Handle(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CAPTURECHANGED: pressed_.reset(); return 0;
     case WM_MOUSELEAVE: SetHover(std::nullopt); return 0;
     case WM_CONTEXTMENU: ShowMenu(point, lParam == -1); return 0;
-    case WM_SETFOCUS:
+    case WM_GETOBJECT:
+        return static_cast<LONG>(lParam) == OBJID_CLIENT ? accessible_->Answer(wParam)
+                                                         : DefWindowProcW(window_, message, wParam, lParam);
+    case WM_SETFOCUS: TellReaders(EVENT_OBJECT_FOCUS); [[fallthrough]];
     case WM_KILLFOCUS: InvalidateRect(window_, nullptr, FALSE); return 0;
     case WM_KEYDOWN: return OnKey(wParam) ? 0 : DefWindowProcW(window_, message, wParam, lParam);
     case WM_CHAR:

@@ -14,8 +14,10 @@ namespace {
 
 // Pixels of a screen of 100 %.
 constexpr int kBarHeight = 30;
-constexpr int kFieldPadding = 2; // above and below a field's text, together
+constexpr int kFieldHeight = 20;
 constexpr int kGap = 6;
+
+constexpr UINT kTake = WM_APP; // to a field: it has been left
 
 struct FieldForm {
     const wchar_t* label;
@@ -85,15 +87,13 @@ int PropertiesBar::Height(UINT dots) const {
 void PropertiesBar::MoveTo(const RECT& area, UINT dots) {
     MoveWindow(window_, area.left, area.top, area.right - area.left, area.bottom - area.top, TRUE);
     const HFONT before = std::exchange(font_, MakeMessageFont(dots));
-    // No higher than its text: a field of one line does not centre it.
-    const int height = LineHeightOf(font_) + 2 * GetSystemMetrics(SM_CYEDGE) + Scaled(kFieldPadding, dots);
-    const int top = (Height(dots) - height) / 2;
+    const int top = Scaled((kBarHeight - kFieldHeight) / 2, dots);
     int x = 0;
     for (std::size_t i = 0; i < Count; ++i) {
         for (const auto& [window, width] :
              {std::pair{labels_[i], kForms[i].labelWidth}, {fields_[i], kForms[i].width}}) {
             x += Scaled(kGap, dots);
-            MoveWindow(window, x, top, Scaled(width, dots), height, TRUE);
+            MoveWindow(window, x, top, Scaled(width, dots), Scaled(kFieldHeight, dots), TRUE);
             SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font_), TRUE);
             x += Scaled(width, dots);
         }
@@ -139,8 +139,13 @@ LRESULT CALLBACK PropertiesBar::OnFieldMessage(HWND field, UINT message, WPARAM 
         return 0;
     if (message == WM_CHAR && (wParam == VK_RETURN || wParam == VK_TAB || wParam == VK_ESCAPE))
         return 0; // they would only beep
+    // What was typed counts also when the mouse goes elsewhere; a message cannot be shown on the way there.
     if (message == WM_KILLFOCUS)
-        self.ShowField(static_cast<Field>(number), self.texts_[number]);
+        PostMessageW(field, kTake, 0, 0);
+    if (message == kTake) {
+        self.Take(static_cast<Field>(number));
+        return 0;
+    }
     return DefSubclassProc(field, message, wParam, lParam);
 }
 
@@ -157,7 +162,10 @@ bool PropertiesBar::OnKey(Field field, WPARAM key) {
         SendMessageW(next, EM_SETSEL, 0, -1);
         return true;
     }
-    case VK_ESCAPE: leave_(); return true;
+    case VK_ESCAPE:
+        ShowField(field, texts_[field]);
+        leave_();
+        return true;
     default: return false;
     }
 }
@@ -166,6 +174,7 @@ void PropertiesBar::Take(Field field) {
     const std::wstring text = WindowText(fields_[field]);
     if (text == texts_[field])
         return;
+    ShowField(field, texts_[field]); // until the plan says otherwise
     try {
         std::vector<PlacedSymbol> changed = symbols_;
         for (PlacedSymbol& symbol : changed) {

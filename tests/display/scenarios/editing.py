@@ -91,6 +91,15 @@ def run():
         editor.answer("\"Einhorn\" ist nicht im Katalog", "Return")
         editor.wait_for_window("zimmer.plan – Planhost")
 
+        # What is typed counts also when the mouse goes elsewhere, and Esc takes it back.
+        editor.key("F4")
+        editor.desktop.type("5000")
+        editor.key("Escape", "F4")
+        editor.desktop.type("3100")
+        now = saved(editor, lambda: editor.click_at(editor.pixel(7000, 6000)))
+        require_symbol(now[0], "Stuhl", (3100, 2000), 15.5)
+        editor.wait_for_count("5 Symbole")
+
         # To the back and aligned, by the context menu and by the menu.
         editor.key("ctrl+a")
         editor.wait_for_count("5 Symbole, 5 markiert")
