@@ -11,7 +11,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr bool kIsWindows = fs::path::preferred_separator == '\\';
 constexpr char16_t kSeparator = kIsWindows ? u'\\' : u'/';
 constexpr std::u16string_view kSeparators = kIsWindows ? u"\\/:" : u"/";
 

@@ -10,6 +10,9 @@
 /// Paths of the program: UTF-16 as in the library, with the system's separators.
 namespace cli {
 
+/// Whether paths are those of Windows.
+inline constexpr bool kIsWindows = std::filesystem::path::preferred_separator == '\\';
+
 /// The kinds of symbol file that can be written; import files can be read as well.
 bool IsReadable(std::u16string_view path);
 bool IsWritable(std::u16string_view path);

@@ -15,7 +15,6 @@ namespace {
 
 /// On Windows the names of devices (NUL, COM1, with any extension) lead there from every folder.
 bool LeadsToADevice(const std::u16string& path, base::FileSystem& files) {
-    constexpr bool kIsWindows = fs::path::preferred_separator == '\\';
     return kIsWindows && files.FullPath(path).starts_with(u"\\\\.\\");
 }
 

@@ -99,8 +99,8 @@ void PlacementIndex::Sort(std::vector<Proposal>& slots) {
     std::ranges::sort(slots, [](const Proposal& one, const Proposal& other) {
         return one.slot != other.slot ? one.slot < other.slot : one.isWithin > other.isWithin;
     });
-    const auto twice = std::ranges::unique(slots, {}, &Proposal::slot);
-    slots.erase(twice.begin(), twice.end());
+    const auto isTwice = [](const Proposal& one, const Proposal& other) { return one.slot == other.slot; };
+    slots.erase(std::unique(slots.begin(), slots.end(), isTwice), slots.end());
 }
 
 /// In time that goes with their number, and a little with that of all slots.
