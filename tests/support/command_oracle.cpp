@@ -213,7 +213,8 @@ std::string ConversionFault(const fs::path& in, const fs::path& out) {
     platform::PosixFileSystem files;
     const platform::Windows1252 codePage;
     const cli::System system{files, codePage, platform::GermanSettings(), stdout, stderr, false, ""};
-    const qsymbol::Symbol symbol = cli::ReadSymbol(in.u16string(), system.userSettings, system);
+    const qsymbol::Symbol symbol =
+        cli::ReadWholeSymbolFile(in.u16string(), system.userSettings, system).symbol;
     const bool refused = symbol.elements.empty() && outcome.errors.find(": error 9: ") != std::string::npos;
     const bool lost = out.extension() == ".syt" && LosesAsText(symbol);
     return outcome.status == 0 || refused || lost
