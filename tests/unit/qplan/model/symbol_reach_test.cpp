@@ -1,3 +1,4 @@
+#include "qmath/box.h"
 #include "qplan/model/symbol_reach.h"
 
 #include "qsymbol/draw/snapping.h"
@@ -55,14 +56,14 @@ TEST(SymbolReach, HoldsWhateverIsDrawn) {
         const qsymbol::Symbol symbol = Of(element);
         qsymbol::SvgSurface surface;
         DrawSymbol(symbol, {}, surface, support::ScaledTransformation(1), qsymbol::kUnscaled);
-        const qsymbol::Extent drawn = surface.Bounds();
+        const qmath::Box drawn = surface.Bounds();
         ASSERT_FALSE(drawn.IsEmpty()) << name;
         const qplan::SymbolReach reach = ReachOf(symbol);
         const double around = reach.pixels + 1; // rounding to whole pixels, here a unit each
-        EXPECT_LE(reach.drawn.left - around, drawn.Left()) << name;
-        EXPECT_LE(reach.drawn.top - around, drawn.Top()) << name;
-        EXPECT_GE(reach.drawn.right + around, drawn.Right()) << name;
-        EXPECT_GE(reach.drawn.bottom + around, drawn.Bottom()) << name;
+        EXPECT_LE(reach.drawn.left - around, drawn.left) << name;
+        EXPECT_LE(reach.drawn.top - around, drawn.top) << name;
+        EXPECT_GE(reach.drawn.right + around, drawn.right) << name;
+        EXPECT_GE(reach.drawn.bottom + around, drawn.bottom) << name;
         EXPECT_FALSE(reach.IsUnlimited()) << name;
     }
 }
