@@ -1,5 +1,6 @@
 #include "platform/posix/posix_file_system.h"
 
+#include "base/file_content.h"
 #include "base/whole_file.h"
 #include "support/caught.h"
 #include "support/temp_folder.h"

@@ -1,6 +1,6 @@
-#include "qmath/box.h"
 #include "qplan/model/symbol_reach.h"
 
+#include "qmath/box.h"
 #include "qsymbol/draw/snapping.h"
 #include "qsymbol/draw/symbol_drawing.h"
 #include "qsymbol/svg/svg_surface.h"
